@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "host/Program.h"
+
+#include "host/Display.h"
+#include "host/HostWindow.h"
+#include "host/SaverHost.h"
+#include "host/Snapshot.h"
+#include "host/TerminationSignals.h"
+#include "platform/Clocks.h"
+#include "platform/Desktop.h"
+#include "saver/TamselClockSaverView.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+namespace {
+
+constexpr char kProgramName[] = "tamsel-clock";
+
+/// Hosts read our stderr through a pipe and wake up for each line: what Qt has to tell about the
+/// desktop is not for them.
+void discardMessage(QtMsgType, const QMessageLogContext &, const QString &)
+{
+}
+
+/// Keeps Qt from starting helpers or registering with session services that a saver has no business
+/// with.
+void prepareEnvironment(const QByteArray &qtPlatform)
+{
+    qputenv("QT_QPA_PLATFORM", qtPlatform);
+    qunsetenv("SESSION_MANAGER");
+    // Without a bus the D-Bus library would launch a daemon of its own that stays behind for ever.
+    const bool hasRuntimeBus =
+        QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
+    if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") && !hasRuntimeBus)
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    qInstallMessageHandler(discardMessage);
+}
+
+class Application
+{
+public:
+    Application(int &argc, char **argv, const QByteArray &qtPlatform)
+        : m_application((prepareEnvironment(qtPlatform), argc), argv)
+    {
+        QApplication::setApplicationName(QLatin1StringView(kProgramName));
+        QApplication::setApplicationDisplayName(u"Tamsel Clock"_s);
+        QApplication::setApplicationVersion(QStringLiteral(TAMSEL_VERSION));
+        QGuiApplication::setDesktopFileName(u"org.tamsel.clock"_s);
+        m_desktop.clocks = &platform::systemClocks();
+        m_desktop.bundle = platform::Bundle::ofProgram();
+        m_desktop.preferencesFolder = platform::userPreferencesFolder();
+    }
+
+    platform::Desktop &desktop() { return m_desktop; }
+
+    /// Single layers may be missing, but a module without any artwork is not installed.
+    bool hasResources() const
+    {
+        return QFileInfo(m_desktop.bundle.resourcesPath() + "/orange"_L1).isDir();
+    }
+
+    std::unique_ptr<TamselClockSaverView> makeView(bool isPreview) const
+    {
+        return std::make_unique<TamselClockSaverView>(m_desktop, isPreview);
+    }
+
+    int exec() { return QApplication::exec(); }
+
+private:
+    QApplication m_application;
+    TerminationSignals m_signals;
+    platform::Desktop m_desktop;
+};
+
+int complainAndFail(const QString &text)
+{
+    complain(text);
+    return kCouldNotRun;
+}
+
+int failWithoutResources(Application &application)
+{
+    return complainAndFail(u"the clock's resources are missing: %1"_s.arg(
+        application.desktop().bundle.resourcesPath()));
+}
+
+int runSnapshot(const Options &options, Application &application)
+{
+    const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
+    application.desktop().clocks = &clocks;
+    const auto view = application.makeView(options.preview);
+    const QImage picture = pictureOfFrame(*view, options.size, options.scale);
+    if (picture.isNull())
+        return complainAndFail(u"not enough memory for the picture"_s);
+    const QString fault = writePicture(picture, options.pictureFile);
+    return fault.isNull()
+               ? kSuccess
+               : complainAndFail(u"cannot write %1: %2"_s.arg(options.pictureFile, fault));
+}
+
+int runHostWindow(const Options &options, Application &application, quint32 window)
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+    HostWindow hostWindow(application.makeView(options.preview), window);
+    if (!hostWindow.show())
+        return complainAndFail(u"there is no window 0x%1"_s.arg(window, 0, 16));
+    return application.exec();
+}
+
+int runWindow(const Options &options, Application &application)
+{
+    const auto view = application.makeView(false);
+    view->resize(options.size);
+    view->show();
+    view->startAnimation();
+    return application.exec();
+}
+
+int runFullScreen(Application &application)
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+    SaverHost host([&] { return application.makeView(false); }, *application.desktop().clocks);
+    host.start();
+    return application.exec();
+}
+
+int inHostWindow(const Options &options, int argc, char **argv)
+{
+    const std::optional<quint32> window = options.hostWindow ? options.hostWindow : xRootWindow();
+    if (!window || !xServerAnswers())
+        return complainAndFail(u"no X display can be reached"_s);
+    if (!xWindowExists(*window))
+        return complainAndFail(u"there is no window 0x%1"_s.arg(*window, 0, 16));
+    Application application(argc, argv, "xcb");
+    return application.hasResources() ? runHostWindow(options, application, *window)
+                                      : failWithoutResources(application);
+}
+
+int onDisplay(const Options &options, int argc, char **argv)
+{
+    const auto qtPlatform = reachablePlatform();
+    if (!qtPlatform)
+        return complainAndFail(
+            u"no display: neither a Wayland compositor nor an X server answers"_s);
+    Application application(argc, argv, *qtPlatform);
+    if (!application.hasResources())
+        return failWithoutResources(application);
+    return options.mode == Mode::Window ? runWindow(options, application)
+                                        : runFullScreen(application);
+}
+
+int asPicture(const Options &options, int argc, char **argv)
+{
+    Application application(argc, argv, "offscreen");
+    return application.hasResources() ? runSnapshot(options, application)
+                                      : failWithoutResources(application);
+}
+
+int print(const QString &text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    return kSuccess;
+}
+
+} // namespace
+
+void complain(const QString &text)
+{
+    std::fprintf(stderr, "%s: %s\n", kProgramName, text.toLocal8Bit().constData());
+}
+
+int run(const Options &options, int argc, char **argv)
+{
+    switch (options.mode) {
+    case Mode::Help: {
+        const QCoreApplication application(argc, argv);
+        return print(helpText());
+    }
+    case Mode::Version:
+        return print(
+            QStringLiteral("%1 " TAMSEL_VERSION "\n").arg(QLatin1StringView(kProgramName)));
+    case Mode::Snapshot:
+        return asPicture(options, argc, argv);
+    case Mode::HostWindow:
+        return inHostWindow(options, argc, argv);
+    case Mode::Window:
+    case Mode::FullScreen:
+        break;
+    }
+    return onDisplay(options, argc, argv);
+}
+
+} // namespace host

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "host/SaverHost.h"
+
+#include "platform/Clocks.h"
+#include "platform/ScreenSaverView.h"
+
+#include <QEnterEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QWindow>
+
+namespace host {
+
+namespace {
+
+/// The screens to cover. Of screens that show the same picture the first is enough.
+QList<QScreen *> distinctScreens()
+{
+    QList<QScreen *> distinct;
+    const QList<QScreen *> all = QGuiApplication::screens();
+    for (QScreen *screen : all) {
+        const auto showsSame = [&](const QScreen *other) {
+            return other->geometry() == screen->geometry();
+        };
+        if (!screen->geometry().isEmpty() &&
+            std::none_of(distinct.begin(), distinct.end(), showsSame))
+            distinct.append(screen);
+    }
+    return distinct;
+}
+
+} // namespace
+
+SaverHost::SaverHost(MakeView makeView, const platform::Clocks &clocks)
+    : m_makeView(std::move(makeView)), m_clocks(clocks)
+{
+}
+
+SaverHost::~SaverHost() = default;
+
+void SaverHost::start()
+{
+    qGuiApp->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &SaverHost::addScreen);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](QScreen *screen) {
+        m_views.erase(screen);
+        syncViews();
+    });
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (QScreen *screen : screens)
+        connect(screen, &QScreen::geometryChanged, this, &SaverHost::syncViews);
+    syncViews();
+}
+
+void SaverHost::addScreen(QScreen *screen)
+{
+    connect(screen, &QScreen::geometryChanged, this, &SaverHost::syncViews);
+    syncViews();
+}
+
+void SaverHost::syncViews()
+{
+    const QList<QScreen *> screens = distinctScreens();
+    std::erase_if(m_views, [&](const auto &entry) { return !screens.contains(entry.first); });
+    for (QScreen *screen : screens)
+        cover(screen);
+}
+
+void SaverHost::cover(QScreen *screen)
+{
+    auto &view = m_views[screen];
+    if (view) {
+        view->setGeometry(screen->geometry());
+        return;
+    }
+    view = m_makeView();
+    view->setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    view->setWindowTitle(QGuiApplication::applicationDisplayName());
+    view->setCursor(Qt::BlankCursor);
+    view->setMouseTracking(true);
+    view->setScreen(screen);
+    view->setGeometry(screen->geometry());
+    view->showFullScreen();
+    view->activateWindow();
+    view->startAnimation();
+}
+
+bool SaverHost::eventFilter(QObject *watched, QEvent *event)
+{
+    if (isUserComingBack(event)) {
+        QCoreApplication::exit(0);
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool SaverHost::isUserComingBack(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        // A repeat belongs to the key that started the program.
+        return !static_cast<QKeyEvent *>(event)->isAutoRepeat();
+    case QEvent::MouseButtonPress:
+    case QEvent::Wheel:
+    case QEvent::TouchBegin:
+    case QEvent::TabletPress:
+        return true;
+    case QEvent::Enter:
+    case QEvent::MouseMove:
+        return m_pointer.movedOnPurpose(static_cast<QSinglePointEvent *>(event)->globalPosition(),
+                                        m_clocks.monotonicSeconds());
+    default:
+        return false;
+    }
+}
+
+} // namespace host

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/PointerGuard.h"
+
+#include <QObject>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+class QScreen;
+
+namespace platform {
+class Clocks;
+class ScreenSaverView;
+} // namespace platform
+
+namespace host {
+
+/// The full-screen saver: one view on every screen, following screens that come, go or change,
+/// until the user comes back.
+class SaverHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    using MakeView = std::function<std::unique_ptr<platform::ScreenSaverView>()>;
+
+    /// \p clocks must outlive the host.
+    SaverHost(MakeView makeView, const platform::Clocks &clocks);
+    ~SaverHost() override;
+
+    /// Covers the screens. The program ends with status 0 when the user comes back.
+    void start();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void addScreen(QScreen *screen);
+    void syncViews();
+    void cover(QScreen *screen);
+    bool isUserComingBack(QEvent *event);
+
+    MakeView m_makeView;
+    const platform::Clocks &m_clocks;
+    std::map<QScreen *, std::unique_ptr<platform::ScreenSaverView>> m_views;
+    PointerGuard m_pointer;
+};
+
+} // namespace host

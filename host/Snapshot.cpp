@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "host/Snapshot.h"
+
+#include "platform/ScreenSaverView.h"
+
+#include <QImageWriter>
+#include <QPainter>
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+QImage pictureOfFrame(platform::ScreenSaverView &view, const QSize &size, double scale)
+{
+    view.resize(size);
+    QImage picture((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+    if (picture.isNull())
+        return picture;
+    picture.setDevicePixelRatio(scale);
+    QPainter painter(&picture);
+    view.drawRect(painter, view.rect());
+    return picture;
+}
+
+QString writePicture(const QImage &picture, const QString &file)
+{
+    QSaveFile target(file);
+    if (!target.open(QIODevice::WriteOnly))
+        return target.errorString();
+    QImage plain = picture;
+    plain.setDevicePixelRatio(1.0);
+    QImageWriter writer(&target, "png"_ba);
+    if (!writer.write(plain))
+        return writer.errorString();
+    return target.commit() ? QString() : target.errorString();
+}
+
+} // namespace host

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSocketNotifier>
+
+#include <memory>
+
+namespace host {
+
+/// While it lives, SIGTERM, SIGINT and SIGHUP end the event loop with status 0 at once. One per
+/// process.
+class TerminationSignals
+{
+public:
+    TerminationSignals();
+    ~TerminationSignals();
+    TerminationSignals(const TerminationSignals &) = delete;
+    TerminationSignals &operator=(const TerminationSignals &) = delete;
+
+private:
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace host

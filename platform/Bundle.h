@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+/// The folder of real files that makes up the saver module: artwork, symbols, fonts, scripts and
+/// the companion program. A plain value; looking something up asks the file system each time.
+class Bundle
+{
+public:
+    /// A bundle at \p path, the folder that holds "Contents". The folder need not exist.
+    explicit Bundle(QString path);
+
+    /// The module's bundle, found relative to the running program: the build tree and an
+    /// installation have the same shape.
+    static Bundle ofProgram();
+
+    QString path() const { return m_path; }
+    QString resourcesPath() const;
+
+    /// Full path of the resource \p name.\p extension in \p subdirectory of the resources, or a
+    /// null string when there is no such file.
+    QString pathForResource(const QString &name, const QString &extension,
+                            const QString &subdirectory = {}) const;
+
+    /// Full path of the executable \p name in the bundle's helpers, whether or not it exists.
+    QString helperPath(const QString &name) const;
+
+private:
+    QString m_path;
+};
+
+} // namespace platform

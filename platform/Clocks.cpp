@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Clocks.h"
+
+#include <chrono>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+class SystemClocks final : public Clocks
+{
+public:
+    QDateTime now() const override { return QDateTime::currentDateTime(); }
+    double monotonicSeconds() const override
+    {
+        const auto sinceBoot = std::chrono::steady_clock::now().time_since_epoch();
+        return std::chrono::duration<double>(sinceBoot).count();
+    }
+};
+
+} // namespace
+
+const Clocks &systemClocks()
+{
+    static const SystemClocks clocks;
+    return clocks;
+}
+
+FixedClocks::FixedClocks(QDateTime now, double monotonicSeconds)
+    : m_now(std::move(now)), m_monotonicSeconds(monotonicSeconds)
+{
+}
+
+void FixedClocks::advance(double seconds)
+{
+    m_now = m_now.addMSecs(std::llround(seconds * 1000.0));
+    m_monotonicSeconds += seconds;
+}
+
+} // namespace platform

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/FramePacer.h"
+
+#include <QTimer>
+#include <QWidget>
+
+namespace platform {
+
+class Clocks;
+
+/// The base class of a screen saver's picture on one screen. Origin top-left, y downwards, lengths
+/// in points (device-independent pixels). The host makes it, gives it its size, starts it and shows
+/// it.
+class ScreenSaverView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// \p clocks must outlive the view. \p isPreview marks the small picture in a settings window.
+    ScreenSaverView(const Clocks &clocks, bool isPreview, QWidget *parent = nullptr);
+
+    bool isPreview() const { return m_isPreview; }
+    const Clocks &clocks() const { return m_clocks; }
+
+    /// Seconds between two frames.
+    double animationTimeInterval() const { return m_interval; }
+    void setAnimationTimeInterval(double seconds);
+    bool isAnimating() const { return m_timer.isActive(); }
+
+    /// Begins calling animateOneFrame once per interval, keeping the cadence over any length of
+    /// time.
+    virtual void startAnimation();
+    virtual void stopAnimation();
+    /// One tick of the frame loop: update state and mark for display; drawing follows by itself.
+    virtual void animateOneFrame() {}
+
+    /// Draws the view. \p dirtyRect is what must be drawn; more may be drawn.
+    virtual void drawRect(QPainter &painter, const QRectF &dirtyRect);
+
+    virtual bool hasConfigureSheet() const { return false; }
+    /// The options sheet, owned by the view; null when there is none.
+    virtual QWidget *configureSheet() { return nullptr; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void tick();
+
+    const Clocks &m_clocks;
+    const bool m_isPreview;
+    double m_interval = 1.0 / 30.0;
+    FramePacer m_pacer;
+    QTimer m_timer;
+};
+
+} // namespace platform

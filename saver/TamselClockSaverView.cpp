@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "saver/TamselClockSaverView.h"
+
+#include "calendar/TamselCalendarLayout.h"
+#include "platform/Clocks.h"
+
+#include <QPainter>
+
+namespace {
+constexpr double kFrameInterval = 1.0 / 30.0;
+} // namespace
+
+TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,
+                                           QWidget *parent)
+    : ScreenSaverView(*desktop.clocks, isPreview, parent), m_desktop(desktop)
+{
+    setAnimationTimeInterval(kFrameInterval);
+    loadSelectedVariant();
+}
+
+TamselClockSaverView::~TamselClockSaverView() = default;
+
+void TamselClockSaverView::startAnimation()
+{
+    ScreenSaverView::startAnimation();
+    loadSelectedVariant();
+    update();
+}
+
+void TamselClockSaverView::animateOneFrame()
+{
+    reloadVariantIfNeeded();
+    update();
+}
+
+ClockFrame TamselClockSaverView::nextFrame()
+{
+    ClockFrame frame;
+    frame.bounds = QRectF(rect());
+    frame.background = displayedBackgroundColor();
+    frame.mark = displayedMarkColor();
+    frame.clockRect = clockRect();
+    frame.tinted = paletteTransitionProgress() < 1.0;
+    if (!frame.tinted)
+        m_transition = {};
+    frame.artwork = m_palette.artwork;
+    const QDateTime now = clocks().now();
+    frame.angles = TamselClockAnglesForDate(now);
+    if (m_settings.calendarEnabled)
+        frame.calendar = {calendarRect(), now.date(), calendarIsPortrait(frame.bounds.size())};
+    return frame;
+}
+
+void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &dirtyRect)
+{
+    ScreenSaverView::drawRect(painter, dirtyRect);
+    drawFrame(painter, nextFrame(), m_transition.layer);
+}
+
+void TamselClockSaverView::screenSaverPreferencesMayHaveChanged()
+{
+    reloadVariantIfNeeded();
+}
+
+void TamselClockSaverView::resizeEvent(QResizeEvent *event)
+{
+    ScreenSaverView::resizeEvent(event);
+    update();
+}
