@@ -1,0 +1,1 @@
+tamsel_test(platform/test_FramePacer.cpp LIBS tamsel_platform)
