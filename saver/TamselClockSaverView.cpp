@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "saver/TamselClockSaverView.h"
 
+#include "calendar/TamselCalendarFont.h"
 #include "calendar/TamselCalendarLayout.h"
 #include "platform/Clocks.h"
 
@@ -14,6 +15,7 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
                                            QWidget *parent)
     : ScreenSaverView(*desktop.clocks, isPreview, parent), m_desktop(desktop)
 {
+    TamselRegisterCalendarFonts(m_desktop.bundle);
     setAnimationTimeInterval(kFrameInterval);
     loadSelectedVariant();
 }
@@ -47,14 +49,15 @@ ClockFrame TamselClockSaverView::nextFrame()
     const QDateTime now = clocks().now();
     frame.angles = TamselClockAnglesForDate(now);
     if (m_settings.calendarEnabled)
-        frame.calendar = {calendarRect(), now.date(), calendarIsPortrait(frame.bounds.size())};
+        frame.calendar = {calendarRect(), now.date(), calendarIsPortrait(frame.bounds.size()),
+                          QLocale::system()};
     return frame;
 }
 
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &dirtyRect)
 {
     ScreenSaverView::drawRect(painter, dirtyRect);
-    drawFrame(painter, nextFrame(), m_transition.layer);
+    drawFrame(painter, nextFrame(), m_scratch);
 }
 
 void TamselClockSaverView::screenSaverPreferencesMayHaveChanged()
