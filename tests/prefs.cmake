@@ -1,0 +1,1 @@
+tamsel_test(prefs/test_HexColor.cpp LIBS tamsel_clock_core)
