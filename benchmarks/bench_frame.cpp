@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a full frame costs beside a plain fill of the same surface, and what loading the artwork costs.
+// What a full frame costs beside a plain fill of the same surface, and what loading the artwork
+// costs.
 #include "platform/Bundle.h"
 #include "saver/ClockFrame.h"
 

@@ -26,7 +26,7 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
                 &TamselClockSaverView::screenSaverPreferencesMayHaveChanged);
     }
     if (desktop.notifications) {
-        desktop.notifications->observe(kVariantChangedNotification.toString(), this,
+        desktop.notifications->observe(kVariantChangedNotification, this,
                                        [this] { screenSaverPreferencesMayHaveChanged(); });
     }
     loadSelectedVariant();

@@ -74,6 +74,10 @@ public:
     /// The background of each variant with artwork of its own.
     static const QHash<QString, QColor> &backgroundColors();
 
+    /// The custom variant's colours where none are stored.
+    static QColor defaultCustomBaseColor();
+    static QColor defaultCustomMarkColor();
+
     /// Resolves the stored settings into the loaded palette; does nothing when that palette is
     /// already loaded.
     void loadSelectedVariant();
@@ -109,9 +113,9 @@ public:
     /// Stores the switch, applies it to this view and tells every view.
     void storeCalendarEnabled(bool enabled);
     /// The colour stored under \p key (CustomBaseColor or CustomMarkColor), or \p fallback.
-    QColor colorForKey(QStringView key, const QColor &fallback);
+    QColor colorForKey(const QString &key, const QColor &fallback);
     /// Stores \p color as hex text under \p key; nobody is told.
-    void storeColor(const QColor &color, QStringView key);
+    void storeColor(const QColor &color, const QString &key);
     /// Reads every setting and the night state afresh and applies what changed.
     void reloadVariantIfNeeded();
 
