@@ -31,15 +31,6 @@ QRectF coveredRect(const CalendarPage &page, const QRectF &rect)
 
 } // namespace
 
-bool CalendarPicture::Look::operator==(const Look &other) const
-{
-    // Not QRectF's own comparison, which forgives small differences.
-    const QRectF &a = deviceRect;
-    const QRectF &b = other.deviceRect;
-    return background == other.background && mark == other.mark && a.x() == b.x() &&
-           a.y() == b.y() && a.width() == b.width();
-}
-
 void CalendarPicture::draw(QPainter &painter, const QColor &background, const QColor &mark,
                            const CalendarMonth &month, const QRectF &rect)
 {
@@ -49,9 +40,9 @@ void CalendarPicture::draw(QPainter &painter, const QColor &background, const QC
     }
     const QTransform toDevice = painter.deviceTransform();
     const QRectF target = toDevice.mapRect(rect);
-    const Look look{
-        background, mark, {snapped(target.x()), snapped(target.y()), snapped(target.width()), 0.0}};
-    if (rect.width() <= 0.0 || look.deviceRect.width() <= 0.0)
+    const Look look{background, mark, snapped(target.x()), snapped(target.y()),
+                    snapped(target.width())};
+    if (rect.width() <= 0.0 || look.width <= 0.0)
         return;
     if (m_look != look)
         fill(look);
@@ -61,7 +52,8 @@ void CalendarPicture::draw(QPainter &painter, const QColor &background, const QC
 void CalendarPicture::fill(const Look &look)
 {
     m_look = look;
-    m_area = coveredRect(*m_page, look.deviceRect).toAlignedRect();
+    const QRectF rect(look.x, look.y, look.width, 0.0);
+    m_area = coveredRect(*m_page, rect).toAlignedRect();
     if (m_pixels.size() != m_area.size())
         m_pixels = QImage(m_area.size(), QImage::Format_ARGB32_Premultiplied);
     m_pixels.fill(Qt::transparent);
@@ -70,5 +62,5 @@ void CalendarPicture::fill(const Look &look)
     // today and its number are opaque.
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.translate(-m_area.topLeft());
-    TamselDrawCalendar(painter, look.background, look.mark, *m_page, look.deviceRect);
+    TamselDrawCalendar(painter, look.background, look.mark, *m_page, rect);
 }

@@ -28,9 +28,12 @@ private:
     {
         QColor background;
         QColor mark;
-        QRectF deviceRect;
+        // On the device; the height follows.
+        double x;
+        double y;
+        double width;
 
-        bool operator==(const Look &other) const;
+        bool operator==(const Look &) const = default;
     };
 
     void fill(const Look &look);

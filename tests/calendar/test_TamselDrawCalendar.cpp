@@ -27,10 +27,11 @@ const QLocale kEnglish(QLocale::English, QLocale::UnitedStates);
 /// The numbers that the drawing is measured against, in design units.
 struct DesignNumbers
 {
-    double width, cell, gap, daySize, titleMiddle, weekdayMiddle, firstDayMiddle, pitch, today;
+    double width, cell, gap, daySize, titleSize, titleMiddle, weekdayMiddle, firstDayMiddle, pitch,
+        today;
 };
-constexpr DesignNumbers kLandscape{500, 68, 4, 32, 26, 98.5, 165.5, 67, 56};
-constexpr DesignNumbers kPortrait{244, 28, 8, 15, 11, 44, 71, 30, 25};
+constexpr DesignNumbers kLandscape{500, 68, 4, 32, 34, 26, 98.5, 165.5, 67, 56};
+constexpr DesignNumbers kPortrait{244, 28, 8, 15, 16, 11, 44, 71, 30, 25};
 
 const DesignNumbers &designNumbers(bool portrait)
 {
@@ -108,27 +109,6 @@ int largestDifference(const QImage &a, const QImage &b)
     return largest;
 }
 
-/// The mean place of the ink of a month drawn into \p rect, weighted by its coverage.
-QPointF inkCentroid(const QRectF &rect)
-{
-    QImage picture(300, 300, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    TamselDrawCalendar(painter, Qt::black, Qt::black,
-                       calendarPage({QDate(2026, 3, 5), false, kEnglish}), rect);
-    painter.end();
-    QPointF sum;
-    double weight = 0.0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const double ink = qAlpha(picture.pixel(x, y));
-            sum += QPointF(x, y) * ink;
-            weight += ink;
-        }
-    }
-    return sum / weight;
-}
-
 } // namespace
 
 class TestTamselDrawCalendar : public QObject
@@ -147,7 +127,7 @@ private Q_SLOTS:
         QTest::addColumn<QDate>("date");
         QTest::addColumn<bool>("portrait");
         QTest::addColumn<int>("lead");
-        const std::pair<QDate, int> months[] = {
+        const QList<std::pair<QDate, int>> months{
             {QDate(2021, 2, 1), 0}, {QDate(2026, 7, 31), 2}, {QDate(2023, 1, 9), 6}};
         for (const auto &[date, lead] : months) {
             for (const bool portrait : {false, true}) {
@@ -170,19 +150,18 @@ private Q_SLOTS:
         const auto rowMiddle = [&design](int row) {
             return design.firstDayMiddle + row * design.pitch;
         };
-        // A glyph's ink is not quite in the middle of its advance, nor a line's in its height.
+        // A glyph's ink is not quite in the middle of its advance; round ones overshoot a little.
         const double bearing = 0.08 * design.daySize;
+        const double overshoot = 0.01 * design.daySize;
 
         QCOMPARE(month.weekdays.size(), 7);
         for (int column = 0; column < 7; ++column) {
             const RecordedFill &label = month.weekdays.at(column);
             QCOMPARE(label.color, faded(kMark, 0.25));
             QVERIFY(qAbs(label.bounds().center().x() - columnMiddle(column)) < bearing);
-            QVERIFY(qAbs(label.bounds().center().y() - design.weekdayMiddle) < bearing);
+            QVERIFY(qAbs(label.bounds().center().y() - design.weekdayMiddle) < overshoot);
         }
         QCOMPARE(month.title.color, faded(kMark, 0.75));
-        QVERIFY(qAbs(month.title.bounds().top() + 0.364 * design.daySize - design.titleMiddle) <
-                2 * bearing);
 
         QCOMPARE(month.days.size(), date.daysInMonth());
         for (int day = 1; day <= date.daysInMonth(); ++day) {
@@ -191,7 +170,7 @@ private Q_SLOTS:
             const RecordedFill &number = month.days.at(day - 1);
             QCOMPARE(number.color, day == date.day() ? kBackground : faded(kMark, 0.75));
             QVERIFY(qAbs(number.bounds().center().x() - middle.x()) < bearing);
-            QVERIFY(qAbs(number.bounds().center().y() - middle.y()) < 0.01 * design.daySize);
+            QVERIFY(qAbs(number.bounds().center().y() - middle.y()) < overshoot);
         }
 
         QCOMPARE(month.squares.size(), 1);
@@ -208,11 +187,15 @@ private Q_SLOTS:
     void titleStandsFlushWithTheDigits()
     {
         // August 2026 has its 24 in the first column, as wide as the 28 that sets the inset.
+        // Inter's capitals stand in the middle of its lines, and no letter of "August" is higher.
+        constexpr double halfCapHeight = 0.3636;
         for (const bool portrait : {false, true}) {
+            const DesignNumbers &design = designNumbers(portrait);
             const RecordedMonth month(QDate(2026, 8, 1), portrait);
-            const double bearing = 0.06 * designNumbers(portrait).daySize;
-            QVERIFY(qAbs(month.title.bounds().left() - month.days.at(23).bounds().left()) <
-                    bearing);
+            const QRectF title = month.title.bounds();
+            const double capitalTop = design.titleMiddle - halfCapHeight * design.titleSize;
+            QVERIFY(qAbs(title.top() - capitalTop) < 0.01 * design.titleSize);
+            QVERIFY(qAbs(title.left() - month.days.at(23).bounds().left()) < 0.06 * design.daySize);
         }
     }
 
@@ -256,17 +239,9 @@ private Q_SLOTS:
         QCOMPARE(at(-25), kMark);
         QCOMPARE(at(25), kMark);
         int shown = 0;
-        for (double dx = -20; dx < 20; dx += 0.25)
-            shown += at(dx) == kBackground;
+        for (int step = -80; step < 80; ++step)
+            shown += at(step * 0.25) == kBackground;
         QVERIFY(shown > 8);
-    }
-
-    void movesByFractionsOfAPixel()
-    {
-        const QPointF before = inkCentroid({20, 20, 240, 260});
-        const QPointF moved = inkCentroid({20.25, 20.125, 240, 260}) - before;
-        QVERIFY(qAbs(moved.x() - 0.25) < 0.01);
-        QVERIFY(qAbs(moved.y() - 0.125) < 0.01);
     }
 
     void pixelsAreThoseOfTheOutlines_data()
@@ -340,18 +315,14 @@ private Q_SLOTS:
             QPainter painter(&picture);
             TamselDrawCenteredString(painter, text, Qt::white, alignment, QRectF(50, 0, 80, 60));
             painter.end();
-            int left = 200;
-            int right = 0;
-            for (int x = 0; x < 200; ++x) {
-                for (int y = 0; y < 60; ++y) {
-                    if (qGray(picture.pixel(x, y)) > 0) {
-                        left = qMin(left, x);
-                        right = qMax(right, x);
-                    }
-                }
-            }
-            QVERIFY(left >= 50 && left < 56);
-            QVERIFY(right > 120 && right < 130);
+            const auto isBlank = [&picture](int left, int right) {
+                const QImage part = picture.copy(left, 0, right - left, 60);
+                QImage blank(part.size(), part.format());
+                blank.fill(0);
+                return part == blank;
+            };
+            QVERIFY(isBlank(0, 50) && !isBlank(50, 56));
+            QVERIFY(!isBlank(120, 130) && isBlank(130, 200));
         }
     }
 
