@@ -139,7 +139,7 @@ public:
     const LoadedPalette &loadedPalette() const { return m_palette; }
     const AppliedSettings &appliedSettings() const { return m_settings; }
 
-public Q_SLOTS:
+    /// Somebody changed a setting, or the session came back: checks at once.
     void screenSaverPreferencesMayHaveChanged();
 
 protected:
@@ -149,7 +149,7 @@ private:
     void loadNightPalette();
     void loadDayPalette();
     void reloadPalette(bool nightFlip);
-    void postVariantChanged(const QVariantMap &userInfo);
+    void postVariantChanged(const QVariantMap &userInfo) const;
 
     platform::Desktop m_desktop;
     SettingsReader m_stored;
