@@ -19,6 +19,8 @@ struct CalendarFrame
     QDate date;
     bool portrait = false;
     QLocale locale;
+
+    bool operator==(const CalendarFrame &) const = default;
 };
 
 /// One frame as a value: all that its drawing needs. The same value always gives the same pixels.
