@@ -6,6 +6,7 @@
 #include "prefs/StoredSettings.h"
 #include "saver/Artwork.h"
 #include "saver/ClockFrame.h"
+#include "saver/FramePainter.h"
 
 #include <QColor>
 #include <QHash>
@@ -143,6 +144,7 @@ public:
     void screenSaverPreferencesMayHaveChanged();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -157,4 +159,7 @@ private:
     AppliedSettings m_settings;
     PaletteTransition m_transition;
     FrameScratch m_scratch;
+    /// The frame on screen.
+    ClockFrame m_shown;
+    FramePainter m_painter;
 };
