@@ -81,8 +81,17 @@ void Popover::present()
     const QRect unbounded(anchor.center() - QPoint(width(), height()) * 2, size() * 4);
     move(popoverPosition(anchor, size(), platform::placementBounds(view).value_or(unbounded)));
     show();
-    if (QWidget *first = nextInFocusChain(); first && isAncestorOf(first))
-        first->setFocus(FocusRing::isShownAround(view) ? Qt::TabFocusReason : Qt::PopupFocusReason);
+    focusFirst(FocusRing::isShownAround(view) ? Qt::TabFocusReason : Qt::PopupFocusReason);
+}
+
+void Popover::focusFirst(Qt::FocusReason reason)
+{
+    for (QWidget *next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+        if ((next->focusPolicy() & Qt::TabFocus) != 0) {
+            next->setFocus(reason);
+            return;
+        }
+    }
 }
 
 bool Popover::eventFilter(QObject *watched, QEvent *event)

@@ -37,6 +37,7 @@ protected:
 
 private:
     void closeUnlessFocused();
+    void focusFirst(Qt::FocusReason reason);
     void reportOnce();
 
     QPointer<QWidget> m_anchor;

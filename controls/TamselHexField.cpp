@@ -15,7 +15,7 @@ constexpr double kRadius = 6.0;
 constexpr double kFontSize = 13.0;
 /// What the toolkit's editor keeps free on each side inside its margins, and for the caret.
 constexpr double kEditorPadding = 2.0;
-constexpr double kCaretSpace = 1.0;
+constexpr double kCaretSpace = 2.0;
 constexpr double kSelectionAlpha = 0.35;
 
 } // namespace

@@ -15,7 +15,7 @@ namespace {
 constexpr double kFontSize = 13.0;
 /// What the toolkit's editor keeps free around its text, and the caret.
 constexpr double kEditorPadding = 6.0;
-constexpr int kCaretSpace = 1;
+constexpr int kCaretSpace = 2;
 /// Below the text, so that its line comes to the middle of a time input, which puts the picker a
 /// little below it.
 constexpr double kSpaceBelow = 5.0;

@@ -4,3 +4,7 @@ set_target_properties(gallery PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY
 tamsel_compile_options(gallery)
 target_link_libraries(gallery PRIVATE tamsel_controls)
 add_dependencies(gallery tamsel_bundle)
+
+tamsel_test(controls/test_ControlPixels.cpp LIBS tamsel_controls)
+tamsel_test(controls/test_ControlInput.cpp LIBS tamsel_controls)
+tamsel_test(controls/test_TamselColorPopover.cpp LIBS tamsel_controls)
