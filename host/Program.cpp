@@ -8,6 +8,8 @@
 #include "host/TerminationSignals.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
+#include "platform/DistributedNotifications.h"
+#include "platform/LoginSession.h"
 #include "saver/TamselClockSaverView.h"
 
 #include <QApplication>
@@ -56,9 +58,11 @@ public:
         m_desktop.clocks = &platform::systemClocks();
         m_desktop.bundle = platform::Bundle::ofProgram();
         m_desktop.preferencesFolder = platform::userPreferencesFolder();
+        m_desktop.notifications = &m_notifications;
+        m_desktop.session = &m_session;
     }
 
-    platform::Desktop &desktop() { return m_desktop; }
+    const platform::Desktop &desktop() const { return m_desktop; }
 
     /// Single layers may be missing, but a module without any artwork is not installed.
     bool hasResources() const
@@ -71,11 +75,22 @@ public:
         return std::make_unique<TamselClockSaverView>(m_desktop, isPreview);
     }
 
+    /// A view that stands at the moment of \p clocks, which must outlive it.
+    std::unique_ptr<TamselClockSaverView> makeViewAt(const platform::Clocks &clocks,
+                                                     bool isPreview) const
+    {
+        platform::Desktop desktop = m_desktop;
+        desktop.clocks = &clocks;
+        return std::make_unique<TamselClockSaverView>(desktop, isPreview);
+    }
+
     int exec() { return QApplication::exec(); }
 
 private:
     QApplication m_application;
     TerminationSignals m_signals;
+    platform::DistributedNotifications m_notifications;
+    platform::LoginSession m_session;
     platform::Desktop m_desktop;
 };
 
@@ -85,17 +100,16 @@ int complainAndFail(const QString &text)
     return kCouldNotRun;
 }
 
-int failWithoutResources(Application &application)
+int failWithoutResources(const Application &application)
 {
     return complainAndFail(u"the clock's resources are missing: %1"_s.arg(
         application.desktop().bundle.resourcesPath()));
 }
 
-int runSnapshot(const Options &options, Application &application)
+int runSnapshot(const Options &options, const Application &application)
 {
     const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
-    application.desktop().clocks = &clocks;
-    const auto view = application.makeView(options.preview);
+    const auto view = application.makeViewAt(clocks, options.preview);
     const QImage picture = pictureOfFrame(*view, options.size, options.scale);
     if (picture.isNull())
         return complainAndFail(u"not enough memory for the picture"_s);
@@ -117,6 +131,7 @@ int runHostWindow(const Options &options, Application &application, quint32 wind
 int runWindow(const Options &options, Application &application)
 {
     const auto view = application.makeView(false);
+    view->setWindowTitle(QGuiApplication::applicationDisplayName());
     view->resize(options.size);
     view->show();
     view->startAnimation();

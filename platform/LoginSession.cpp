@@ -71,6 +71,7 @@ LoginSession::~LoginSession() = default;
 
 void LoginSession::findSession()
 {
+    m_following.reset();
     m_isAsking = false;
     auto call =
         QDBusMessage::createMethodCall(kService, kManagerPath, kManager, u"GetSessionByPID"_s);

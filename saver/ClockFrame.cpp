@@ -40,11 +40,17 @@ void drawTintedClock(QPainter &painter, const ClockFrame &frame, QImage &layer)
 
 } // namespace
 
-void drawFrame(QPainter &painter, const ClockFrame &frame, QImage &layer)
+void drawFrame(QPainter &painter, const ClockFrame &frame, FrameScratch &scratch)
 {
     painter.fillRect(frame.bounds, frame.background);
-    if (frame.tinted)
-        drawTintedClock(painter, frame, layer);
-    else
+    if (frame.tinted) {
+        drawTintedClock(painter, frame, scratch.layer);
+    } else {
+        scratch.layer = {};
         drawClock(painter, frame);
+    }
+    if (frame.calendar) {
+        scratch.calendar.draw(painter, frame.background, frame.mark, frame.calendar->month,
+                              frame.calendar->rect);
+    }
 }

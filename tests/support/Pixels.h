@@ -3,65 +3,103 @@
 
 #include <QColor>
 #include <QImage>
-#include <QRectF>
-#include <QWidget>
 
-#include <algorithm>
 #include <cmath>
+#include <numbers>
+#include <vector>
 
-/// What \p view draws, on nothing, at \p scale pixels per point.
-inline QImage picture(QWidget *view, double scale)
+/// Measures on finished pictures, independent of the code that drew them.
+namespace pixels {
+
+/// How far \p pixel went from \p background towards \p ink, 0 to 1, judged by the channel with the
+/// largest span.
+inline double coverage(QRgb pixel, QRgb background, QRgb ink)
 {
-    QImage image((QSizeF(view->size()) * scale).toSize(), QImage::Format_ARGB32);
-    image.setDevicePixelRatio(scale);
-    image.fill(Qt::transparent);
-    view->render(&image, {}, {}, QWidget::DrawChildren);
-    return image;
+    const auto channel = [](QRgb c, int i) { return int((c >> (8 * i)) & 0xff); };
+    int widest = 0;
+    for (int i = 1; i < 3; ++i) {
+        if (std::abs(channel(ink, i) - channel(background, i)) >
+            std::abs(channel(ink, widest) - channel(background, widest)))
+            widest = i;
+    }
+    const double span = channel(ink, widest) - channel(background, widest);
+    return (channel(pixel, widest) - channel(background, widest)) / span;
 }
 
-/// The pixel that covers (\p x, \p y), in points.
-inline QColor pixelAt(const QImage &image, double x, double y)
+/// A run of ink along a circle.
+struct Arc
 {
-    const double scale = image.devicePixelRatio();
-    return image.pixelColor(static_cast<int>(std::floor(x * scale)),
-                            static_cast<int>(std::floor(y * scale)));
+    double centre = 0.0; ///< degrees clockwise from 12 o'clock
+    double width = 0.0;  ///< degrees
+};
+
+/// The runs of anything but \p background on the circle of \p radius pixels about the picture's
+/// centre.
+inline std::vector<Arc> arcsOnCircle(const QImage &picture, double radius, QRgb background)
+{
+    constexpr int kSamples = 7200;
+    const auto isInk = [&](int sample) {
+        const double angle = 2.0 * std::numbers::pi * sample / kSamples;
+        const int x = int(std::floor(picture.width() / 2.0 + radius * std::sin(angle)));
+        const int y = int(std::floor(picture.height() / 2.0 - radius * std::cos(angle)));
+        const QRgb pixel = picture.pixel(x, y);
+        const int difference = std::abs(qRed(pixel) - qRed(background)) +
+                               std::abs(qGreen(pixel) - qGreen(background)) +
+                               std::abs(qBlue(pixel) - qBlue(background));
+        return difference > 120;
+    };
+    int start = 0;
+    while (start < kSamples && isInk(start))
+        ++start;
+    std::vector<Arc> arcs;
+    for (int i = 0; i < kSamples;) {
+        if (!isInk(start + i)) {
+            ++i;
+            continue;
+        }
+        int end = i;
+        while (isInk(start + end))
+            ++end;
+        const double step = 360.0 / kSamples;
+        arcs.push_back({std::fmod((start + (i + end - 1) / 2.0) * step, 360.0), (end - i) * step});
+        i = end;
+    }
+    return arcs;
 }
 
-/// \p over composed onto \p below, both with alpha.
-inline QColor composed(const QColor &below, const QColor &over)
+/// The direction in which the ink of \p picture lies from its centre, in degrees clockwise from 12
+/// o'clock.
+inline double inkDirection(const QImage &picture, QRgb background, QRgb ink)
 {
-    const double o = over.alphaF();
-    const double b = below.alphaF() * (1.0 - o);
-    const double alpha = o + b;
-    const auto mix = [&](double u, double l) { return alpha > 0 ? (u * o + l * b) / alpha : 0.0; };
-    return QColor::fromRgbF(static_cast<float>(mix(over.redF(), below.redF())),
-                            static_cast<float>(mix(over.greenF(), below.greenF())),
-                            static_cast<float>(mix(over.blueF(), below.blueF())),
-                            static_cast<float>(alpha));
+    double x = 0.0;
+    double y = 0.0;
+    for (int row = 0; row < picture.height(); ++row) {
+        for (int column = 0; column < picture.width(); ++column) {
+            const double weight = coverage(picture.pixel(column, row), background, ink);
+            x += weight * (column + 0.5 - picture.width() / 2.0);
+            y += weight * (row + 0.5 - picture.height() / 2.0);
+        }
+    }
+    const double degrees = std::atan2(x, -y) * 180.0 / std::numbers::pi;
+    return degrees < 0.0 ? degrees + 360.0 : degrees;
 }
 
-/// Whether two pixels look alike: colours count as far as they are opaque.
-inline bool alike(const QColor &a, const QColor &b, int tolerance = 10)
+/// The largest difference of one channel between two pictures of the same size; 256 when the sizes
+/// differ.
+inline int largestDifference(const QImage &a, const QImage &b)
 {
-    const auto near = [&](int u, int v) { return std::abs(u - v) <= tolerance; };
-    if (!near(a.alpha(), b.alpha()))
-        return false;
-    const auto part = [](int c, const QColor &of) { return c * of.alpha() / 255; };
-    return near(part(a.red(), a), part(b.red(), b)) &&
-           near(part(a.green(), a), part(b.green(), b)) &&
-           near(part(a.blue(), a), part(b.blue(), b));
+    if (a.size() != b.size())
+        return 256;
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            largest = std::max({largest, std::abs(qRed(p) - qRed(q)),
+                                std::abs(qGreen(p) - qGreen(q)), std::abs(qBlue(p) - qBlue(q))});
+        }
+    }
+    return largest;
 }
 
-/// The bounds, in points, of the pixels for which \p test holds; null when there are none.
-template <typename Test>
-QRectF boundsOf(const QImage &image, Test test)
-{
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (test(image.pixelColor(x, y)))
-                bounds |= QRect(x, y, 1, 1);
-    const double scale = image.devicePixelRatio();
-    return {bounds.x() / scale, bounds.y() / scale, bounds.width() / scale,
-            bounds.height() / scale};
-}
+} // namespace pixels

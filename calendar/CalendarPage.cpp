@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "calendar/CalendarPage.h"
+
+#include "calendar/CalendarTexts.h"
+#include "calendar/TamselCalendarFont.h"
+#include "calendar/TamselCalendarLayout.h"
+
+#include <QFontMetricsF>
+
+namespace {
+
+/// Units of a page per unit of the design grid. Font sizes are whole numbers and outlines good to
+/// 1/64 of a unit, which is not enough on a wall unless the units are small.
+constexpr double kFineness = 16.0;
+
+} // namespace
+
+CalendarPage calendarPage(const CalendarMonth &month)
+{
+    const CalendarGrid grid = calendarGrid(month.portrait, kFineness);
+    const CalendarTexts texts = calendarTexts(month.date, month.locale);
+    const QFont regular = TamselCalendarFont(false, int(grid.daySize));
+    const QFont medium = TamselCalendarFont(true, int(grid.daySize));
+
+    CalendarPage page{month, grid};
+    page.titleInset = TamselCalendarTitleInset(regular, month.locale, grid.cellWidth());
+    page.capHeight = QFontMetricsF(regular).capHeight();
+    page.leadingCells = calendarLeadingCells(month.date);
+    page.title = textShape(texts.title, TamselCalendarFont(false, int(grid.titleSize)));
+    for (size_t column = 0; column < page.weekdays.size(); ++column)
+        page.weekdays[column] = textShape(texts.weekdays[column], regular);
+    const int today = month.date.day();
+    for (int day = 1; day <= int(texts.days.size()); ++day)
+        page.days.push_back(textShape(texts.days.at(day - 1), day == today ? medium : regular));
+    return page;
+}

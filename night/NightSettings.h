@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTime>
+#include <QVariantMap>
+
+#include <optional>
+
+/// The night record: when the night palette shows, and its two colours.
+
+inline const QString kNightEnabledKey = QStringLiteral("enabled");
+/// Start and end in minutes after local midnight.
+inline const QString kNightFromKey = QStringLiteral("from");
+inline const QString kNightToKey = QStringLiteral("to");
+/// How each end is chosen: "sunset" (start) or "sunrise" (end), or "custom" for the minutes above.
+inline const QString kNightFromModeKey = QStringLiteral("fromMode");
+inline const QString kNightToModeKey = QStringLiteral("toMode");
+/// Colours as hex text.
+inline const QString kNightBaseKey = QStringLiteral("base");
+inline const QString kNightMarkKey = QStringLiteral("mark");
+
+/// A record with exactly the seven keys, made from the \p stored one, if any: malformed values get
+/// their defaults, minutes are held within the day. A stored record without modes means custom
+/// times, while no record at all means sunset to sunrise.
+QVariantMap normalizedNightSettings(const std::optional<QVariantMap> &stored);
+
+/// A stored switch: a boolean, or a number other than zero. Any other type is off.
+bool booleanSetting(const QVariant &value);
+
+/// Minutes after midnight, seconds dropped.
+int minuteOfDay(QTime time);

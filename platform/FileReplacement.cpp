@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "platform/FileReplacement.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+bool writeAll(int descriptor, const QByteArray &contents)
+{
+    qsizetype done = 0;
+    while (done < contents.size()) {
+        const ssize_t count =
+            ::write(descriptor, contents.constData() + done, size_t(contents.size() - done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+/// Makes a new name in a folder as durable as the file itself. Not every file system can, and the
+/// name is in place either way, so the outcome does not matter.
+void flushFolder(const QByteArray &path)
+{
+    const int descriptor = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
+} // namespace
+
+bool makePrivateFolder(const QString &path)
+{
+    const QFileInfo folder(path);
+    if (folder.isDir())
+        return true;
+    const QString parent = folder.absolutePath();
+    return parent != folder.absoluteFilePath() && makePrivateFolder(parent) &&
+           (::mkdir(QFile::encodeName(path).constData(), 0700) == 0 || errno == EEXIST);
+}
+
+FileReplacement::FileReplacement(const QString &path)
+    : m_path(QFile::encodeName(path)),
+      m_newPath(QFile::encodeName(QFileInfo(path).absolutePath() + "/."_L1 +
+                                  QFileInfo(path).fileName() + ".new"_L1))
+{
+    ::unlink(m_newPath.constData());
+}
+
+FileReplacement::~FileReplacement()
+{
+    if (!m_committed)
+        ::unlink(m_newPath.constData());
+}
+
+bool FileReplacement::write(const QByteArray &contents)
+{
+    const int descriptor =
+        ::open(m_newPath.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (descriptor < 0)
+        return false;
+    const bool flushed = writeAll(descriptor, contents) && ::fsync(descriptor) == 0;
+    m_complete = ::close(descriptor) == 0 && flushed;
+    return m_complete;
+}
+
+bool FileReplacement::commit()
+{
+    m_committed = m_complete && ::rename(m_newPath.constData(), m_path.constData()) == 0;
+    if (!m_committed)
+        return false;
+    flushFolder(m_path.left(m_path.lastIndexOf('/') + 1));
+    return true;
+}
+
+} // namespace platform
