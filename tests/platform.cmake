@@ -1,0 +1,3 @@
+# What the message buses carry.
+tamsel_test(platform/test_BusProbe.cpp LIBS tamsel_platform)
+tamsel_test(platform/test_DistributedNotifications.cpp LIBS tamsel_platform)
