@@ -117,6 +117,7 @@ int runHostWindow(const Options &options, Application &application, quint32 wind
 int runWindow(const Options &options, Application &application)
 {
     const auto view = application.makeView(false);
+    view->setWindowTitle(QGuiApplication::applicationDisplayName());
     view->resize(options.size);
     view->show();
     view->startAnimation();

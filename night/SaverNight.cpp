@@ -2,16 +2,31 @@
 // The night schedule of the saver view: custom times only.
 #include "saver/TamselClockSaverView.h"
 
+#include "night/NightSchedule.h"
+#include "night/NightSettings.h"
 #include "platform/Clocks.h"
+#include "platform/DistributedNotifications.h"
 
-QVariantMap TamselClockSaverView::storedNightSettings() const
+QVariantMap TamselClockSaverView::storedNightSettings()
 {
-    return {};
+    return m_stored.current().nightSettings;
 }
 
-bool TamselClockSaverView::nightActiveAtDate(const QDateTime &, const QVariantMap &)
+void TamselClockSaverView::storeNightSettings(const QVariantMap &record)
 {
-    return false;
+    const PreferenceStores &stores = m_stored.stores();
+    for (const auto *store : {&stores.suite, &stores.saverDefaults})
+        store->setValue(kNightSettingsKey.toString(), record);
+    postVariantChanged({});
+}
+
+bool TamselClockSaverView::nightActiveAtDate(const QDateTime &date, const QVariantMap &settings)
+{
+    if (!booleanSetting(settings.value(kNightEnabledKey.toString())))
+        return false;
+    return TamselNightContainsMinute(minuteOfDay(date.time()),
+                                     settings.value(kNightFromKey.toString()).toLongLong(),
+                                     settings.value(kNightToKey.toString()).toLongLong());
 }
 
 QDateTime TamselClockSaverView::scheduleDate() const

@@ -7,6 +7,9 @@
 inline constexpr QStringView kModuleIdentifier = u"org.tamsel.VornakClockSaver";
 /// The module's short name, under which settings were kept before it had an identifier.
 inline constexpr QStringView kModuleShortName = u"VornakClockSaver";
+/// Tells every running view that a stored setting changed.
+inline constexpr QStringView kVariantChangedNotification =
+    u"org.tamsel.VornakClockSaver.variantChanged";
 
 /// The four preference domains a setting may stand in. A cheap value; the files need not exist.
 struct PreferenceStores

@@ -1,26 +1,108 @@
 // SPDX-License-Identifier: MIT
-// The stored settings as the saver view reads them.
+// The stored settings of the saver view, and the check that follows them.
 #include "saver/TamselClockSaverView.h"
+
+#include "platform/DistributedNotifications.h"
+#include "prefs/HexColor.h"
 
 using namespace Qt::StringLiterals;
 
-QString TamselClockSaverView::storedSelectedVariant() const
+namespace {
+
+/// Writes \p value under \p key to each store in turn; a store that cannot be written is passed
+/// over.
+void write(std::initializer_list<const platform::PreferenceDomain *> stores, QStringView key,
+           const QVariant &value)
 {
-    return u"orange"_s;
+    for (const platform::PreferenceDomain *store : stores)
+        store->setValue(key.toString(), value);
 }
 
-bool TamselClockSaverView::storedCalendarEnabled() const
+} // namespace
+
+QString TamselClockSaverView::storedSelectedVariant()
 {
-    return false;
+    return m_stored.current().selectedVariant;
 }
 
-QColor TamselClockSaverView::colorForKey(const QString &, const QColor &fallback) const
+void TamselClockSaverView::storeSelectedVariant(const QString &variant)
 {
-    return fallback;
+    QString stored = variant == "black"_L1 ? u"nero"_s : variant;
+    if (!popupVariants().contains(stored))
+        stored = u"orange"_s;
+    const PreferenceStores &s = m_stored.stores();
+    write({&s.suite, &s.standardDefaults, &s.saverDefaults, &s.shortNameDefaults},
+          kSelectedVariantKey, stored);
+    postVariantChanged({{kSelectedVariantKey.toString(), stored}});
+}
+
+bool TamselClockSaverView::storedCalendarEnabled()
+{
+    return m_stored.current().calendarEnabled;
+}
+
+void TamselClockSaverView::storeCalendarEnabled(bool enabled)
+{
+    const PreferenceStores &s = m_stored.stores();
+    write({&s.suite, &s.standardDefaults, &s.saverDefaults, &s.shortNameDefaults},
+          kCalendarEnabledKey, enabled);
+    m_settings.calendarEnabled = enabled;
+    m_settings.lastStoredCalendarEnabled = enabled;
+    postVariantChanged({{kCalendarEnabledKey.toString(), enabled}});
+}
+
+QColor TamselClockSaverView::colorForKey(QStringView key, const QColor &fallback)
+{
+    const StoredSettings &stored = m_stored.current();
+    const QColor color =
+        key == kCustomBaseColorKey ? stored.customBaseColor : stored.customMarkColor;
+    return color.isValid() ? color : fallback;
+}
+
+void TamselClockSaverView::storeColor(const QColor &color, QStringView key)
+{
+    const PreferenceStores &s = m_stored.stores();
+    write({&s.suite, &s.saverDefaults, &s.shortNameDefaults, &s.standardDefaults}, key,
+          hexStringForColor(color));
+}
+
+void TamselClockSaverView::postVariantChanged(const QVariantMap &userInfo)
+{
+    if (desktop().notifications)
+        desktop().notifications->post(kVariantChangedNotification.toString(), userInfo);
 }
 
 void TamselClockSaverView::reloadVariantIfNeeded()
 {
-    if (m_settings.lastStoredVariant != storedSelectedVariant())
-        loadSelectedVariant();
+    const StoredSettings stored = m_stored.current();
+    const bool nightNow = nightActiveAtDate(scheduleDate(), stored.nightSettings);
+    const bool nightShown = m_palette.activeVariant == "night"_L1;
+    const bool nightFlip = nightNow != nightShown;
+    const bool nightChanged =
+        nightFlip || stored.nightSettings != m_settings.lastStoredNightSettings;
+    const bool customChanged = !nightShown && stored.selectedVariant == "custom"_L1 &&
+                               (customBaseColor() != m_settings.lastStoredCustomBaseColor ||
+                                customMarkColor() != m_settings.lastStoredCustomMarkColor);
+    if (stored.selectedVariant != m_settings.lastStoredVariant || customChanged || nightChanged) {
+        reloadPalette(nightFlip);
+    } else if (stored.calendarEnabled != m_settings.lastStoredCalendarEnabled) {
+        m_settings.calendarEnabled = stored.calendarEnabled;
+        m_settings.lastStoredCalendarEnabled = stored.calendarEnabled;
+        update();
+    }
+}
+
+/// Only a change between day and night fades, from the colours on screen; anything else ends a
+/// running fade.
+void TamselClockSaverView::reloadPalette(bool nightFlip)
+{
+    PaletteTransition transition;
+    if (nightFlip) {
+        transition.transitionFromBackground = displayedBackgroundColor();
+        transition.transitionFromMark = displayedMarkColor();
+    }
+    m_palette.activeVariant = QString();
+    loadSelectedVariant();
+    transition.paletteTransitionStart = paletteTransitionTime();
+    m_transition = transition;
 }

@@ -2,6 +2,7 @@
 // The variants of the saver view and the loading of their artwork.
 #include "saver/TamselClockSaverView.h"
 
+#include "night/NightSettings.h"
 #include "platform/SmallFile.h"
 #include "prefs/HexColor.h"
 
@@ -73,8 +74,9 @@ void TamselClockSaverView::loadNightPalette()
         return;
     m_palette.activeVariant = u"night"_s;
     const QVariantMap &night = m_settings.lastStoredNightSettings;
-    const QColor mark = colorFromHexString(night.value(u"mark"_s).toString());
-    m_palette.backgroundColor = colorFromHexString(night.value(u"base"_s).toString());
+    const QColor mark = colorFromHexString(night.value(kNightMarkKey.toString()).toString());
+    m_palette.backgroundColor =
+        colorFromHexString(night.value(kNightBaseKey.toString()).toString());
     m_palette.artwork =
         artworkFrom([&](const QString &name) { return customImageNamed(name, mark); });
 }
@@ -131,12 +133,12 @@ platform::SvgImage TamselClockSaverView::customImageNamed(const QString &name,
     return svg ? platform::SvgImage::fromSvg(recoloredArtwork(*svg, color)) : platform::SvgImage();
 }
 
-QColor TamselClockSaverView::customBaseColor() const
+QColor TamselClockSaverView::customBaseColor()
 {
-    return colorForKey(u"CustomBaseColor"_s, backgroundColors().value(kTemplateVariant));
+    return colorForKey(kCustomBaseColorKey, backgroundColors().value(kTemplateVariant));
 }
 
-QColor TamselClockSaverView::customMarkColor() const
+QColor TamselClockSaverView::customMarkColor()
 {
-    return colorForKey(u"CustomMarkColor"_s, QColor(Qt::black));
+    return colorForKey(kCustomMarkColorKey, QColor(Qt::black));
 }

@@ -2,6 +2,7 @@
 // The colours that the saver view shows at this moment, and the cross-fade between two palettes.
 #include "saver/TamselClockSaverView.h"
 
+#include "night/NightSettings.h"
 #include "platform/Clocks.h"
 #include "prefs/HexColor.h"
 #include "saver/ColorBlend.h"
@@ -14,11 +15,12 @@ namespace {
 constexpr double kTransitionSeconds = 3.0;
 } // namespace
 
-QColor TamselClockSaverView::activeMarkColor() const
+QColor TamselClockSaverView::activeMarkColor()
 {
     const QString &variant = m_palette.activeVariant;
     if (variant == "night"_L1)
-        return colorFromHexString(m_settings.lastStoredNightSettings.value(u"mark"_s).toString());
+        return colorFromHexString(
+            m_settings.lastStoredNightSettings.value(kNightMarkKey.toString()).toString());
     if (variant == "custom"_L1)
         return customMarkColor();
     return variant == "blue"_L1 || variant == "nero"_L1 ? Qt::white : Qt::black;
@@ -49,7 +51,7 @@ QColor TamselClockSaverView::displayedBackgroundColor() const
                  background.isValid() ? background : QColor(Qt::black));
 }
 
-QColor TamselClockSaverView::displayedMarkColor() const
+QColor TamselClockSaverView::displayedMarkColor()
 {
     return blend(m_transition.transitionFromMark, activeMarkColor());
 }

@@ -3,7 +3,10 @@
 
 #include "calendar/TamselCalendarLayout.h"
 #include "platform/Clocks.h"
+#include "platform/DistributedNotifications.h"
+#include "platform/LoginSession.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 namespace {
@@ -51,9 +54,8 @@ ClockFrame TamselClockSaverView::nextFrame()
     return frame;
 }
 
-void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &dirtyRect)
+void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 {
-    ScreenSaverView::drawRect(painter, dirtyRect);
     drawFrame(painter, nextFrame(), m_transition.layer);
 }
 

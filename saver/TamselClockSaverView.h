@@ -3,6 +3,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/ScreenSaverView.h"
+#include "prefs/StoredSettings.h"
 #include "saver/Artwork.h"
 #include "saver/ClockFrame.h"
 
@@ -86,26 +87,34 @@ public:
     /// One layer of the recolourable artwork in \p color; null when the file is missing or
     /// unreadable.
     platform::SvgImage customImageNamed(const QString &name, const QColor &color) const;
-    QColor customBaseColor() const;
-    QColor customMarkColor() const;
+    QColor customBaseColor();
+    QColor customMarkColor();
 
     // Displayed colours: saver/SaverTransition.cpp
 
     /// The mark colour of the loaded palette.
-    QColor activeMarkColor() const;
+    QColor activeMarkColor();
     double paletteTransitionTime() const;
     /// How much of a cross-fade has passed, 0 to 1; 1 when none runs.
     double paletteTransitionProgress() const;
     /// The colour between \p from and \p to at the present progress; \p to when \p from is invalid.
     QColor blend(const QColor &from, const QColor &to) const;
     QColor displayedBackgroundColor() const;
-    QColor displayedMarkColor() const;
+    QColor displayedMarkColor();
 
     // Stored settings and the change check: prefs/SaverPreferences.cpp
 
-    QString storedSelectedVariant() const;
-    bool storedCalendarEnabled() const;
-    QColor colorForKey(const QString &key, const QColor &fallback) const;
+    /// Never empty; an unknown variant is returned as it stands.
+    QString storedSelectedVariant();
+    /// Stores \p variant, or "orange" when it is none that may be stored, and tells every view.
+    void storeSelectedVariant(const QString &variant);
+    bool storedCalendarEnabled();
+    /// Stores the switch, applies it to this view and tells every view.
+    void storeCalendarEnabled(bool enabled);
+    /// The colour stored under \p key (CustomBaseColor or CustomMarkColor), or \p fallback.
+    QColor colorForKey(QStringView key, const QColor &fallback);
+    /// Stores \p color as hex text under \p key; nobody is told.
+    void storeColor(const QColor &color, QStringView key);
     /// Reads every setting and the night state afresh and applies what changed.
     void reloadVariantIfNeeded();
 
@@ -117,7 +126,9 @@ public:
     // Night: night/SaverNight.cpp
 
     /// The stored night record with all its keys, malformed values replaced by their defaults.
-    QVariantMap storedNightSettings() const;
+    QVariantMap storedNightSettings();
+    /// Stores \p record as it is given and tells every view.
+    virtual void storeNightSettings(const QVariantMap &record);
     /// Whether \p settings put \p date in the night.
     virtual bool nightActiveAtDate(const QDateTime &date, const QVariantMap &settings);
     /// The moment the schedule is evaluated for: now.
@@ -136,8 +147,11 @@ protected:
 private:
     void loadNightPalette();
     void loadDayPalette();
+    void reloadPalette(bool nightFlip);
+    void postVariantChanged(const QVariantMap &userInfo);
 
     platform::Desktop m_desktop;
+    SettingsReader m_stored;
     LoadedPalette m_palette;
     AppliedSettings m_settings;
     PaletteTransition m_transition;

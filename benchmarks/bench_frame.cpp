@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+// What a full frame costs beside a plain fill of the same surface, and what loading the artwork costs.
+#include "platform/Bundle.h"
+#include "saver/ClockFrame.h"
+
+#include "calendar/TamselCalendarLayout.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Artwork orangeArtwork()
+{
+    const platform::Bundle bundle(QStringLiteral(TAMSEL_TEST_BUNDLE));
+    const auto layer = [&](const QString &name) {
+        return platform::SvgImage::fromFile(bundle.pathForResource(name, u"svg"_s, u"orange"_s));
+    };
+    return {layer(u"face"_s), layer(u"hour"_s), layer(u"minute"_s), layer(u"second"_s)};
+}
+
+ClockFrame frameOf(const QSize &size)
+{
+    ClockFrame frame;
+    frame.bounds = QRectF(QPointF(), size);
+    frame.background = QColor(0xff, 0x46, 0x00);
+    frame.mark = Qt::black;
+    frame.clockRect = TamselSoloClockRect(frame.bounds, 0.9987);
+    frame.artwork = orangeArtwork();
+    frame.angles = TamselClockAnglesForDate(QDateTime(QDate(2026, 3, 14), QTime(10, 8, 36, 300)));
+    return frame;
+}
+
+QSize sizeOf(const benchmark::State &state)
+{
+    return {int(state.range(0)), int(state.range(1))};
+}
+
+void plainFill(benchmark::State &state)
+{
+    QImage surface(sizeOf(state), QImage::Format_RGB32);
+    QPainter painter(&surface);
+    for (auto _ : state)
+        painter.fillRect(surface.rect(), QColor(0xff, 0x46, 0x00));
+}
+
+void frame(benchmark::State &state, bool tinted)
+{
+    QImage surface(sizeOf(state), QImage::Format_RGB32);
+    QPainter painter(&surface);
+    ClockFrame shown = frameOf(surface.size());
+    shown.tinted = tinted;
+    QImage layer;
+    for (auto _ : state)
+        drawFrame(painter, shown, layer);
+}
+
+void artworkLoad(benchmark::State &state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(orangeArtwork());
+}
+
+void sizes(benchmark::internal::Benchmark *benchmark)
+{
+    benchmark->Args({1920, 1080})->Args({3840, 2160})->Unit(benchmark::kMicrosecond);
+}
+
+} // namespace
+
+BENCHMARK(plainFill)->Apply(sizes);
+BENCHMARK_CAPTURE(frame, plain, false)->Apply(sizes);
+BENCHMARK_CAPTURE(frame, fading, true)->Apply(sizes);
+BENCHMARK(artworkLoad)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK_MAIN();

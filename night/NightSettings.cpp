@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "night/NightSettings.h"
+
+#include "prefs/HexColor.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qlonglong kDefaultFrom = 1170; // 19:30
+constexpr qlonglong kDefaultTo = 450;    // 07:30
+constexpr qlonglong kLastMinute = 1439;
+constexpr QLatin1StringView kDefaultBase("#000000");
+constexpr QLatin1StringView kDefaultMark("#FFF5E8");
+constexpr QLatin1StringView kCustomMode("custom");
+
+/// A whole number within the day; none when \p value is not a number.
+std::optional<qlonglong> minuteFrom(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        return std::clamp(value.toLongLong(), 0LL, kLastMinute);
+    case QMetaType::ULongLong:
+        return qlonglong(std::min(value.toULongLong(), qulonglong(kLastMinute)));
+    case QMetaType::Double:
+        if (std::isnan(value.toDouble()))
+            return std::nullopt;
+        return qlonglong(std::clamp(value.toDouble(), 0.0, double(kLastMinute)));
+    default:
+        return std::nullopt;
+    }
+}
+
+QString colorTextFrom(const QVariant &value, QLatin1StringView fallback)
+{
+    if (value.typeId() != QMetaType::QString)
+        return fallback;
+    const QString text = normalizedHexStringFromString(value.toString());
+    return text.isNull() ? QString(fallback) : text;
+}
+
+} // namespace
+
+QVariantMap normalizedNightSettings(const std::optional<QVariantMap> &stored)
+{
+    const auto value = [&](QStringView key) {
+        return stored ? stored->value(key.toString()) : QVariant();
+    };
+    const auto mode = [&](QStringView key, QLatin1StringView solar) -> QString {
+        return !stored || value(key) == QVariant(QString(solar)) ? solar : kCustomMode;
+    };
+    return {
+        {kNightEnabledKey.toString(), booleanSetting(value(kNightEnabledKey))},
+        {kNightFromKey.toString(), minuteFrom(value(kNightFromKey)).value_or(kDefaultFrom)},
+        {kNightToKey.toString(), minuteFrom(value(kNightToKey)).value_or(kDefaultTo)},
+        {kNightFromModeKey.toString(), mode(kNightFromModeKey, "sunset"_L1)},
+        {kNightToModeKey.toString(), mode(kNightToModeKey, "sunrise"_L1)},
+        {kNightBaseKey.toString(), colorTextFrom(value(kNightBaseKey), kDefaultBase)},
+        {kNightMarkKey.toString(), colorTextFrom(value(kNightMarkKey), kDefaultMark)},
+    };
+}
+
+bool booleanSetting(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return value.toDouble() != 0.0;
+    default:
+        return false;
+    }
+}
+
+int minuteOfDay(QTime time)
+{
+    return time.hour() * 60 + time.minute();
+}

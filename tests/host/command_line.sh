@@ -1,0 +1,54 @@
+#!/bin/bash
+# SPDX-License-Identifier: MIT
+# The program as started from a shell without a display: exit statuses, single lines on stderr, pictures.
+set -u
+program=$1
+unset QT_QPA_PLATFORM
+cd "$(mktemp -d)" || exit 1
+
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+# expect STATUS TEXT ARGUMENT...: that exit status, and TEXT in one line on stderr.
+expect() {
+    local status=$1 text=$2 error
+    shift 2
+    error=$(timeout 10 "$program" "$@" 2>&1 >/dev/null)
+    local got=$?
+    [ $got = "$status" ] || fail "'$*' gave status $got, not $status"
+    [ "$(grep -c '' <<<"$error")" = 1 ] || fail "'$*' said not one line: $error"
+    grep -qF -- "$text" <<<"$error" || fail "'$*' said: $error"
+}
+
+expect 2 bogus --bogus
+expect 2 size --size
+expect 1 'no display'
+expect 1 'no display' --window
+expect 1 'no X display' --root
+expect 1 'no X display' --window-id 0x123
+expect 1 /nowhere/a.png --snapshot /nowhere/a.png
+DISPLAY=:987 expect 1 'no display'
+WAYLAND_DISPLAY=wayland-9 expect 1 'no display'
+
+mkdir -p moved/bin moved/lib/tamsel-clock
+cp "$program" moved/bin/
+program=moved/bin/tamsel-clock expect 1 'resources are missing' --snapshot a.png
+
+[ "$("$program" --version)" = "tamsel-clock $2" ] || fail "--version says $("$program" --version)"
+"$program" --help | grep -q -- '--snapshot' || fail "--help does not name --snapshot"
+
+"$program" --snapshot clock.png --size 240x135 --scale 2 --at 2026-03-14T22:08:30.5 || fail "a picture"
+[ "$(identify -format '%wx%h' clock.png)" = 480x270 ] || fail "a picture's size is $(identify clock.png)"
+
+# A layer that is missing leaves the others.
+bundle=$3
+mkdir -p single/bin single/lib/tamsel-clock
+cp "$program" single/bin/
+cp -r "$bundle" single/lib/tamsel-clock/
+rm single/lib/tamsel-clock/VornakClockSaver.saver/Contents/Resources/orange/face.svg
+echo '<svg' >single/lib/tamsel-clock/VornakClockSaver.saver/Contents/Resources/orange/hour.svg
+single/bin/tamsel-clock --snapshot bare.png --size 240x135 2>errors || fail "a picture without a face"
+[ -s errors ] && fail "a missing layer is no message: $(cat errors)"
+[ "$(identify -format '%k' bare.png)" -gt 2 ] || fail "the other layers are drawn"

@@ -1,0 +1,11 @@
+tamsel_script_test(project_include_directions project/include_directions.py ARGS ${CMAKE_SOURCE_DIR})
+tamsel_script_test(project_wording project/wording.py ARGS ${CMAKE_SOURCE_DIR})
+
+if(TAMSEL_SANITIZE)
+    add_executable(sanitizer_canary project/sanitizer_canary.cpp)
+    set_target_properties(sanitizer_canary PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_compile_options(sanitizer_canary PRIVATE -Wno-use-after-free)
+    add_test(NAME sanitizer_canary COMMAND sanitizer_canary)
+    set_tests_properties(sanitizer_canary PROPERTIES
+        PASS_REGULAR_EXPRESSION "AddressSanitizer: heap-use-after-free")
+endif()
