@@ -54,9 +54,9 @@ void frame(benchmark::State &state, bool tinted)
     QPainter painter(&surface);
     ClockFrame shown = frameOf(surface.size());
     shown.tinted = tinted;
-    QImage layer;
+    FrameScratch scratch;
     for (auto _ : state)
-        drawFrame(painter, shown, layer);
+        drawFrame(painter, shown, scratch);
 }
 
 void artworkLoad(benchmark::State &state)

@@ -2,11 +2,9 @@
 // What a frame's change check costs with a night from sunset to sunrise, beside one without a
 // night.
 #include "night/TamselScheduledSaverView.h"
-#include "platform/Clocks.h"
-#include "prefs/PreferenceStores.h"
+#include "tests/support/SaverFixture.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -14,58 +12,30 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Preferences of their own, with a location among them: the user's are left alone.
-class Preferences
-{
-public:
-    explicit Preferences(bool nightEnabled)
-    {
-        const PreferenceStores stores(m_folder.path(), u"bench"_s);
-        stores.suite.setValue(u"SolarLocation"_s,
-                              QVariantMap{{u"latitude"_s, 60.17}, {u"longitude"_s, 24.94}});
-        stores.suite.setValue(u"NightSettings"_s, QVariantMap{{u"enabled"_s, nightEnabled},
-                                                              {u"fromMode"_s, u"sunset"_s},
-                                                              {u"toMode"_s, u"sunrise"_s}});
-    }
-
-    platform::Desktop desktop() const
-    {
-        return {.clocks = &platform::systemClocks(),
-                .bundle = platform::Bundle(QStringLiteral(TAMSEL_TEST_BUNDLE)),
-                .preferencesFolder = m_folder.path()};
-    }
-
-private:
-    QTemporaryDir m_folder;
-};
-
 void changeCheck(benchmark::State &state, bool nightEnabled)
 {
-    const Preferences preferences(nightEnabled);
-    TamselScheduledSaverView view(preferences.desktop(), false);
+    const SaverFixture f;
+    // A location among the preferences: the user's own file is left alone.
+    SaverFixture::set(f.stores.suite, u"SolarLocation",
+                      QVariantMap{{u"latitude"_s, 60.17}, {u"longitude"_s, 24.94}});
+    f.setNight(
+        {{u"enabled"_s, nightEnabled}, {u"fromMode"_s, u"sunset"_s}, {u"toMode"_s, u"sunrise"_s}});
+    platform::Desktop desktop = f.desktop();
+    desktop.clocks = &platform::systemClocks();
+    TamselScheduledSaverView view(desktop, false);
     for (auto _ : state)
         view.reloadVariantIfNeeded();
 }
 
-void scheduleOnly(benchmark::State &state)
-{
-    const Preferences preferences(true);
-    TamselScheduledSaverView view(preferences.desktop(), false);
-    const QVariantMap settings = view.storedNightSettings();
-    for (auto _ : state)
-        benchmark::DoNotOptimize(view.nightActiveAtDate(view.scheduleDate(), settings));
-}
-
-BENCHMARK_CAPTURE(changeCheck, withoutNight, false);
-BENCHMARK_CAPTURE(changeCheck, sunsetToSunrise, true);
-BENCHMARK(scheduleOnly);
-
 } // namespace
+
+BENCHMARK_CAPTURE(changeCheck, withoutNight, false)->MinWarmUpTime(0.2);
+BENCHMARK_CAPTURE(changeCheck, sunsetToSunrise, true)->MinWarmUpTime(0.2);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
+    return 0;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "calendar/TamselCalendarLayout.h"
 
+#include "calendar/CalendarGrid.h"
+
 #include <QFontMetricsF>
 #include <QTimeZone>
 
@@ -13,28 +15,27 @@ constexpr double kSoloShare = 0.84; // of the shorter side
 
 constexpr double kPortraitLimit = 0.8; // width by height
 
-// Landscape, the calendar's grid being 500 units wide with a head of 126 and rows of 67.
 constexpr double kLandscapeWidthShare = 0.86;
 constexpr double kLandscapeHeightShare = 0.8;
 constexpr double kLandscapeGap = 0.2;          // of the clock
 constexpr double kLandscapeCalendar = 0.78125; // of the clock
-constexpr double kLandscapeGrid = 500.0;
-constexpr double kLandscapeHead = 126.0;
-constexpr double kLandscapeRow = 67.0;
 
-// Portrait, the calendar's grid being 244 units wide with a head of 53 and rows of 30.
 constexpr double kPortraitWidthShare = 0.84;
 constexpr double kPortraitHeightShare = 0.88;
 constexpr double kPortraitGap = 0.14;       // of the clock
 constexpr double kPortraitCalendar = 0.976; // of the clock
-constexpr double kPortraitGrid = 244.0;
-constexpr double kPortraitHead = 53.0;
-constexpr double kPortraitRow = 30.0;
 
 constexpr double kDriftSeconds = 293.0; // per radian
 constexpr double kDriftDepth = 0.002;
 constexpr double kDriftFloor = 0.998;
 constexpr qint64 kReferenceDateMs = 978307200000; // 2001-01-01T00:00:00Z
+
+/// The calendar's height in widths of its own.
+double heightByWidth(bool portrait, int rows)
+{
+    const CalendarGrid grid = calendarGrid(portrait);
+    return grid.height(rows) / grid.width;
+}
 
 CalendarLayoutRects landscape(const QSizeF &size, int rows, double scale)
 {
@@ -43,7 +44,7 @@ CalendarLayoutRects landscape(const QSizeF &size, int rows, double scale)
                  kLandscapeHeightShare * size.height());
     const double clock = base * scale;
     const double width = kLandscapeCalendar * clock;
-    const double height = width * (rows * kLandscapeRow + kLandscapeHead) / kLandscapeGrid;
+    const double height = width * heightByWidth(false, rows);
     const double gap = clock * kLandscapeGap;
     const double left = (size.width() - clock - gap - width) / 2.0;
     return {QRectF(left, (size.height() - clock) / 2.0, clock, clock),
@@ -52,13 +53,13 @@ CalendarLayoutRects landscape(const QSizeF &size, int rows, double scale)
 
 CalendarLayoutRects portrait(const QSizeF &size, int rows, double scale)
 {
-    const double heightByWidth = (rows * kPortraitRow + kPortraitHead) / kPortraitGrid;
+    const double ratio = heightByWidth(true, rows);
     const double base = std::min(kPortraitHeightShare * size.height() /
-                                     (1.0 + kPortraitGap + heightByWidth * kPortraitCalendar),
+                                     (1.0 + kPortraitGap + ratio * kPortraitCalendar),
                                  kPortraitWidthShare * size.width());
     const double clock = base * scale;
     const double width = kPortraitCalendar * clock;
-    const double height = width * heightByWidth;
+    const double height = width * ratio;
     const double gap = clock * kPortraitGap;
     const double top = (size.height() - clock - gap - height) / 2.0;
     return {QRectF((size.width() - clock) / 2.0, top, clock, clock),

@@ -9,6 +9,8 @@
 #include "night/TamselScheduledSaverView.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
+#include "platform/DistributedNotifications.h"
+#include "platform/LoginSession.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -56,6 +58,8 @@ public:
         m_desktop.clocks = &platform::systemClocks();
         m_desktop.bundle = platform::Bundle::ofProgram();
         m_desktop.preferencesFolder = platform::userPreferencesFolder();
+        m_desktop.notifications = &m_notifications;
+        m_desktop.session = &m_session;
     }
 
     platform::Desktop &desktop() { return m_desktop; }
@@ -76,6 +80,8 @@ public:
 private:
     QApplication m_application;
     TerminationSignals m_signals;
+    platform::DistributedNotifications m_notifications;
+    platform::LoginSession m_session;
     platform::Desktop m_desktop;
 };
 

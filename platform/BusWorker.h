@@ -60,11 +60,9 @@ Q_SIGNALS:
     void arrived(int id, const QDBusMessage &message);
     void answered(int id, const QDBusMessage &reply);
 
-private Q_SLOTS:
-    void receive(const QDBusMessage &message);
-    void lose();
-
 private:
+    Q_SLOT void receive(const QDBusMessage &message);
+    Q_SLOT void lose();
     void probed(bool answered);
     bool open();
     void close();

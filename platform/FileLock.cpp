@@ -5,42 +5,80 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
+#include <future>
 #include <thread>
 #include <unistd.h>
 
 namespace platform {
 
-using namespace std::chrono_literals;
-
 namespace {
 
-/// A holder needs a millisecond or a few, most of it for the disk.
-constexpr auto kRetryInterval = 500us;
+enum class Waiting { No, Yes };
 
 } // namespace
 
-FileLock::FileLock(const QString &path, std::chrono::milliseconds timeout)
-    : m_descriptor(::open(QFile::encodeName(path).constData(),
-                          O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0600))
+class FileLock::Descriptor
 {
-    if (m_descriptor < 0)
-        return;
-    // Waiting in the kernel could only be cut short by a signal.
-    const auto deadline = std::chrono::steady_clock::now() + timeout;
-    for (;;) {
-        m_held = ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0;
-        const bool mayComeFree = errno == EWOULDBLOCK || errno == EINTR;
-        if (m_held || !mayComeFree || std::chrono::steady_clock::now() >= deadline)
-            return;
-        std::this_thread::sleep_for(kRetryInterval);
+public:
+    explicit Descriptor(const QString &path)
+        : m_number(::open(QFile::encodeName(path).constData(),
+                          O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0600))
+    {
     }
+    ~Descriptor()
+    {
+        if (m_number >= 0)
+            ::close(m_number);
+    }
+    Q_DISABLE_COPY_MOVE(Descriptor)
+
+    /// Takes the turn, then the lock, then passes the turn on. Whoever unlocks finds the turn taken
+    /// by the next one waiting, so that a busy writer cannot overtake the others again and again.
+    bool lock(Waiting waiting) const
+    {
+        return set(kTurn, F_WRLCK, waiting) && set(kLock, F_WRLCK, waiting) &&
+               set(kTurn, F_UNLCK, waiting);
+    }
+
+private:
+    static constexpr off_t kTurn = 0;
+    static constexpr off_t kLock = 1;
+
+    /// Locks or unlocks one byte of the file for this descriptor; the file stays empty.
+    bool set(off_t byte, short type, Waiting waiting) const
+    {
+        struct flock range = {};
+        range.l_type = type;
+        range.l_whence = SEEK_SET;
+        range.l_start = byte;
+        range.l_len = 1;
+        const int command = waiting == Waiting::Yes ? F_OFD_SETLKW : F_OFD_SETLK;
+        return ::fcntl(m_number, command, &range) == 0;
+    }
+
+    int m_number;
+};
+
+FileLock::FileLock(const QString &path, std::chrono::milliseconds timeout)
+{
+    auto descriptor = std::make_shared<Descriptor>(path);
+    const bool isFree = descriptor->lock(Waiting::No);
+    const bool isTaken = !isFree && (errno == EAGAIN || errno == EACCES);
+    if (isFree || (isTaken && waitFor(descriptor, timeout)))
+        m_descriptor = std::move(descriptor);
 }
 
-FileLock::~FileLock()
+/// The kernel keeps the queue, but waiting there can only be cut short by a signal: so a thread
+/// waits. One that is given up on ends, and unlocks, when its turn comes.
+bool FileLock::waitFor(const std::shared_ptr<Descriptor> &descriptor,
+                       std::chrono::milliseconds timeout)
 {
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
+    std::promise<bool> outcome;
+    auto isLocked = outcome.get_future();
+    std::thread([descriptor, outcome = std::move(outcome)]() mutable {
+        outcome.set_value(descriptor->lock(Waiting::Yes));
+    }).detach();
+    return isLocked.wait_for(timeout) == std::future_status::ready && isLocked.get();
 }
 
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <chrono>
+#include <memory>
 
 namespace platform {
 
@@ -13,16 +14,18 @@ class FileLock
 {
 public:
     /// Makes the file \p path if needed (not its folder) and locks it, waiting at most \p timeout
-    /// for another holder.
+    /// for other holders.
     FileLock(const QString &path, std::chrono::milliseconds timeout);
-    ~FileLock();
-    Q_DISABLE_COPY_MOVE(FileLock)
 
-    bool isHeld() const { return m_held; }
+    bool isHeld() const { return m_descriptor != nullptr; }
 
 private:
-    int m_descriptor;
-    bool m_held = false;
+    class Descriptor;
+    static bool waitFor(const std::shared_ptr<Descriptor> &descriptor,
+                        std::chrono::milliseconds timeout);
+
+    /// Closing the file unlocks it.
+    std::shared_ptr<Descriptor> m_descriptor;
 };
 
 } // namespace platform

@@ -2,13 +2,17 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
 
 namespace platform {
 
+class MessageBus;
+
 /// The login session this process belongs to, as the system's session manager reports it. Where
-/// there is no session manager the session counts as active and nothing is ever reported.
+/// there is no session manager, or it is not reached, the session counts as active. Never blocks:
+/// what the session manager says arrives later.
 class LoginSession : public QObject
 {
     Q_OBJECT
@@ -17,16 +21,28 @@ public:
     explicit LoginSession(QObject *parent = nullptr);
     ~LoginSession() override;
 
-    bool isActive() const;
+    bool isActive() const { return m_isActive; }
 
 Q_SIGNALS:
-    /// The session became the active one again, for example after switching users.
+    /// The session became the active one again, for example after switching users, or the machine
+    /// woke up with this session active.
     void becameActive();
     void becameInactive();
 
 private:
-    class Bus;
-    std::unique_ptr<Bus> m_bus;
+    void findSession();
+    void findDisplaySession();
+    void follow(const QString &path);
+    void ask();
+    void setActive(bool isActive);
+
+    std::unique_ptr<MessageBus> m_bus;
+    /// The subscription to the session now followed ends with this.
+    std::unique_ptr<QObject> m_following;
+    QString m_path;
+    bool m_isActive = true;
+    bool m_isAsking = false;
+    bool m_askAgain = false;
 };
 
 } // namespace platform

@@ -106,13 +106,13 @@ void MessageBus::setConnected(bool isConnected)
     }
 }
 
-void MessageBus::subscribe(const BusSignal &signal, QObject *context, Receiver received)
+void MessageBus::subscribe(const BusSignal &signal, QObject *context, const Receiver &received)
 {
     if (!m_worker) {
         return;
     }
     const int id = ++m_lastId;
-    m_subscriptions.insert(id, {context, std::move(received)});
+    m_subscriptions.insert(id, {context, received});
     connect(context, &QObject::destroyed, this, [this, id] { unsubscribe(id); });
     QMetaObject::invokeMethod(m_worker,
                               [worker = m_worker, id, signal] { worker->subscribe(id, signal); });
@@ -131,13 +131,13 @@ void MessageBus::send(const QDBusMessage &signal)
     }
 }
 
-void MessageBus::call(const QDBusMessage &method, Receiver answered)
+void MessageBus::call(const QDBusMessage &method, const Receiver &answered)
 {
     if (!m_isConnected) {
         return;
     }
     const int id = ++m_lastId;
-    m_calls.insert(id, std::move(answered));
+    m_calls.insert(id, answered);
     QMetaObject::invokeMethod(m_worker,
                               [worker = m_worker, id, method] { worker->call(id, method); });
 }

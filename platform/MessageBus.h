@@ -47,12 +47,12 @@ public:
     ~MessageBus() override;
 
     /// Calls \p received for every such signal until \p context is destroyed, over reconnects too.
-    void subscribe(const BusSignal &signal, QObject *context, Receiver received);
+    void subscribe(const BusSignal &signal, QObject *context, const Receiver &received);
     /// Sends a signal. Kept until the first try to connect has ended, dropped without a bus.
     void send(const QDBusMessage &signal);
     /// Calls a method; \p answered gets the reply or the error, and is not called when the bus goes
     /// away first or was not there.
-    void call(const QDBusMessage &method, Receiver answered);
+    void call(const QDBusMessage &method, const Receiver &answered);
 
 Q_SIGNALS:
     /// The bus is there: for the first time or again. Subscriptions are in force.

@@ -80,13 +80,15 @@ bool isFresh(const Identity &identity)
     return std::abs(nanoseconds(now) - identity.changed) < kFreshNanoseconds;
 }
 
-/// The file that \p path leads to, which need not exist; none for a loop of links.
-std::optional<QString> followLinks(const QString &path)
+/// The file that \p path leads to, which need not exist; none for a loop of links or for what is no
+/// ordinary file.
+std::optional<QString> writableTarget(const QString &path)
 {
     QFileInfo file(path);
     for (int i = 0; i < kMaxLinks; ++i) {
         if (!file.isSymbolicLink())
-            return file.absoluteFilePath();
+            return file.isFile() || !file.exists() ? std::optional(file.absoluteFilePath())
+                                                   : std::nullopt;
         file.setFile(file.symLinkTarget());
     }
     return std::nullopt;
@@ -222,7 +224,7 @@ quint64 PreferenceDomain::generation() const
 
 bool PreferenceDomain::setValue(const QString &key, const QVariant &value) const
 {
-    const auto path = followLinks(m_file->path());
+    const auto path = writableTarget(m_file->path());
     if (!path || (value.isValid() && PropertyList::toXml(value).isEmpty()))
         return false;
     const QFileInfo file(*path);

@@ -26,7 +26,7 @@ std::optional<unsigned> scanHexInteger(QStringView text)
 {
     while (!text.isEmpty() && text.front().isSpace())
         text = text.sliced(1);
-    if (text.startsWith(u"0X") && text.size() > 2 && hexDigit(text[2]))
+    if (text.startsWith(u"0X"))
         text = text.sliced(2);
     if (text.isEmpty() || !hexDigit(text.front()))
         return std::nullopt;
@@ -50,7 +50,10 @@ QString upperWithoutNumberSigns(const QString &string)
 
 QString hexStringForColor(const QColor &color)
 {
-    const QColor rgb = color.isValid() ? color.toExtendedRgb() : QColor(Qt::black);
+    // Only an extended-range colour is read as one: its components are half as precise.
+    const QColor rgb = !color.isValid()                      ? QColor(Qt::black)
+                       : color.spec() == QColor::ExtendedRgb ? color
+                                                             : color.toRgb();
     const auto byte = [](float component) { return std::lround(double(component) * 255.0); };
     char text[64];
     std::snprintf(text, sizeof text, "#%02lX%02lX%02lX", byte(rgb.redF()), byte(rgb.greenF()),

@@ -8,8 +8,7 @@
 
 /// The text of \p color, upper case. Components are rounded half away from zero and deliberately
 /// not clamped: an extended-range colour gives more than six digits, which the readers below
-/// refuse. An invalid colour gives
-/// "#000000".
+/// refuse. An invalid colour gives "#000000".
 QString hexStringForColor(const QColor &color);
 
 /// Lenient reader for stored values: every "#" is dropped, six characters must remain, and as many

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "saver/ClockFrame.h"
 
+#include "calendar/TamselDrawCalendar.h"
+
 #include <QPainter>
 
 namespace {
@@ -38,13 +40,25 @@ void drawTintedClock(QPainter &painter, const ClockFrame &frame, QImage &layer)
     painter.drawImage(target, layer);
 }
 
+void drawCalendar(QPainter &painter, const ClockFrame &frame, CalendarPageCache &pages)
+{
+    const CalendarFrame &calendar = *frame.calendar;
+    TamselDrawCalendar(painter, frame.background, frame.mark,
+                       pages.page(calendar.date, calendar.portrait, calendar.locale),
+                       calendar.rect);
+}
+
 } // namespace
 
-void drawFrame(QPainter &painter, const ClockFrame &frame, QImage &layer)
+void drawFrame(QPainter &painter, const ClockFrame &frame, FrameScratch &scratch)
 {
     painter.fillRect(frame.bounds, frame.background);
-    if (frame.tinted)
-        drawTintedClock(painter, frame, layer);
-    else
+    if (frame.tinted) {
+        drawTintedClock(painter, frame, scratch.layer);
+    } else {
+        scratch.layer = {};
         drawClock(painter, frame);
+    }
+    if (frame.calendar)
+        drawCalendar(painter, frame, scratch.calendarPages);
 }

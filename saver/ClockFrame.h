@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "calendar/CalendarPage.h"
 #include "saver/Artwork.h"
 #include "saver/TamselClockAngles.h"
 
 #include <QColor>
 #include <QDate>
 #include <QImage>
+#include <QLocale>
 
 #include <optional>
 
@@ -16,6 +18,7 @@ struct CalendarFrame
     QRectF rect;
     QDate date;
     bool portrait = false;
+    QLocale locale;
 };
 
 /// One frame as a value: all that its drawing needs. The same value always gives the same pixels.
@@ -32,6 +35,13 @@ struct ClockFrame
     std::optional<CalendarFrame> calendar;
 };
 
-/// Draws \p frame. \p layer is where a tinted clock is composed; it is resized as needed and worth
-/// keeping from frame to frame of a fade, its contents are not.
-void drawFrame(QPainter &painter, const ClockFrame &frame, QImage &layer);
+/// What drawing keeps from frame to frame to save work; it never shows in the picture.
+struct FrameScratch
+{
+    /// Where a tinted clock is composed; held for the length of a fade.
+    QImage layer;
+    CalendarPageCache calendarPages;
+};
+
+/// Draws \p frame.
+void drawFrame(QPainter &painter, const ClockFrame &frame, FrameScratch &scratch);

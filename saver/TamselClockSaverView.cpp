@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "saver/TamselClockSaverView.h"
 
+#include "calendar/TamselCalendarFont.h"
 #include "calendar/TamselCalendarLayout.h"
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
@@ -15,9 +16,19 @@ constexpr double kFrameInterval = 1.0 / 30.0;
 
 TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,
                                            QWidget *parent)
-    : ScreenSaverView(*desktop.clocks, isPreview, parent), m_desktop(desktop)
+    : ScreenSaverView(*desktop.clocks, isPreview, parent), m_desktop(desktop),
+      m_stored(PreferenceStores(desktop.preferencesFolder, QCoreApplication::applicationName()))
 {
+    TamselRegisterCalendarFonts(m_desktop.bundle);
     setAnimationTimeInterval(kFrameInterval);
+    if (desktop.session) {
+        connect(desktop.session, &platform::LoginSession::becameActive, this,
+                &TamselClockSaverView::screenSaverPreferencesMayHaveChanged);
+    }
+    if (desktop.notifications) {
+        desktop.notifications->observe(kVariantChangedNotification.toString(), this,
+                                       [this] { screenSaverPreferencesMayHaveChanged(); });
+    }
     loadSelectedVariant();
 }
 
@@ -50,13 +61,14 @@ ClockFrame TamselClockSaverView::nextFrame()
     const QDateTime now = clocks().now();
     frame.angles = TamselClockAnglesForDate(now);
     if (m_settings.calendarEnabled)
-        frame.calendar = {calendarRect(), now.date(), calendarIsPortrait(frame.bounds.size())};
+        frame.calendar = {calendarRect(), now.date(), calendarIsPortrait(frame.bounds.size()),
+                          QLocale::system()};
     return frame;
 }
 
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 {
-    drawFrame(painter, nextFrame(), m_transition.layer);
+    drawFrame(painter, nextFrame(), m_scratch);
 }
 
 void TamselClockSaverView::screenSaverPreferencesMayHaveChanged()

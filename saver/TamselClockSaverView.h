@@ -9,7 +9,6 @@
 
 #include <QColor>
 #include <QHash>
-#include <QImage>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -41,8 +40,6 @@ struct PaletteTransition
     QColor transitionFromMark;
     /// Seconds of the monotonic clock.
     double paletteTransitionStart = 0.0;
-    /// Where the tinted clock is composed while the fade runs.
-    QImage layer;
 };
 
 /// The clock on one screen, or in the settings thumbnail: it owns its palette, follows the stored
@@ -155,4 +152,5 @@ private:
     LoadedPalette m_palette;
     AppliedSettings m_settings;
     PaletteTransition m_transition;
+    FrameScratch m_scratch;
 };

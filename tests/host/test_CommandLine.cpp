@@ -30,17 +30,20 @@ private Q_SLOTS:
         const int full = int(Mode::FullScreen);
         const int hosted = int(Mode::HostWindow);
         QTest::newRow("nothing named") << u""_s << u""_s << full << qint64(-1) << false;
-        QTest::newRow("upper-case hex") << u"--root"_s << u"0x40000F"_s << hosted << qint64(0x40000f) << false;
-        QTest::newRow("decimal, one dash") << u"-root"_s << u"4194305"_s << hosted << qint64(4194305) << false;
+        QTest::newRow("upper-case hex")
+            << u"--root"_s << u"0x40000F"_s << hosted << qint64(0x40000f) << false;
+        QTest::newRow("decimal, one dash")
+            << u"-root"_s << u"4194305"_s << hosted << qint64(4194305) << false;
         QTest::newRow("variable alone") << u""_s << u"0x12"_s << hosted << qint64(0x12) << false;
         QTest::newRow("root alone") << u"--root"_s << u""_s << hosted << qint64(-1) << false;
         QTest::newRow("flag wins over variable")
             << u"--root --window-id 0x400EE6"_s << u"0x1"_s << hosted << qint64(0x400ee6) << true;
-        QTest::newRow("another host's token") << u""_s << u"token-abc"_s << full << qint64(-1) << false;
+        QTest::newRow("another host's token")
+            << u""_s << u"token-abc"_s << full << qint64(-1) << false;
         QTest::newRow("sign") << u""_s << u"+12"_s << full << qint64(-1) << false;
         QTest::newRow("too large") << u""_s << u"99999999999"_s << full << qint64(-1) << false;
-        QTest::newRow("snapshot under a host") << u"--snapshot a.png"_s << u"0x12"_s
-                                               << int(Mode::Snapshot) << qint64(0x12) << false;
+        QTest::newRow("snapshot under a host")
+            << u"--snapshot a.png"_s << u"0x12"_s << int(Mode::Snapshot) << qint64(0x12) << false;
     }
 
     void findsTheHostsWindow()
@@ -58,7 +61,8 @@ private Q_SLOTS:
     void readsAPicturesOptions()
     {
         const auto result = parsed(
-            u"--snapshot a.png --size 240x135 --scale 2 --at 2026-03-14T22:08:30.5 --preview"_s, {});
+            u"--snapshot a.png --size 240x135 --scale 2 --at 2026-03-14T22:08:30.5 --preview"_s,
+            {});
         const auto &options = std::get<Options>(result);
         QCOMPARE(options.pictureFile, u"a.png"_s);
         QCOMPARE(options.size, QSize(240, 135));

@@ -3,9 +3,10 @@
 #include "night/TamselSolarTimes.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
-#include "tests/support/FakeGeoClue.h"
+#include "tests/support/GeoClue.h"
 
 #include <QSignalSpy>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -32,7 +33,7 @@ private:
 
 void test_LocationRequest::initTestCase()
 {
-    support::FakeGeoClue::useTheTestsBus();
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS"));
 }
 
 void test_LocationRequest::endsWithAStatus_data()
@@ -55,8 +56,8 @@ void test_LocationRequest::endsWithAStatus()
 {
     QFETCH(QString, answer);
     QFETCH(QString, status);
-    const support::FakeGeoClue service(answer);
-    QTRY_VERIFY(service.isThere());
+    GeoClue service;
+    QVERIFY(service.answers(answer));
 
     TamselSolarTimes solar(m_desktop);
     QStringList statuses;
@@ -87,8 +88,8 @@ void test_LocationRequest::keepsWaitingForAUsableFix_data()
 void test_LocationRequest::keepsWaitingForAUsableFix()
 {
     QFETCH(QString, answer);
-    const support::FakeGeoClue service(answer);
-    QTRY_VERIFY(service.isThere());
+    GeoClue service;
+    QVERIFY(service.answers(answer));
 
     platform::LocationService location{QString(kLocationDesktopId)};
     QSignalSpy fixes(&location, &platform::LocationService::updated);
@@ -101,8 +102,8 @@ void test_LocationRequest::keepsWaitingForAUsableFix()
 
 void test_LocationRequest::silenceEndsInAFailure()
 {
-    const support::FakeGeoClue service(u"silent"_s);
-    QTRY_VERIFY(service.isThere());
+    GeoClue service;
+    QVERIFY(service.answers(u"silent"_s));
 
     platform::LocationService location{QString(kLocationDesktopId)};
     QCOMPARE(platform::LocationService::kPatience, 60s);
@@ -117,8 +118,8 @@ void test_LocationRequest::silenceEndsInAFailure()
 
 void test_LocationRequest::nothingIsReportedAfterStopping()
 {
-    const support::FakeGeoClue service(u"good"_s);
-    QTRY_VERIFY(service.isThere());
+    GeoClue service;
+    QVERIFY(service.answers(u"good"_s));
 
     platform::LocationService location{QString(kLocationDesktopId)};
     QSignalSpy fixes(&location, &platform::LocationService::updated);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Reads freed memory on purpose. Sanitized builds expect it to be caught: if it is not, the sanitizer is off and all
-// the other tests prove less than they seem to.
+// Reads freed memory on purpose. Sanitized builds expect it to be caught: if it is not, the
+// sanitizer is off and all the other tests prove less than they seem to.
 #include <cstdlib>
 
 int main()

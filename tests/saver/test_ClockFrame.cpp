@@ -41,7 +41,7 @@ QImage picture(const ClockFrame &frame, double ratio = 1.0)
     QImage image((frame.bounds.size() * ratio).toSize(), QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);
     image.fill(Qt::magenta);
-    QImage scratch;
+    FrameScratch scratch;
     QPainter painter(&image);
     drawFrame(painter, frame, scratch);
     return image;
@@ -65,7 +65,8 @@ private Q_SLOTS:
         QTest::newRow("noon") << u"12:00:00"_s << 0.0 << 0.0 << 0.0;
         QTest::newRow("midnight") << u"00:00:00"_s << 0.0 << 0.0 << 0.0;
         QTest::newRow("afternoon repeats morning") << u"13:00:00"_s << 30.0 << 0.0 << 0.0;
-        QTest::newRow("seconds move no other hand") << u"09:15:59.999"_s << 277.5 << 90.0 << 359.994;
+        QTest::newRow("seconds move no other hand")
+            << u"09:15:59.999"_s << 277.5 << 90.0 << 359.994;
     }
 
     void handsPointWhereTheTimeSays()
@@ -107,7 +108,8 @@ private Q_SLOTS:
         QCOMPARE(picture(frame).pixel(100, 10), kInk);
     }
 
-    /// The artwork turns about the exact centre and reaches neither beyond the dial nor short of its ring.
+    /// The artwork turns about the exact centre and reaches neither beyond the dial nor short of
+    /// its ring.
     void everyVariantIsCentred_data()
     {
         QTest::addColumn<QString>("variant");
@@ -157,7 +159,8 @@ private Q_SLOTS:
         const QImage plain = picture(frame, ratio);
         frame.tinted = true;
         QVERIFY(pixels::largestDifference(plain, picture(frame, ratio)) <= 2);
-        frame.artwork = artworkOf(u"cream"_s); // even a coloured hand becomes part of the silhouette
+        frame.artwork =
+            artworkOf(u"cream"_s); // even a coloured hand becomes part of the silhouette
         QVERIFY(pixels::largestDifference(plain, picture(frame, ratio)) <= 2);
         frame.mark = QColor(0, 200, 40);
         QCOMPARE(picture(frame).pixelColor((at + QPointF(187.3 / 2, 10)).toPoint()),
@@ -173,7 +176,8 @@ private Q_SLOTS:
                             "<d fill=\"#000\"/><e style=\"fill:black\"/><f stroke=\"black\"/>"));
     }
 
-    /// On black paper the template is invisible: each of its shapes is black, so each takes the mark colour.
+    /// On black paper the template is invisible: each of its shapes is black, so each takes the
+    /// mark colour.
     void templateArtworkRecoloursWhole()
     {
         ClockFrame paper = emptyFrame(200);

@@ -11,14 +11,15 @@
 /// Measures on finished pictures, independent of the code that drew them.
 namespace pixels {
 
-/// How far \p pixel went from \p background towards \p ink, 0 to 1, judged by the channel with the largest span.
+/// How far \p pixel went from \p background towards \p ink, 0 to 1, judged by the channel with the
+/// largest span.
 inline double coverage(QRgb pixel, QRgb background, QRgb ink)
 {
     const auto channel = [](QRgb c, int i) { return int((c >> (8 * i)) & 0xff); };
     int widest = 0;
     for (int i = 1; i < 3; ++i) {
-        if (std::abs(channel(ink, i) - channel(background, i))
-            > std::abs(channel(ink, widest) - channel(background, widest)))
+        if (std::abs(channel(ink, i) - channel(background, i)) >
+            std::abs(channel(ink, widest) - channel(background, widest)))
             widest = i;
     }
     const double span = channel(ink, widest) - channel(background, widest);
@@ -32,7 +33,8 @@ struct Arc
     double width = 0.0;  ///< degrees
 };
 
-/// The runs of anything but \p background on the circle of \p radius pixels about the picture's centre.
+/// The runs of anything but \p background on the circle of \p radius pixels about the picture's
+/// centre.
 inline std::vector<Arc> arcsOnCircle(const QImage &picture, double radius, QRgb background)
 {
     constexpr int kSamples = 7200;
@@ -41,8 +43,9 @@ inline std::vector<Arc> arcsOnCircle(const QImage &picture, double radius, QRgb 
         const int x = int(std::floor(picture.width() / 2.0 + radius * std::sin(angle)));
         const int y = int(std::floor(picture.height() / 2.0 - radius * std::cos(angle)));
         const QRgb pixel = picture.pixel(x, y);
-        const int difference = std::abs(qRed(pixel) - qRed(background)) + std::abs(qGreen(pixel) - qGreen(background))
-                               + std::abs(qBlue(pixel) - qBlue(background));
+        const int difference = std::abs(qRed(pixel) - qRed(background)) +
+                               std::abs(qGreen(pixel) - qGreen(background)) +
+                               std::abs(qBlue(pixel) - qBlue(background));
         return difference > 120;
     };
     int start = 0;
@@ -64,7 +67,8 @@ inline std::vector<Arc> arcsOnCircle(const QImage &picture, double radius, QRgb 
     return arcs;
 }
 
-/// The direction in which the ink of \p picture lies from its centre, in degrees clockwise from 12 o'clock.
+/// The direction in which the ink of \p picture lies from its centre, in degrees clockwise from 12
+/// o'clock.
 inline double inkDirection(const QImage &picture, QRgb background, QRgb ink)
 {
     double x = 0.0;
@@ -80,7 +84,8 @@ inline double inkDirection(const QImage &picture, QRgb background, QRgb ink)
     return degrees < 0.0 ? degrees + 360.0 : degrees;
 }
 
-/// The largest difference of one channel between two pictures of the same size; 256 when the sizes differ.
+/// The largest difference of one channel between two pictures of the same size; 256 when the sizes
+/// differ.
 inline int largestDifference(const QImage &a, const QImage &b)
 {
     if (a.size() != b.size())
@@ -90,8 +95,8 @@ inline int largestDifference(const QImage &a, const QImage &b)
         for (int x = 0; x < a.width(); ++x) {
             const QRgb p = a.pixel(x, y);
             const QRgb q = b.pixel(x, y);
-            largest = std::max({largest, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
-                                std::abs(qBlue(p) - qBlue(q))});
+            largest = std::max({largest, std::abs(qRed(p) - qRed(q)),
+                                std::abs(qGreen(p) - qGreen(q)), std::abs(qBlue(p) - qBlue(q))});
         }
     }
     return largest;

@@ -12,7 +12,13 @@
 class TestBus
 {
 public:
-    TestBus() { qputenv("DBUS_SESSION_BUS_ADDRESS", address()); }
+    enum class Kind { Session, System };
+
+    explicit TestBus(Kind kind = Kind::Session)
+    {
+        qputenv(kind == Kind::Session ? "DBUS_SESSION_BUS_ADDRESS" : "DBUS_SYSTEM_BUS_ADDRESS",
+                address());
+    }
     ~TestBus() { kill(); }
 
     QByteArray address() const { return "unix:path=" + m_dir.filePath("bus").toLocal8Bit(); }

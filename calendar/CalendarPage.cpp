@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "calendar/CalendarPage.h"
+
+#include "calendar/CalendarTexts.h"
+#include "calendar/TamselCalendarFont.h"
+#include "calendar/TamselCalendarLayout.h"
+
+#include <QFontMetricsF>
+
+namespace {
+
+/// Units of a page per unit of the design grid. Font sizes are whole numbers and outlines good to
+/// 1/64 of a unit, which is not enough on a wall unless the units are small.
+constexpr double kFineness = 16.0;
+
+} // namespace
+
+CalendarPage calendarPage(QDate date, bool portrait, const QLocale &locale)
+{
+    const CalendarGrid grid = calendarGrid(portrait, kFineness);
+    const CalendarTexts texts = calendarTexts(date, locale);
+    const QFont regular = TamselCalendarFont(false, int(grid.daySize));
+    const QFont medium = TamselCalendarFont(true, int(grid.daySize));
+
+    CalendarPage page{date, portrait, locale, grid};
+    page.titleInset = TamselCalendarTitleInset(regular, locale, grid.cellWidth());
+    page.capHeight = QFontMetricsF(regular).capHeight();
+    page.leadingCells = calendarLeadingCells(date);
+    page.title = textShape(texts.title, TamselCalendarFont(false, int(grid.titleSize)));
+    for (size_t column = 0; column < page.weekdays.size(); ++column)
+        page.weekdays[column] = textShape(texts.weekdays[column], regular);
+    const int today = date.day();
+    for (int day = 1; day <= int(texts.days.size()); ++day)
+        page.days.push_back(textShape(texts.days.at(day - 1), day == today ? medium : regular));
+    return page;
+}
+
+const CalendarPage &CalendarPageCache::page(QDate date, bool portrait, const QLocale &locale)
+{
+    if (!m_page || m_page->date != date || m_page->portrait != portrait || m_page->locale != locale)
+        m_page = calendarPage(date, portrait, locale);
+    return *m_page;
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDate>
+#include <QLocale>
+#include <QStringList>
+
+#include <array>
+
+/// What is written on the calendar of one month.
+struct CalendarTexts
+{
+    /// The stand-alone month name and the year's last two digits.
+    QString title;
+    /// Monday first.
+    std::array<QString, 7> weekdays;
+    /// One for each day of the month.
+    QStringList days;
+};
+
+/// The texts of the month that contains \p date, in the words and digits of \p locale.
+CalendarTexts calendarTexts(QDate date, const QLocale &locale);
+
+/// The first character of \p dayName as a reader counts characters, in upper case.
+QString weekdayLabel(const QString &dayName, const QLocale &locale);

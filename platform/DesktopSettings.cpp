@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "platform/DesktopSettings.h"
+
+#include <QDBusArgument>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QList>
+
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString kService = u"org.freedesktop.portal.Desktop"_s;
+const QString kPath = u"/org/freedesktop/portal/desktop"_s;
+const QString kInterface = u"org.freedesktop.portal.Settings"_s;
+
+const QString kAppearance = u"org.freedesktop.appearance"_s;
+const QString kColorScheme = u"color-scheme"_s;
+const QString kAccentColor = u"accent-color"_s;
+const QString kReducedMotion = u"reduced-motion"_s;
+const QString kGnome = u"org.gnome.desktop.interface"_s;
+const QString kEnableAnimations = u"enable-animations"_s;
+const QString kKde = u"org.kde.kdeglobals.KDE"_s;
+const QString kAnimationFactor = u"AnimationDurationFactor"_s;
+
+constexpr uint kNoPreference = 0;
+constexpr uint kPrefersDark = 1;
+constexpr uint kPrefersLight = 2;
+constexpr uint kReduceMotion = 1;
+
+/// The value inside any number of variants: older portals put one more around it.
+QVariant unwrapped(QVariant value)
+{
+    while (value.metaType() == QMetaType::fromType<QDBusVariant>()) {
+        value = QVariant(value.value<QDBusVariant>().variant());
+    }
+    return value;
+}
+
+template <typename T>
+std::optional<T> as(const QVariant &value)
+{
+    if (value.metaType() != QMetaType::fromType<T>()) {
+        return {};
+    }
+    return value.value<T>();
+}
+
+std::optional<double> asNumber(const QVariant &value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+std::optional<bool> asPrefersDark(const QVariant &value)
+{
+    switch (as<uint>(value).value_or(kNoPreference)) {
+    case kPrefersDark:
+        return true;
+    case kPrefersLight:
+        return false;
+    default:
+        return {};
+    }
+}
+
+/// Red, green and blue of sRGB, 0 to 1; anything outside means that there is no accent.
+QColor asColor(const QVariant &value)
+{
+    const auto argument = as<QDBusArgument>(value);
+    if (!argument || argument->currentSignature() != "(ddd)"_L1) {
+        return {};
+    }
+    // Reading from an argument that is not const would make it one to be written.
+    const QDBusArgument &components = *argument;
+    double red = 0.0;
+    double green = 0.0;
+    double blue = 0.0;
+    components.beginStructure();
+    components >> red >> green >> blue;
+    components.endStructure();
+    const auto isComponent = [](double c) { return c >= 0.0 && c <= 1.0; };
+    if (!isComponent(red) || !isComponent(green) || !isComponent(blue)) {
+        return {};
+    }
+    return QColor::fromRgbF(float(red), float(green), float(blue));
+}
+
+} // namespace
+
+bool DesktopSettings::wantsReducedMotion() const
+{
+    if (reducedMotion) {
+        return *reducedMotion;
+    }
+    if (enableAnimations) {
+        return !*enableAnimations;
+    }
+    return animationFactor && *animationFactor <= 0.0;
+}
+
+void DesktopSettings::take(const QString &group, const QString &key, const QVariant &value)
+{
+    if (group == kAppearance && key == kColorScheme) {
+        prefersDark = asPrefersDark(value);
+    } else if (group == kAppearance && key == kAccentColor) {
+        accent = asColor(value);
+    } else if (group == kAppearance && key == kReducedMotion) {
+        const auto motion = as<uint>(value);
+        reducedMotion = motion ? std::optional(*motion == kReduceMotion) : std::nullopt;
+    } else if (group == kGnome && key == kEnableAnimations) {
+        enableAnimations = as<bool>(value);
+    } else if (group == kKde && key == kAnimationFactor) {
+        animationFactor = asNumber(value);
+    }
+}
+
+DesktopSettingsReader::DesktopSettingsReader(QObject *parent)
+    : QObject(parent), m_bus(MessageBus::Kind::Session)
+{
+    connect(&m_bus, &MessageBus::connected, this, &DesktopSettingsReader::readAll);
+    m_bus.subscribe(
+        {kPath, kInterface, u"SettingChanged"_s}, this, [this](const QDBusMessage &signal) {
+            const QVariantList arguments = signal.arguments();
+            take(arguments.value(0).toString(), arguments.value(1).toString(), arguments.value(2));
+        });
+}
+
+void DesktopSettingsReader::readAll()
+{
+    const QList<std::pair<QString, QString>> used{{kAppearance, kColorScheme},
+                                                  {kAppearance, kAccentColor},
+                                                  {kAppearance, kReducedMotion},
+                                                  {kGnome, kEnableAnimations},
+                                                  {kKde, kAnimationFactor}};
+    for (const auto &[group, key] : used) {
+        read(u"ReadOne"_s, group, key);
+    }
+}
+
+/// Portals before version 2 of the interface know only the older "Read".
+void DesktopSettingsReader::read(const QString &method, const QString &group, const QString &key)
+{
+    auto call = QDBusMessage::createMethodCall(kService, kPath, kInterface, method);
+    call << group << key;
+    m_bus.call(call, [this, method, group, key](const QDBusMessage &reply) {
+        const QString older = u"Read"_s;
+        const bool isUnknown = QDBusError(reply).type() == QDBusError::UnknownMethod;
+        if (isUnknown && method != older) {
+            read(older, group, key);
+            return;
+        }
+        const bool isReply = reply.type() == QDBusMessage::ReplyMessage;
+        take(group, key, isReply ? reply.arguments().value(0) : QVariant());
+    });
+}
+
+void DesktopSettingsReader::take(const QString &group, const QString &key, const QVariant &value)
+{
+    const DesktopSettings before = m_settings;
+    m_settings.take(group, key, unwrapped(value));
+    if (m_settings != before) {
+        Q_EMIT changed();
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,334 @@
+// SPDX-License-Identifier: MIT
+// The saver view following its stored settings and the time of day.
+#include "prefs/HexColor.h"
+#include "tests/support/Pixels.h"
+#include "tests/support/SaverFixture.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QColor kOrange = QColor::fromRgbF(1.0F, 0.2745F, 0.0F);
+const QVariantMap kNight{
+    {u"enabled"_s, true},         {u"from"_s, 1170},          {u"to"_s, 450},
+    {u"fromMode"_s, u"custom"_s}, {u"toMode"_s, u"custom"_s}, {u"base"_s, u"#101820"_s},
+    {u"mark"_s, u"#C0A080"_s}};
+
+/// When a file was last changed, in nanoseconds.
+qint64 changeTime(const platform::PreferenceDomain &store)
+{
+    struct stat status = {};
+    ::stat(QFile::encodeName(store.path()).constData(), &status);
+    return qint64(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec;
+}
+
+bool writtenInOrder(std::initializer_list<const platform::PreferenceDomain *> stores)
+{
+    return std::is_sorted(stores.begin(), stores.end(),
+                          [](auto *a, auto *b) { return changeTime(*a) < changeTime(*b); });
+}
+
+} // namespace
+
+class TestTamselClockSaverView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsWithTheDocumentedDefaults()
+    {
+        const SaverFixture f;
+        const auto view = f.makeView();
+        QCOMPARE(view->loadedPalette().activeVariant, u"orange"_s);
+        QCOMPARE(view->displayedBackgroundColor(), kOrange);
+        QVERIFY(!view->appliedSettings().calendarEnabled);
+        QCOMPARE(SaverFixture::picture(*view).pixelColor(1, 1), QColor(0xff, 0x46, 0x00));
+    }
+
+    void showsTheStoredVariant_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QColor>("background");
+        QTest::addColumn<QColor>("mark");
+        QTest::newRow("blue") << u"blue"_s << u"blue"_s << QColor(0x00, 0x21, 0xd0)
+                              << QColor(Qt::white);
+        QTest::newRow("cream") << u"cream"_s << u"cream"_s << QColor(0xff, 0xf5, 0xe8)
+                               << QColor(Qt::black);
+        QTest::newRow("nero") << u"nero"_s << u"nero"_s << QColor(Qt::black) << QColor(Qt::white);
+        QTest::newRow("alias of nero")
+            << u"black"_s << u"nero"_s << QColor(Qt::black) << QColor(Qt::white);
+        QTest::newRow("unknown") << u"mauve"_s << u"orange"_s << QColor(0xff, 0x46, 0x00)
+                                 << QColor(Qt::black);
+        QTest::newRow("the night is no variant")
+            << u"night"_s << u"orange"_s << QColor(0xff, 0x46, 0x00) << QColor(Qt::black);
+        QTest::newRow("custom without colours")
+            << u"custom"_s << u"custom"_s << QColor(0xff, 0x46, 0x00) << QColor(Qt::black);
+    }
+
+    /// Written while the view runs, by another process: on screen with the next frame.
+    void showsTheStoredVariant()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QColor, background);
+        QFETCH(QColor, mark);
+        const SaverFixture f;
+        const auto view = f.makeView();
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, stored);
+        view->animateOneFrame();
+        QTEST(view->loadedPalette().activeVariant, "shown");
+        const QImage picture = SaverFixture::picture(*view);
+        QCOMPARE(picture.pixelColor(1, 1), background);
+        QCOMPARE(picture.pixelColor(98, 26), mark); // the baton at 12
+    }
+
+    void randomPicksAfreshAtEachStartOnly()
+    {
+        const SaverFixture f;
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"random"_s);
+        const auto view = f.makeView();
+        QHash<QString, int> picks;
+        for (int start = 0; start < 200; ++start) {
+            view->startAnimation();
+            const QString picked = view->loadedPalette().activeVariant;
+            view->animateOneFrame();
+            QCOMPARE(view->loadedPalette().activeVariant, picked);
+            ++picks[picked];
+        }
+        view->stopAnimation();
+        QCOMPARE(picks.size(), 4);
+        QVERIFY(!picks.contains(u"custom"_s));
+        // 200 uniform picks put fewer than 20 on one of four about once in ten million runs.
+        for (const int count : std::as_const(picks))
+            QVERIFY(count > 20);
+    }
+
+    void customColoursAreFollowed()
+    {
+        const SaverFixture f;
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
+        const auto view = f.makeView();
+        SaverFixture::set(f.stores.saverDefaults, kCustomMarkColorKey, u"#00FF00"_s);
+        SaverFixture::set(f.stores.suite, kCustomBaseColorKey, u"#0000FF"_s);
+        view->animateOneFrame();
+        const QImage picture = SaverFixture::picture(*view);
+        QCOMPARE(picture.pixelColor(1, 1), QColor(0, 0, 255));
+        QCOMPARE(picture.pixelColor(98, 26), QColor(0, 255, 0));
+        QCOMPARE(view->paletteTransitionProgress(), 1.0); // no fade
+    }
+
+    void calendarSwitchKeepsThePalette()
+    {
+        const SaverFixture f;
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"random"_s);
+        const auto view = f.makeView();
+        const QString picked = view->loadedPalette().activeVariant;
+        for (int i = 0; i < 20; ++i) {
+            SaverFixture::set(f.stores.suite, kCalendarEnabledKey, i % 2 == 0);
+            view->animateOneFrame();
+            QCOMPARE(view->appliedSettings().calendarEnabled, i % 2 == 0);
+            QCOMPARE(view->loadedPalette().activeVariant, picked);
+        }
+        const QRectF solo = view->clockRect();
+        SaverFixture::set(f.stores.suite, kCalendarEnabledKey, true);
+        view->animateOneFrame();
+        QVERIFY(view->clockRect().width() < solo.width());
+    }
+
+    void nightFadesInExactly()
+    {
+        SaverFixture f;
+        f.setNight(kNight);
+        f.setTime(19, 29);
+        const auto view = f.makeView();
+        QCOMPARE(view->loadedPalette().activeVariant, u"orange"_s);
+        f.setTime(19, 30);
+        view->animateOneFrame();
+        QCOMPARE(view->loadedPalette().activeVariant, u"night"_s);
+        const QColor night(0x10, 0x18, 0x20);
+        // Eased progress at the quarters: 0, 0.15625, 0.5, 0.84375, 1.
+        const double eased[] = {0.0, 0.15625, 0.5, 0.84375, 1.0};
+        for (int quarter = 0; quarter <= 4; ++quarter) {
+            f.clocks.setMonotonicSeconds(1000.0 + quarter * 0.75);
+            const QColor shown = SaverFixture::picture(*view).pixelColor(1, 1);
+            const auto expected = [&](float from, float to) {
+                return std::lround((double(from) + double(to - from) * eased[quarter]) * 255.0);
+            };
+            QVERIFY(std::abs(shown.red() - expected(kOrange.redF(), night.redF())) <= 1);
+            QVERIFY(std::abs(shown.green() - expected(kOrange.greenF(), night.greenF())) <= 1);
+            QVERIFY(std::abs(shown.blue() - expected(kOrange.blueF(), night.blueF())) <= 1);
+        }
+    }
+
+    void theLastFrameOfAFadeIsThePlainOne()
+    {
+        SaverFixture f;
+        f.setNight(kNight);
+        const auto fading = f.makeView();
+        f.setTime(22, 0);
+        fading->animateOneFrame();
+        f.clocks.setMonotonicSeconds(1002.9);
+        const QImage tinted = SaverFixture::picture(*fading);
+        f.clocks.setMonotonicSeconds(1003.0);
+        const QImage last = SaverFixture::picture(*fading);
+        const auto plain = f.makeView();
+        QCOMPARE(last, SaverFixture::picture(*plain));
+        QVERIFY(tinted != last);
+        QCOMPARE(SaverFixture::picture(*fading), last);
+    }
+
+    void aFlipInMidFadeGoesOnFromTheColoursOnScreen()
+    {
+        SaverFixture f;
+        f.setNight(kNight);
+        const auto view = f.makeView();
+        f.setTime(22, 0);
+        view->animateOneFrame();
+        f.clocks.setMonotonicSeconds(1001.0);
+        const QColor background = view->displayedBackgroundColor();
+        const QColor mark = view->displayedMarkColor();
+        f.setTime(12, 0); // the clock was set back to noon
+        view->animateOneFrame();
+        QCOMPARE(view->loadedPalette().activeVariant, u"orange"_s);
+        QCOMPARE(view->displayedBackgroundColor(), background);
+        QCOMPARE(view->displayedMarkColor(), mark);
+        f.clocks.setMonotonicSeconds(1004.0);
+        QCOMPARE(view->displayedBackgroundColor(), kOrange);
+    }
+
+    void anotherChangeEndsAFade_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QVariantMap darker = kNight;
+        darker.insert(u"base"_s, u"#000001"_s);
+        QTest::newRow("night colours") << kNightSettingsKey.toString() << QVariant(darker);
+        QTest::newRow("variant") << kSelectedVariantKey.toString() << QVariant(u"blue"_s);
+    }
+
+    void anotherChangeEndsAFade()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        SaverFixture f;
+        f.setNight(kNight);
+        const auto view = f.makeView();
+        f.setTime(22, 0);
+        view->animateOneFrame();
+        f.clocks.setMonotonicSeconds(1001.0);
+        QVERIFY(view->paletteTransitionProgress() < 1.0);
+        SaverFixture::set(f.stores.suite, key, value);
+        view->animateOneFrame();
+        QCOMPARE(view->paletteTransitionProgress(), 1.0);
+        QCOMPARE(view->loadedPalette().activeVariant, u"night"_s);
+    }
+
+    void theNightHidesCustomColours()
+    {
+        SaverFixture f;
+        f.setNight(kNight);
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
+        f.setTime(23, 0);
+        const auto view = f.makeView();
+        SaverFixture::set(f.stores.suite, kCustomBaseColorKey, u"#123456"_s);
+        view->animateOneFrame();
+        QCOMPARE(view->paletteTransitionProgress(), 1.0);
+        QVERIFY(!view->appliedSettings().lastStoredCustomBaseColor.isValid());
+        QCOMPARE(view->displayedBackgroundColor(), QColor(0x10, 0x18, 0x20));
+    }
+
+    void storingWritesInOrder()
+    {
+        const SaverFixture f;
+        const auto view = f.makeView();
+        const PreferenceStores &s = f.stores;
+        const auto everywhere = [&](QStringView key) {
+            QVariantList values;
+            for (const auto *store :
+                 {&s.suite, &s.saverDefaults, &s.shortNameDefaults, &s.standardDefaults})
+                values.append(store->value(key.toString()));
+            return values;
+        };
+        view->storeSelectedVariant(u"random"_s);
+        QCOMPARE(everywhere(kSelectedVariantKey), QVariantList(4, u"orange"_s));
+        QVERIFY(writtenInOrder(
+            {&s.suite, &s.standardDefaults, &s.saverDefaults, &s.shortNameDefaults}));
+        view->storeSelectedVariant(u"black"_s);
+        QCOMPARE(view->storedSelectedVariant(), u"nero"_s);
+        view->storeCalendarEnabled(true);
+        QCOMPARE(everywhere(kCalendarEnabledKey), QVariantList(4, true));
+        view->storeColor(QColor(1, 2, 3, 4), kCustomBaseColorKey);
+        QCOMPARE(everywhere(kCustomBaseColorKey), QVariantList(4, u"#010203"_s));
+        QVERIFY(writtenInOrder(
+            {&s.suite, &s.saverDefaults, &s.shortNameDefaults, &s.standardDefaults}));
+        view->storeNightSettings({{u"enabled"_s, true}, {u"from"_s, 5000LL}});
+        QCOMPARE(s.suite.value(kNightSettingsKey.toString()).toMap().value(u"from"_s).toInt(),
+                 5000);
+        QVERIFY(s.saverDefaults.value(kNightSettingsKey.toString()).isValid());
+        QVERIFY(!s.shortNameDefaults.value(kNightSettingsKey.toString()).isValid());
+        QCOMPARE(view->storedNightSettings().value(u"from"_s).toInt(), 1439);
+    }
+
+    void damagedStoresShowTheDefaults_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("noise") << QByteArray("\xff\xfe<plist");
+        QTest::newRow("cut off") << QByteArray(
+            "<?xml version=\"1.0\"?><plist><dict><key>SelectedVariant</key>");
+        QTest::newRow("an array") << QByteArray(
+            "<plist version=\"1.0\"><array><string>blue</string></array></plist>");
+    }
+
+    void damagedStoresShowTheDefaults()
+    {
+        QFETCH(QByteArray, bytes);
+        const SaverFixture f;
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"blue"_s);
+        const auto view = f.makeView();
+        QCOMPARE(view->loadedPalette().activeVariant, u"blue"_s);
+        QFile file(f.stores.suite.path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.close();
+        view->animateOneFrame();
+        QCOMPARE(view->loadedPalette().activeVariant, u"orange"_s);
+        view->storeSelectedVariant(u"cream"_s);
+        view->animateOneFrame();
+        QCOMPARE(view->loadedPalette().activeVariant, u"cream"_s);
+    }
+
+    void artworkThatIsMissingLeavesTheBackground()
+    {
+        const SaverFixture f;
+        platform::Desktop desktop = f.desktop();
+        desktop.bundle = platform::Bundle(f.folder.path());
+        TamselClockSaverView view(desktop, true);
+        view.resize(50, 50);
+        const QImage picture = SaverFixture::picture(view);
+        QImage plain(picture.size(), picture.format());
+        plain.fill(QColor(0xff, 0x46, 0x00));
+        QCOMPARE(picture, plain);
+    }
+
+    void emptyViewsDrawNothing()
+    {
+        const SaverFixture f;
+        SaverFixture::set(f.stores.suite, kCalendarEnabledKey, true);
+        const auto view = f.makeView(false);
+        for (const QSize size : {QSize(0, 0), QSize(1, 1), QSize(400, 1), QSize(1, 400)}) {
+            view->resize(size);
+            QImage image(400, 400, QImage::Format_RGB32);
+            QPainter painter(&image);
+            view->drawRect(painter, view->rect());
+        }
+    }
+};
+
+QTEST_MAIN(TestTamselClockSaverView)
+#include "test_TamselClockSaverView.moc"
