@@ -9,6 +9,7 @@
 #include "night/TamselScheduledSaverView.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
+#include "platform/DisplayServer.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
 
@@ -141,7 +142,7 @@ int runFullScreen(Application &application)
 int inHostWindow(const Options &options, int argc, char **argv)
 {
     const std::optional<quint32> window = options.hostWindow ? options.hostWindow : xRootWindow();
-    if (!window || !xServerAnswers())
+    if (!window || !platform::xServerAnswers())
         return complainAndFail(u"no X display can be reached"_s);
     if (!xWindowExists(*window))
         return complainAndFail(u"there is no window 0x%1"_s.arg(*window, 0, 16));
@@ -152,7 +153,7 @@ int inHostWindow(const Options &options, int argc, char **argv)
 
 int onDisplay(const Options &options, int argc, char **argv)
 {
-    const auto qtPlatform = reachablePlatform();
+    const auto qtPlatform = platform::reachablePlatform();
     if (!qtPlatform)
         return complainAndFail(
             u"no display: neither a Wayland compositor nor an X server answers"_s);
