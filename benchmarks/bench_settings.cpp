@@ -14,7 +14,9 @@ void changeCheck(benchmark::State &state, const QString &variant)
     SaverFixture::set(f.stores.suite, kSelectedVariantKey, variant);
     SaverFixture::set(f.stores.saverDefaults, kCalendarEnabledKey, false);
     SaverFixture::set(f.stores.shortNameDefaults, kCalendarEnabledKey, true);
-    f.setNight({{QStringLiteral("enabled"), true}, {QStringLiteral("from"), 60}, {QStringLiteral("to"), 60}});
+    f.setNight({{QStringLiteral("enabled"), true},
+                {QStringLiteral("from"), 60},
+                {QStringLiteral("to"), 60}});
     platform::Desktop desktop = f.desktop();
     desktop.clocks = &platform::systemClocks();
     TamselClockSaverView view(desktop, false);

@@ -47,20 +47,18 @@ QString colorTextFrom(const QVariant &value, QLatin1StringView fallback)
 
 QVariantMap normalizedNightSettings(const std::optional<QVariantMap> &stored)
 {
-    const auto value = [&](QStringView key) {
-        return stored ? stored->value(key.toString()) : QVariant();
-    };
-    const auto mode = [&](QStringView key, QLatin1StringView solar) -> QString {
+    const auto value = [&](const QString &key) { return stored ? stored->value(key) : QVariant(); };
+    const auto mode = [&](const QString &key, QLatin1StringView solar) -> QString {
         return !stored || value(key) == QVariant(QString(solar)) ? solar : kCustomMode;
     };
     return {
-        {kNightEnabledKey.toString(), booleanSetting(value(kNightEnabledKey))},
-        {kNightFromKey.toString(), minuteFrom(value(kNightFromKey)).value_or(kDefaultFrom)},
-        {kNightToKey.toString(), minuteFrom(value(kNightToKey)).value_or(kDefaultTo)},
-        {kNightFromModeKey.toString(), mode(kNightFromModeKey, "sunset"_L1)},
-        {kNightToModeKey.toString(), mode(kNightToModeKey, "sunrise"_L1)},
-        {kNightBaseKey.toString(), colorTextFrom(value(kNightBaseKey), kDefaultBase)},
-        {kNightMarkKey.toString(), colorTextFrom(value(kNightMarkKey), kDefaultMark)},
+        {kNightEnabledKey, booleanSetting(value(kNightEnabledKey))},
+        {kNightFromKey, minuteFrom(value(kNightFromKey)).value_or(kDefaultFrom)},
+        {kNightToKey, minuteFrom(value(kNightToKey)).value_or(kDefaultTo)},
+        {kNightFromModeKey, mode(kNightFromModeKey, "sunset"_L1)},
+        {kNightToModeKey, mode(kNightToModeKey, "sunrise"_L1)},
+        {kNightBaseKey, colorTextFrom(value(kNightBaseKey), kDefaultBase)},
+        {kNightMarkKey, colorTextFrom(value(kNightMarkKey), kDefaultMark)},
     };
 }
 

@@ -8,16 +8,16 @@
 
 /// The night record: when the night palette shows, and its two colours.
 
-inline constexpr QStringView kNightEnabledKey = u"enabled";
+inline const QString kNightEnabledKey = QStringLiteral("enabled");
 /// Start and end in minutes after local midnight.
-inline constexpr QStringView kNightFromKey = u"from";
-inline constexpr QStringView kNightToKey = u"to";
+inline const QString kNightFromKey = QStringLiteral("from");
+inline const QString kNightToKey = QStringLiteral("to");
 /// How each end is chosen: "sunset" (start) or "sunrise" (end), or "custom" for the minutes above.
-inline constexpr QStringView kNightFromModeKey = u"fromMode";
-inline constexpr QStringView kNightToModeKey = u"toMode";
+inline const QString kNightFromModeKey = QStringLiteral("fromMode");
+inline const QString kNightToModeKey = QStringLiteral("toMode");
 /// Colours as hex text.
-inline constexpr QStringView kNightBaseKey = u"base";
-inline constexpr QStringView kNightMarkKey = u"mark";
+inline const QString kNightBaseKey = QStringLiteral("base");
+inline const QString kNightMarkKey = QStringLiteral("mark");
 
 /// A record with exactly the seven keys, made from the \p stored one, if any: malformed values get
 /// their defaults, minutes are held within the day. A stored record without modes means custom

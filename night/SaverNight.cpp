@@ -16,17 +16,17 @@ void TamselClockSaverView::storeNightSettings(const QVariantMap &record)
 {
     const PreferenceStores &stores = m_stored.stores();
     for (const auto *store : {&stores.suite, &stores.saverDefaults})
-        store->setValue(kNightSettingsKey.toString(), record);
+        store->setValue(kNightSettingsKey, record);
     postVariantChanged({});
 }
 
 bool TamselClockSaverView::nightActiveAtDate(const QDateTime &date, const QVariantMap &settings)
 {
-    if (!booleanSetting(settings.value(kNightEnabledKey.toString())))
+    if (!booleanSetting(settings.value(kNightEnabledKey)))
         return false;
     return TamselNightContainsMinute(minuteOfDay(date.time()),
-                                     settings.value(kNightFromKey.toString()).toLongLong(),
-                                     settings.value(kNightToKey.toString()).toLongLong());
+                                     settings.value(kNightFromKey).toLongLong(),
+                                     settings.value(kNightToKey).toLongLong());
 }
 
 QDateTime TamselClockSaverView::scheduleDate() const

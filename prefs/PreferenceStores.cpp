@@ -5,9 +5,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-platform::PreferenceDomain domain(const QString &folder, QStringView name)
+platform::PreferenceDomain domain(const QString &folder, const QString &name)
 {
-    return platform::PreferenceDomain(folder + u'/' + name.toString() + ".plist"_L1);
+    return platform::PreferenceDomain(folder + u'/' + name + ".plist"_L1);
 }
 
 } // namespace

@@ -4,12 +4,12 @@
 #include "platform/PreferenceDomain.h"
 
 /// Names the saver module: its preferences and its notifications.
-inline constexpr QStringView kModuleIdentifier = u"org.tamsel.VornakClockSaver";
+inline const QString kModuleIdentifier = QStringLiteral("org.tamsel.VornakClockSaver");
 /// The module's short name, under which settings were kept before it had an identifier.
-inline constexpr QStringView kModuleShortName = u"VornakClockSaver";
+inline const QString kModuleShortName = QStringLiteral("VornakClockSaver");
 /// Tells every running view that a stored setting changed.
-inline constexpr QStringView kVariantChangedNotification =
-    u"org.tamsel.VornakClockSaver.variantChanged";
+inline const QString kVariantChangedNotification =
+    QStringLiteral("org.tamsel.VornakClockSaver.variantChanged");
 
 /// The four preference domains a setting may stand in. A cheap value; the files need not exist.
 struct PreferenceStores

@@ -11,11 +11,16 @@ namespace {
 
 /// Writes \p value under \p key to each store in turn; a store that cannot be written is passed
 /// over.
-void write(std::initializer_list<const platform::PreferenceDomain *> stores, QStringView key,
+void write(std::initializer_list<const platform::PreferenceDomain *> stores, const QString &key,
            const QVariant &value)
 {
     for (const platform::PreferenceDomain *store : stores)
-        store->setValue(key.toString(), value);
+        store->setValue(key, value);
+}
+
+QColor colorOr(const QColor &color, const QColor &fallback)
+{
+    return color.isValid() ? color : fallback;
 }
 
 } // namespace
@@ -33,7 +38,7 @@ void TamselClockSaverView::storeSelectedVariant(const QString &variant)
     const PreferenceStores &s = m_stored.stores();
     write({&s.suite, &s.standardDefaults, &s.saverDefaults, &s.shortNameDefaults},
           kSelectedVariantKey, stored);
-    postVariantChanged({{kSelectedVariantKey.toString(), stored}});
+    postVariantChanged({{kSelectedVariantKey, stored}});
 }
 
 bool TamselClockSaverView::storedCalendarEnabled()
@@ -48,41 +53,42 @@ void TamselClockSaverView::storeCalendarEnabled(bool enabled)
           kCalendarEnabledKey, enabled);
     m_settings.calendarEnabled = enabled;
     m_settings.lastStoredCalendarEnabled = enabled;
-    postVariantChanged({{kCalendarEnabledKey.toString(), enabled}});
+    postVariantChanged({{kCalendarEnabledKey, enabled}});
 }
 
-QColor TamselClockSaverView::colorForKey(QStringView key, const QColor &fallback)
+QColor TamselClockSaverView::colorForKey(const QString &key, const QColor &fallback)
 {
     const StoredSettings &stored = m_stored.current();
-    const QColor color =
-        key == kCustomBaseColorKey ? stored.customBaseColor : stored.customMarkColor;
-    return color.isValid() ? color : fallback;
+    return colorOr(key == kCustomBaseColorKey ? stored.customBaseColor : stored.customMarkColor,
+                   fallback);
 }
 
-void TamselClockSaverView::storeColor(const QColor &color, QStringView key)
+void TamselClockSaverView::storeColor(const QColor &color, const QString &key)
 {
     const PreferenceStores &s = m_stored.stores();
     write({&s.suite, &s.saverDefaults, &s.shortNameDefaults, &s.standardDefaults}, key,
           hexStringForColor(color));
 }
 
-void TamselClockSaverView::postVariantChanged(const QVariantMap &userInfo)
+void TamselClockSaverView::postVariantChanged(const QVariantMap &userInfo) const
 {
     if (desktop().notifications)
-        desktop().notifications->post(kVariantChangedNotification.toString(), userInfo);
+        desktop().notifications->post(kVariantChangedNotification, userInfo);
 }
 
 void TamselClockSaverView::reloadVariantIfNeeded()
 {
-    const StoredSettings stored = m_stored.current();
+    const StoredSettings &stored = m_stored.current();
     const bool nightNow = nightActiveAtDate(scheduleDate(), stored.nightSettings);
     const bool nightShown = m_palette.activeVariant == "night"_L1;
     const bool nightFlip = nightNow != nightShown;
     const bool nightChanged =
         nightFlip || stored.nightSettings != m_settings.lastStoredNightSettings;
     const bool customChanged = !nightShown && stored.selectedVariant == "custom"_L1 &&
-                               (customBaseColor() != m_settings.lastStoredCustomBaseColor ||
-                                customMarkColor() != m_settings.lastStoredCustomMarkColor);
+                               (colorOr(stored.customBaseColor, defaultCustomBaseColor()) !=
+                                    m_settings.lastStoredCustomBaseColor ||
+                                colorOr(stored.customMarkColor, defaultCustomMarkColor()) !=
+                                    m_settings.lastStoredCustomMarkColor);
     if (stored.selectedVariant != m_settings.lastStoredVariant || customChanged || nightChanged) {
         reloadPalette(nightFlip);
     } else if (stored.calendarEnabled != m_settings.lastStoredCalendarEnabled) {

@@ -10,10 +10,10 @@ namespace {
 
 constexpr qsizetype kNightStores = 2; // the short name never held a night record
 
-QString firstText(const StoreContents &contents, QStringView key)
+QString firstText(const StoreContents &contents, const QString &key)
 {
     for (const QVariantMap &store : contents) {
-        const QVariant value = store.value(key.toString());
+        const QVariant value = store.value(key);
         if (value.typeId() == QMetaType::QString && !value.toString().isEmpty())
             return value.toString();
     }
@@ -31,7 +31,7 @@ QString variantFrom(const StoreContents &contents)
 bool calendarFrom(const StoreContents &contents)
 {
     for (const QVariantMap &store : contents) {
-        const QVariant value = store.value(kCalendarEnabledKey.toString());
+        const QVariant value = store.value(kCalendarEnabledKey);
         if (value.isValid())
             return booleanSetting(value);
     }
@@ -41,7 +41,7 @@ bool calendarFrom(const StoreContents &contents)
 std::optional<QVariantMap> nightFrom(const StoreContents &contents)
 {
     for (qsizetype i = 0; i < kNightStores; ++i) {
-        const QVariant value = contents[size_t(i)].value(kNightSettingsKey.toString());
+        const QVariant value = contents[size_t(i)].value(kNightSettingsKey);
         if (value.typeId() == QMetaType::QVariantMap)
             return value.toMap();
     }

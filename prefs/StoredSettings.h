@@ -9,11 +9,11 @@
 #include <array>
 
 /// The preference keys.
-inline constexpr QStringView kSelectedVariantKey = u"SelectedVariant";
-inline constexpr QStringView kCalendarEnabledKey = u"CalendarEnabled";
-inline constexpr QStringView kCustomBaseColorKey = u"CustomBaseColor";
-inline constexpr QStringView kCustomMarkColorKey = u"CustomMarkColor";
-inline constexpr QStringView kNightSettingsKey = u"NightSettings";
+inline const QString kSelectedVariantKey = QStringLiteral("SelectedVariant");
+inline const QString kCalendarEnabledKey = QStringLiteral("CalendarEnabled");
+inline const QString kCustomBaseColorKey = QStringLiteral("CustomBaseColor");
+inline const QString kCustomMarkColorKey = QStringLiteral("CustomMarkColor");
+inline const QString kNightSettingsKey = QStringLiteral("NightSettings");
 
 /// All values of the three stores that are read, in the order in which they are asked.
 using StoreContents = std::array<QVariantMap, 3>;

@@ -74,9 +74,8 @@ void TamselClockSaverView::loadNightPalette()
         return;
     m_palette.activeVariant = u"night"_s;
     const QVariantMap &night = m_settings.lastStoredNightSettings;
-    const QColor mark = colorFromHexString(night.value(kNightMarkKey.toString()).toString());
-    m_palette.backgroundColor =
-        colorFromHexString(night.value(kNightBaseKey.toString()).toString());
+    const QColor mark = colorFromHexString(night.value(kNightMarkKey).toString());
+    m_palette.backgroundColor = colorFromHexString(night.value(kNightBaseKey).toString());
     m_palette.artwork =
         artworkFrom([&](const QString &name) { return customImageNamed(name, mark); });
 }
@@ -133,12 +132,22 @@ platform::SvgImage TamselClockSaverView::customImageNamed(const QString &name,
     return svg ? platform::SvgImage::fromSvg(recoloredArtwork(*svg, color)) : platform::SvgImage();
 }
 
+QColor TamselClockSaverView::defaultCustomBaseColor()
+{
+    return backgroundColors().value(kTemplateVariant);
+}
+
+QColor TamselClockSaverView::defaultCustomMarkColor()
+{
+    return Qt::black;
+}
+
 QColor TamselClockSaverView::customBaseColor()
 {
-    return colorForKey(kCustomBaseColorKey, backgroundColors().value(kTemplateVariant));
+    return colorForKey(kCustomBaseColorKey, defaultCustomBaseColor());
 }
 
 QColor TamselClockSaverView::customMarkColor()
 {
-    return colorForKey(kCustomMarkColorKey, QColor(Qt::black));
+    return colorForKey(kCustomMarkColorKey, defaultCustomMarkColor());
 }

@@ -20,7 +20,7 @@ QColor TamselClockSaverView::activeMarkColor()
     const QString &variant = m_palette.activeVariant;
     if (variant == "night"_L1)
         return colorFromHexString(
-            m_settings.lastStoredNightSettings.value(kNightMarkKey.toString()).toString());
+            m_settings.lastStoredNightSettings.value(kNightMarkKey).toString());
     if (variant == "custom"_L1)
         return customMarkColor();
     return variant == "blue"_L1 || variant == "nero"_L1 ? Qt::white : Qt::black;

@@ -6,6 +6,7 @@
 #include "prefs/StoredSettings.h"
 #include "saver/Artwork.h"
 #include "saver/ClockFrame.h"
+#include "saver/FramePainter.h"
 
 #include <QColor>
 #include <QHash>
@@ -74,6 +75,10 @@ public:
     /// The background of each variant with artwork of its own.
     static const QHash<QString, QColor> &backgroundColors();
 
+    /// The custom variant's colours where none are stored.
+    static QColor defaultCustomBaseColor();
+    static QColor defaultCustomMarkColor();
+
     /// Resolves the stored settings into the loaded palette; does nothing when that palette is
     /// already loaded.
     void loadSelectedVariant();
@@ -109,9 +114,9 @@ public:
     /// Stores the switch, applies it to this view and tells every view.
     void storeCalendarEnabled(bool enabled);
     /// The colour stored under \p key (CustomBaseColor or CustomMarkColor), or \p fallback.
-    QColor colorForKey(QStringView key, const QColor &fallback);
+    QColor colorForKey(const QString &key, const QColor &fallback);
     /// Stores \p color as hex text under \p key; nobody is told.
-    void storeColor(const QColor &color, QStringView key);
+    void storeColor(const QColor &color, const QString &key);
     /// Reads every setting and the night state afresh and applies what changed.
     void reloadVariantIfNeeded();
 
@@ -135,17 +140,18 @@ public:
     const LoadedPalette &loadedPalette() const { return m_palette; }
     const AppliedSettings &appliedSettings() const { return m_settings; }
 
-public Q_SLOTS:
+    /// Somebody changed a setting, or the session came back: checks at once.
     void screenSaverPreferencesMayHaveChanged();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void loadNightPalette();
     void loadDayPalette();
     void reloadPalette(bool nightFlip);
-    void postVariantChanged(const QVariantMap &userInfo);
+    void postVariantChanged(const QVariantMap &userInfo) const;
 
     platform::Desktop m_desktop;
     SettingsReader m_stored;
@@ -153,4 +159,7 @@ private:
     AppliedSettings m_settings;
     PaletteTransition m_transition;
     FrameScratch m_scratch;
+    /// The frame on screen.
+    ClockFrame m_shown;
+    FramePainter m_painter;
 };

@@ -12,9 +12,9 @@ class TestStoredSettings : public QObject
 {
     Q_OBJECT
 
-    static QVariantMap one(QStringView key, const QVariant &value)
+    static QVariantMap one(const QString &key, const QVariant &value)
     {
-        return value.isValid() ? QVariantMap{{key.toString(), value}} : QVariantMap();
+        return value.isValid() ? QVariantMap{{key, value}} : QVariantMap();
     }
 
 private Q_SLOTS:

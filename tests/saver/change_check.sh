@@ -3,7 +3,6 @@
 # A frame that nothing changed opens, reads and maps no file and talks to nobody.
 set -u
 trace=$(mktemp)
-sleep 0.1 # settings written a moment ago are looked at twice
 strace -f -o "$trace" "$1" || exit 1
 between=$(sed -n '/mark-begin/,/mark-end/p' "$trace" | grep -v mark-)
 grep -q mark-end "$trace" || { echo "FAILED: no trace"; exit 1; }

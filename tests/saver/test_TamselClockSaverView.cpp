@@ -207,8 +207,8 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("value");
         QVariantMap darker = kNight;
         darker.insert(u"base"_s, u"#000001"_s);
-        QTest::newRow("night colours") << kNightSettingsKey.toString() << QVariant(darker);
-        QTest::newRow("variant") << kSelectedVariantKey.toString() << QVariant(u"blue"_s);
+        QTest::newRow("night colours") << kNightSettingsKey << QVariant(darker);
+        QTest::newRow("variant") << kSelectedVariantKey << QVariant(u"blue"_s);
     }
 
     void anotherChangeEndsAFade()
@@ -267,10 +267,9 @@ private Q_SLOTS:
         QVERIFY(writtenInOrder(
             {&s.suite, &s.saverDefaults, &s.shortNameDefaults, &s.standardDefaults}));
         view->storeNightSettings({{u"enabled"_s, true}, {u"from"_s, 5000LL}});
-        QCOMPARE(s.suite.value(kNightSettingsKey.toString()).toMap().value(u"from"_s).toInt(),
-                 5000);
-        QVERIFY(s.saverDefaults.value(kNightSettingsKey.toString()).isValid());
-        QVERIFY(!s.shortNameDefaults.value(kNightSettingsKey.toString()).isValid());
+        QCOMPARE(s.suite.value(kNightSettingsKey).toMap().value(u"from"_s).toInt(), 5000);
+        QVERIFY(s.saverDefaults.value(kNightSettingsKey).isValid());
+        QVERIFY(!s.shortNameDefaults.value(kNightSettingsKey).isValid());
         QCOMPARE(view->storedNightSettings().value(u"from"_s).toInt(), 1439);
     }
 

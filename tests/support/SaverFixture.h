@@ -36,9 +36,10 @@ struct SaverFixture
         return view;
     }
 
-    static void set(const platform::PreferenceDomain &store, QStringView key, const QVariant &value)
+    static void set(const platform::PreferenceDomain &store, const QString &key,
+                    const QVariant &value)
     {
-        if (!store.setValue(key.toString(), value))
+        if (!store.setValue(key, value))
             qFatal("the test's store cannot be written");
     }
 
