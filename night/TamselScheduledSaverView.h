@@ -32,7 +32,7 @@ public:
     /// Stores \p record with the modes chosen in the options sheet.
     void storeNightSettings(const QVariantMap &record) override;
 
-public Q_SLOTS:
+    /// Another process saved a location: the colours follow at once.
     void solarLocationChanged();
 
 private:
