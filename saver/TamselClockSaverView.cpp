@@ -61,8 +61,8 @@ ClockFrame TamselClockSaverView::nextFrame()
     const QDateTime now = clocks().now();
     frame.angles = TamselClockAnglesForDate(now);
     if (m_settings.calendarEnabled)
-        frame.calendar = {calendarRect(), now.date(), calendarIsPortrait(frame.bounds.size()),
-                          QLocale::system()};
+        frame.calendar = {calendarRect(),
+                          {now.date(), calendarIsPortrait(frame.bounds.size()), QLocale::system()}};
     return frame;
 }
 
