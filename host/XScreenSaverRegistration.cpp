@@ -108,11 +108,14 @@ void ProgramList::append(const QByteArray &entry)
 {
     QByteArray &before = entries.isEmpty() ? head : entries.last();
     const bool isContinued = before.endsWith(kContinued);
-    if (!isContinued) {
-        const bool isComplete = entries.isEmpty() || before.trimmed().endsWith(kEntryEnd);
-        before += isComplete ? kContinued : QByteArray(" ") + kEntryEnd + kContinued;
-    }
-    entries.append(kIndent + entry + "\t" + kEntryEnd + (isContinued ? kContinued : ""));
+    if (!entries.isEmpty() && !isContinued && !before.trimmed().endsWith(kEntryEnd))
+        before.append(" ").append(kEntryEnd);
+    if (!isContinued)
+        before.append(kContinued);
+    QByteArray line = kIndent + entry + '\t' + kEntryEnd;
+    if (isContinued)
+        line.append(kContinued);
+    entries.append(line);
 }
 
 void ProgramList::remove(qsizetype index)
