@@ -161,9 +161,9 @@ QString usageFault(const QCommandLineParser &parser)
     const OptionNames &n = names();
     if (!parser.positionalArguments().isEmpty())
         return u"unexpected argument '%1'"_s.arg(parser.positionalArguments().first());
-    if (const QString error = conflict(parser); !error.isEmpty())
+    if (QString error = conflict(parser); !error.isEmpty())
         return error;
-    if (const QString error = missingCompanion(parser, {n.scale, n.at, n.preview}, {n.snapshot});
+    if (QString error = missingCompanion(parser, {n.scale, n.at, n.preview}, {n.snapshot});
         !error.isEmpty())
         return error;
     return missingCompanion(parser, {n.size}, {n.window, n.snapshot});

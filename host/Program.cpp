@@ -63,7 +63,7 @@ public:
         m_desktop.session = &m_session;
     }
 
-    platform::Desktop &desktop() { return m_desktop; }
+    const platform::Desktop &desktop() const { return m_desktop; }
 
     /// Single layers may be missing, but a module without any artwork is not installed.
     bool hasResources() const
@@ -74,6 +74,15 @@ public:
     std::unique_ptr<TamselClockSaverView> makeView(bool isPreview) const
     {
         return std::make_unique<TamselClockSaverView>(m_desktop, isPreview);
+    }
+
+    /// A view that stands at the moment of \p clocks, which must outlive it.
+    std::unique_ptr<TamselClockSaverView> makeViewAt(const platform::Clocks &clocks,
+                                                     bool isPreview) const
+    {
+        platform::Desktop desktop = m_desktop;
+        desktop.clocks = &clocks;
+        return std::make_unique<TamselClockSaverView>(desktop, isPreview);
     }
 
     int exec() { return QApplication::exec(); }
@@ -92,17 +101,16 @@ int complainAndFail(const QString &text)
     return kCouldNotRun;
 }
 
-int failWithoutResources(Application &application)
+int failWithoutResources(const Application &application)
 {
     return complainAndFail(u"the clock's resources are missing: %1"_s.arg(
         application.desktop().bundle.resourcesPath()));
 }
 
-int runSnapshot(const Options &options, Application &application)
+int runSnapshot(const Options &options, const Application &application)
 {
     const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
-    application.desktop().clocks = &clocks;
-    const auto view = application.makeView(options.preview);
+    const auto view = application.makeViewAt(clocks, options.preview);
     const QImage picture = pictureOfFrame(*view, options.size, options.scale);
     if (picture.isNull())
         return complainAndFail(u"not enough memory for the picture"_s);

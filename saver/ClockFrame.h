@@ -15,6 +15,8 @@ struct CalendarFrame
 {
     QRectF rect;
     CalendarMonth month;
+
+    bool operator==(const CalendarFrame &) const = default;
 };
 
 /// One frame as a value: all that its drawing needs. The same value always gives the same pixels.

@@ -6,6 +6,7 @@
 #include "prefs/StoredSettings.h"
 #include "saver/Artwork.h"
 #include "saver/ClockFrame.h"
+#include "saver/FramePainter.h"
 
 #include <QColor>
 #include <QHash>
@@ -139,17 +140,18 @@ public:
     const LoadedPalette &loadedPalette() const { return m_palette; }
     const AppliedSettings &appliedSettings() const { return m_settings; }
 
-public Q_SLOTS:
+    /// Somebody changed a setting, or the session came back: checks at once.
     void screenSaverPreferencesMayHaveChanged();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void loadNightPalette();
     void loadDayPalette();
     void reloadPalette(bool nightFlip);
-    void postVariantChanged(const QVariantMap &userInfo);
+    void postVariantChanged(const QVariantMap &userInfo) const;
 
     platform::Desktop m_desktop;
     SettingsReader m_stored;
@@ -157,4 +159,7 @@ private:
     AppliedSettings m_settings;
     PaletteTransition m_transition;
     FrameScratch m_scratch;
+    /// The frame on screen.
+    ClockFrame m_shown;
+    FramePainter m_painter;
 };
