@@ -6,11 +6,11 @@
 #include "host/SaverHost.h"
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
+#include "night/TamselScheduledSaverView.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
-#include "saver/TamselClockSaverView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -72,7 +72,7 @@ public:
 
     std::unique_ptr<TamselClockSaverView> makeView(bool isPreview) const
     {
-        return std::make_unique<TamselClockSaverView>(m_desktop, isPreview);
+        return std::make_unique<TamselScheduledSaverView>(m_desktop, isPreview);
     }
 
     int exec() { return QApplication::exec(); }
