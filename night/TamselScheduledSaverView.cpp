@@ -24,8 +24,8 @@ struct NightEnd
 const std::array<NightEnd, 2> &nightEnds()
 {
     static const std::array<NightEnd, 2> ends{{
-        {kNightFromModeKey.toString(), kNightFromKey.toString(), u"sunset"_s},
-        {kNightToModeKey.toString(), kNightToKey.toString(), u"sunrise"_s},
+        {kNightFromModeKey, kNightFromKey, u"sunset"_s},
+        {kNightToModeKey, kNightToKey, u"sunrise"_s},
     }};
     return ends;
 }
@@ -66,7 +66,7 @@ void TamselScheduledSaverView::solarLocationChanged()
 
 bool TamselScheduledSaverView::nightActiveAtDate(const QDateTime &date, const QVariantMap &settings)
 {
-    if (!booleanSetting(settings.value(kNightEnabledKey.toString())))
+    if (!booleanSetting(settings.value(kNightEnabledKey)))
         return false;
     TamselSolarTimes *sun = nullptr;
     std::array<qint64, 2> minutes{};
