@@ -24,6 +24,9 @@ struct OptionNames
     QString scale = u"scale"_s;
     QString at = u"at"_s;
     QString preview = u"preview"_s;
+    QString configure = u"configure"_s;
+    QString sheetSnapshot = u"sheet-snapshot"_s;
+    QString dark = u"dark"_s;
     QString help = u"help"_s;
     QString version = u"version"_s;
 };
@@ -47,6 +50,10 @@ void addOptions(QCommandLineParser &parser)
         {n.scale, u"Device pixels per point of the picture."_s, u"N"_s},
         {n.at, u"Local time of the picture, as 2026-03-14T22:08:30.5."_s, u"TIME"_s},
         {n.preview, u"Draw the picture as a settings thumbnail."_s},
+        {n.configure, u"Show the options; ends with 0 after OK, with 3 after Cancel."_s},
+        {n.sheetSnapshot, u"Write the options sheet to FILE as a PNG; needs no display."_s,
+         u"FILE"_s},
+        {n.dark, u"Draw the options sheet in its dark appearance."_s},
         {n.help, u"Print this help."_s},
         {n.version, u"Print the version."_s},
     });
@@ -85,6 +92,11 @@ std::optional<QDateTime> localTimeFrom(const QString &text)
     return time.isValid() && time.timeSpec() == Qt::LocalTime ? std::optional(time) : std::nullopt;
 }
 
+std::optional<QString> fileFrom(const QString &text)
+{
+    return text.isEmpty() ? std::nullopt : std::optional(text);
+}
+
 /// Takes an option's value through \p read; a value it refuses becomes \p error.
 template <typename Read, typename Target>
 void take(const QCommandLineParser &parser, const QString &name, Read read, Target &target,
@@ -115,8 +127,11 @@ QString conflict(const QCommandLineParser &parser)
 {
     const OptionNames &n = names();
     const bool hosted = parser.isSet(n.root) || parser.isSet(n.windowId);
-    const int modes = int(hosted) + int(parser.isSet(n.window)) + int(parser.isSet(n.snapshot));
-    return modes > 1 ? u"--window, --snapshot and --root or --window-id exclude each other"_s
+    int modes = int(hosted);
+    for (const QString &name : {n.window, n.snapshot, n.configure, n.sheetSnapshot})
+        modes += int(parser.isSet(name));
+    return modes > 1 ? u"--window, --snapshot, --configure, --sheet-snapshot and --root or "
+                       "--window-id exclude each other"_s
                      : QString();
 }
 
@@ -127,6 +142,10 @@ Mode modeFrom(const QCommandLineParser &parser, bool windowIsNamed)
         return Mode::Snapshot;
     if (parser.isSet(n.window))
         return Mode::Window;
+    if (parser.isSet(n.configure))
+        return Mode::Configure;
+    if (parser.isSet(n.sheetSnapshot))
+        return Mode::SheetSnapshot;
     const bool hosted = windowIsNamed || parser.isSet(n.root);
     return hosted ? Mode::HostWindow : Mode::FullScreen;
 }
@@ -147,10 +166,16 @@ QString usageFault(const QCommandLineParser &parser)
         return u"unexpected argument '%1'"_s.arg(parser.positionalArguments().first());
     if (const QString error = conflict(parser); !error.isEmpty())
         return error;
-    if (const QString error = missingCompanion(parser, {n.scale, n.at, n.preview}, {n.snapshot});
-        !error.isEmpty())
-        return error;
-    return missingCompanion(parser, {n.size}, {n.window, n.snapshot});
+    const std::pair<QStringList, QStringList> companions[] = {
+        {{n.at, n.preview}, {n.snapshot}},
+        {{n.scale}, {n.snapshot, n.sheetSnapshot}},
+        {{n.dark}, {n.sheetSnapshot}},
+        {{n.size}, {n.window, n.snapshot}},
+    };
+    for (const auto &[dependent, wanted] : companions)
+        if (const QString error = missingCompanion(parser, dependent, wanted); !error.isEmpty())
+            return error;
+    return {};
 }
 
 } // namespace
@@ -175,9 +200,8 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
     take(parser, n.size, sizeFrom, options.size, error);
     take(parser, n.scale, scaleFrom, options.scale, error);
     take(parser, n.at, localTimeFrom, options.at, error);
-    options.pictureFile = parser.value(n.snapshot);
-    if (error.isEmpty() && parser.isSet(n.snapshot) && options.pictureFile.isEmpty())
-        error = u"bad value for --snapshot: ''"_s;
+    for (const QString &name : {n.snapshot, n.sheetSnapshot})
+        take(parser, name, fileFrom, options.pictureFile, error);
     const double longSide = std::max(options.size.width(), options.size.height());
     if (error.isEmpty() && longSide * options.scale > kLargestSide)
         error =
@@ -186,6 +210,7 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
         return UsageError{error};
 
     options.mode = modeFrom(parser, options.hostWindow.has_value());
+    options.dark = parser.isSet(n.dark);
     options.preview = parser.isSet(n.preview) || parser.isSet(n.windowId);
     return options;
 }

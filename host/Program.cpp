@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/Program.h"
 
+#include "host/Configuration.h"
 #include "host/Display.h"
 #include "host/HostWindow.h"
 #include "host/SaverHost.h"
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
 #include "night/TamselScheduledSaverView.h"
+#include "platform/Appearance.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 #include "platform/DistributedNotifications.h"
@@ -97,18 +99,41 @@ int failWithoutResources(Application &application)
         application.desktop().bundle.resourcesPath()));
 }
 
-int runSnapshot(const Options &options, Application &application)
+int savePicture(const QImage &picture, const Options &options)
 {
-    const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
-    application.desktop().clocks = &clocks;
-    const auto view = application.makeView(options.preview);
-    const QImage picture = pictureOfFrame(*view, options.size, options.scale);
     if (picture.isNull())
         return complainAndFail(u"not enough memory for the picture"_s);
     const QString fault = writePicture(picture, options.pictureFile);
     return fault.isNull()
                ? kSuccess
                : complainAndFail(u"cannot write %1: %2"_s.arg(options.pictureFile, fault));
+}
+
+int runSnapshot(const Options &options, Application &application)
+{
+    const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
+    application.desktop().clocks = &clocks;
+    const auto view = application.makeView(options.preview);
+    return savePicture(pictureOfFrame(*view, options.size, options.scale), options);
+}
+
+int runSheetSnapshot(const Options &options, Application &application)
+{
+    using Scheme = platform::Appearance::Scheme;
+    platform::Appearance::shared().setForcedScheme(options.dark ? Scheme::Dark : Scheme::Light);
+    const auto view = application.makeView(false);
+    return savePicture(pictureOfSheet(*view, options.scale), options);
+}
+
+int runConfigure(Application &application)
+{
+    const Configuration configuration(application.desktop());
+    if (!configuration.isOnlyOne()) {
+        configuration.bringOtherToFront();
+        return kSuccess;
+    }
+    const auto view = application.makeView(false);
+    return configuration.run(*view) ? kSuccess : kCancelled;
 }
 
 int runHostWindow(const Options &options, Application &application, quint32 window)
@@ -159,6 +184,8 @@ int onDisplay(const Options &options, int argc, char **argv)
     Application application(argc, argv, *qtPlatform);
     if (!application.hasResources())
         return failWithoutResources(application);
+    if (options.mode == Mode::Configure)
+        return runConfigure(application);
     return options.mode == Mode::Window ? runWindow(options, application)
                                         : runFullScreen(application);
 }
@@ -166,8 +193,10 @@ int onDisplay(const Options &options, int argc, char **argv)
 int asPicture(const Options &options, int argc, char **argv)
 {
     Application application(argc, argv, "offscreen");
-    return application.hasResources() ? runSnapshot(options, application)
-                                      : failWithoutResources(application);
+    if (!application.hasResources())
+        return failWithoutResources(application);
+    return options.mode == Mode::Snapshot ? runSnapshot(options, application)
+                                          : runSheetSnapshot(options, application);
 }
 
 int print(const QString &text)
@@ -194,10 +223,12 @@ int run(const Options &options, int argc, char **argv)
         return print(
             QStringLiteral("%1 " TAMSEL_VERSION "\n").arg(QLatin1StringView(kProgramName)));
     case Mode::Snapshot:
+    case Mode::SheetSnapshot:
         return asPicture(options, argc, argv);
     case Mode::HostWindow:
         return inHostWindow(options, argc, argv);
     case Mode::Window:
+    case Mode::Configure:
     case Mode::FullScreen:
         break;
     }

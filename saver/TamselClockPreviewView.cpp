@@ -204,8 +204,8 @@ void TamselClockPreviewView::paintEvent(QPaintEvent *)
     }
     // A clip would leave the corners ragged; a filled shape has smooth ones.
     const double scale = painter.deviceTransform().m11();
-    const QPixmap picture =
-        pictureOf(size(), scale, [this](QPainter &inside) { drawRect(inside); });
+    QPixmap picture = pictureOf(size(), scale, [this](QPainter &inside) { drawRect(inside); });
+    picture.setDevicePixelRatio(1.0);
     QBrush brush(picture);
     brush.setTransform(QTransform::fromScale(1.0 / scale, 1.0 / scale));
     painter.setRenderHint(QPainter::Antialiasing);

@@ -6,6 +6,7 @@
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
+#include "settings/SettingsSheet.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -32,7 +33,12 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
     loadSelectedVariant();
 }
 
-TamselClockSaverView::~TamselClockSaverView() = default;
+TamselClockSaverView::~TamselClockSaverView()
+{
+    if (m_sheet)
+        closeColorPanel();
+    m_sheet.reset();
+}
 
 void TamselClockSaverView::startAnimation()
 {
