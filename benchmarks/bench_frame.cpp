@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// What a full frame costs beside a plain fill of the same surface, and what loading the artwork
-// costs.
+// What a frame costs beside a plain fill of the same surface: drawn afresh, painted from what is
+// kept, and only where it changed. And what loading the artwork costs.
 #include "platform/Bundle.h"
 #include "saver/ClockFrame.h"
+#include "saver/FrameDamage.h"
+#include "saver/FramePainter.h"
 
 #include "calendar/TamselCalendarLayout.h"
 
@@ -60,6 +62,23 @@ void frame(benchmark::State &state, bool tinted)
         drawFrame(painter, shown, scratch);
 }
 
+/// The next frame through the painter that keeps what stands still: whole, or only what it changed.
+void paint(benchmark::State &state, bool whole)
+{
+    QImage surface(sizeOf(state), QImage::Format_RGB32);
+    QPainter painter(&surface);
+    ClockFrame shown = frameOf(surface.size());
+    FramePainter framePainter;
+    framePainter.paint(painter, shown, surface.rect());
+    for (auto _ : state) {
+        ClockFrame next = shown;
+        next.angles.second += 0.2;
+        const QRegion damage = whole ? QRegion(surface.rect()) : frameDamage(shown, next, 1.0);
+        framePainter.paint(painter, next, damage);
+        shown = next;
+    }
+}
+
 void artworkLoad(benchmark::State &state)
 {
     for (auto _ : state)
@@ -76,6 +95,8 @@ void sizes(benchmark::internal::Benchmark *benchmark)
 BENCHMARK(plainFill)->Apply(sizes);
 BENCHMARK_CAPTURE(frame, plain, false)->Apply(sizes);
 BENCHMARK_CAPTURE(frame, fading, true)->Apply(sizes);
+BENCHMARK_CAPTURE(paint, whole, true)->Apply(sizes);
+BENCHMARK_CAPTURE(paint, steady, false)->Apply(sizes);
 BENCHMARK(artworkLoad)->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_MAIN();

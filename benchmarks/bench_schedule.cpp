@@ -16,7 +16,7 @@ void changeCheck(benchmark::State &state, bool nightEnabled)
 {
     const SaverFixture f;
     // A location among the preferences: the user's own file is left alone.
-    SaverFixture::set(f.stores.suite, u"SolarLocation",
+    SaverFixture::set(f.stores.suite, u"SolarLocation"_s,
                       QVariantMap{{u"latitude"_s, 60.17}, {u"longitude"_s, 24.94}});
     f.setNight(
         {{u"enabled"_s, nightEnabled}, {u"fromMode"_s, u"sunset"_s}, {u"toMode"_s, u"sunrise"_s}});

@@ -29,7 +29,8 @@ struct CalendarGrid
     /// Cells are counted along the rows; 0 is the first row's Monday.
     QRectF dayCell(int index) const
     {
-        return cell(index % 7, firstRowTop + (index / 7) * rowPitch);
+        const int row = index / 7;
+        return cell(index % 7, firstRowTop + row * rowPitch);
     }
 
 private:

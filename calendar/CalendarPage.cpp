@@ -15,29 +15,22 @@ constexpr double kFineness = 16.0;
 
 } // namespace
 
-CalendarPage calendarPage(QDate date, bool portrait, const QLocale &locale)
+CalendarPage calendarPage(const CalendarMonth &month)
 {
-    const CalendarGrid grid = calendarGrid(portrait, kFineness);
-    const CalendarTexts texts = calendarTexts(date, locale);
+    const CalendarGrid grid = calendarGrid(month.portrait, kFineness);
+    const CalendarTexts texts = calendarTexts(month.date, month.locale);
     const QFont regular = TamselCalendarFont(false, int(grid.daySize));
     const QFont medium = TamselCalendarFont(true, int(grid.daySize));
 
-    CalendarPage page{date, portrait, locale, grid};
-    page.titleInset = TamselCalendarTitleInset(regular, locale, grid.cellWidth());
+    CalendarPage page{month, grid};
+    page.titleInset = TamselCalendarTitleInset(regular, month.locale, grid.cellWidth());
     page.capHeight = QFontMetricsF(regular).capHeight();
-    page.leadingCells = calendarLeadingCells(date);
+    page.leadingCells = calendarLeadingCells(month.date);
     page.title = textShape(texts.title, TamselCalendarFont(false, int(grid.titleSize)));
     for (size_t column = 0; column < page.weekdays.size(); ++column)
         page.weekdays[column] = textShape(texts.weekdays[column], regular);
-    const int today = date.day();
+    const int today = month.date.day();
     for (int day = 1; day <= int(texts.days.size()); ++day)
         page.days.push_back(textShape(texts.days.at(day - 1), day == today ? medium : regular));
     return page;
-}
-
-const CalendarPage &CalendarPageCache::page(QDate date, bool portrait, const QLocale &locale)
-{
-    if (!m_page || m_page->date != date || m_page->portrait != portrait || m_page->locale != locale)
-        m_page = calendarPage(date, portrait, locale);
-    return *m_page;
 }

@@ -8,16 +8,24 @@
 #include <QLocale>
 
 #include <array>
-#include <optional>
 #include <vector>
 
-/// One month laid out and ready to be drawn, whatever its colours and its rectangle will be.
-struct CalendarPage
+/// What decides how a month looks, its colours and its size apart.
+struct CalendarMonth
 {
+    /// Today; the month is the one that contains it.
     QDate date;
+    /// Below the clock rather than beside it.
     bool portrait = false;
     QLocale locale;
 
+    bool operator==(const CalendarMonth &) const = default;
+};
+
+/// One month laid out and ready to be drawn in any colours and at any size.
+struct CalendarPage
+{
+    CalendarMonth month;
     /// The design grid in the units of this page, which are those of all its lengths and texts.
     CalendarGrid grid;
     /// Where the title starts, so that it stands flush with the digits of the first column.
@@ -29,19 +37,9 @@ struct CalendarPage
     TextShape title = {};
     std::array<TextShape, 7> weekdays = {};
     std::vector<TextShape> days = {};
+
+    int rows() const { return (leadingCells + int(days.size()) + 6) / 7; }
 };
 
-/// Lays out the month that contains \p date, on the portrait or the landscape grid. That costs
-/// about as much as drawing a frame.
-CalendarPage calendarPage(QDate date, bool portrait, const QLocale &locale);
-
-/// Keeps the last page, which serves every frame of a day.
-class CalendarPageCache
-{
-public:
-    /// The page as calendarPage() makes it. The reference holds until the next call.
-    const CalendarPage &page(QDate date, bool portrait, const QLocale &locale);
-
-private:
-    std::optional<CalendarPage> m_page;
-};
+/// Lays out \p month: formatting, text layout and outlines.
+CalendarPage calendarPage(const CalendarMonth &month);

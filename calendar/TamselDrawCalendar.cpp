@@ -41,7 +41,7 @@ void drawDays(QPainter &painter, const QColor &background, const QColor &mark,
 {
     const QColor ink = faded(mark, kTextAlpha);
     int index = page.leadingCells;
-    const int today = index + page.date.day() - 1;
+    const int today = index + page.month.date.day() - 1;
     for (const TextShape &day : page.days) {
         const QRectF cell = page.grid.dayCell(index);
         if (index == today)

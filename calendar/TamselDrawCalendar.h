@@ -11,7 +11,8 @@ struct TextShape;
 
 /// Draws \p page scaled to the width of \p rect, from its top-left corner: title, weekday labels
 /// and day numbers in shades of \p mark, today's number in \p background on a square of \p mark.
-/// Draws nothing into a rectangle without width.
+/// Draws nothing into a rectangle without width. What is drawn again and again is better kept in a
+/// CalendarPicture.
 void TamselDrawCalendar(QPainter &painter, const QColor &background, const QColor &mark,
                         const CalendarPage &page, const QRectF &rect);
 

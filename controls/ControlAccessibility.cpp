@@ -7,6 +7,7 @@
 #include "controls/TamselModeControl.h"
 #include "controls/TamselSeparator.h"
 #include "controls/TamselSettingsView.h"
+#include "controls/TamselSettingsWindow.h"
 #include "controls/TamselSwatchButton.h"
 #include "controls/TamselTimeMenu.h"
 #include "controls/TamselToggle.h"
@@ -63,8 +64,12 @@ public:
 
     QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
-private:
-    QString mainAction() const { return state().checkable ? toggleAction() : pressAction(); }
+protected:
+    /// What a click does.
+    virtual QString mainAction() const
+    {
+        return state().checkable ? toggleAction() : pressAction();
+    }
 };
 
 class AccessibleMenuButton final : public AccessibleButton
@@ -80,6 +85,35 @@ public:
         QAccessible::State state = AccessibleButton::state();
         state.hasPopup = true;
         return state;
+    }
+
+protected:
+    QString mainAction() const override { return showMenuAction(); }
+};
+
+/// The popover that is open at \p anchor; null when there is none.
+Popover *openPopover(const QWidget *anchor)
+{
+    const auto popovers = anchor->window()->findChildren<Popover *>(Qt::FindDirectChildrenOnly);
+    for (Popover *popover : popovers) {
+        if (popover->isVisible() && popover->anchor() == anchor)
+            return popover;
+    }
+    return nullptr;
+}
+
+/// Popups are not among the windows of an application, so a popover is found in its anchor.
+class AccessiblePopover final : public QAccessibleWidget
+{
+public:
+    explicit AccessiblePopover(Popover *popover) : QAccessibleWidget(popover, QAccessible::Dialog)
+    {
+    }
+
+    QAccessibleInterface *parent() const override
+    {
+        QWidget *anchor = qobject_cast<Popover *>(object())->anchor();
+        return anchor ? QAccessible::queryAccessibleInterface(anchor) : nullptr;
     }
 };
 
@@ -115,6 +149,19 @@ public:
         if (tellsColor && !swatch()->rainbow() && swatch()->swatchColor().isValid())
             return swatch()->swatchColor().name().toUpper();
         return AccessibleButton::text(kind);
+    }
+
+    int childCount() const override { return openPopover(swatch()) ? 1 : 0; }
+
+    QAccessibleInterface *child(int index) const override
+    {
+        Popover *popover = index == 0 ? openPopover(swatch()) : nullptr;
+        return popover ? QAccessible::queryAccessibleInterface(popover) : nullptr;
+    }
+
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child && child->object() == openPopover(swatch()) ? 0 : -1;
     }
 
 private:
@@ -207,7 +254,9 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     if (auto *separator = qobject_cast<TamselSeparator *>(object))
         return new QAccessibleWidget(separator, QAccessible::Separator);
     if (auto *popover = qobject_cast<Popover *>(object))
-        return new QAccessibleWidget(popover, QAccessible::Dialog);
+        return new AccessiblePopover(popover);
+    if (auto *window = qobject_cast<TamselSettingsWindow *>(object))
+        return new QAccessibleWidget(window, QAccessible::Dialog);
     if (auto *view = qobject_cast<TamselSettingsView *>(object); view && view->group())
         return new QAccessibleWidget(view, QAccessible::Grouping);
     return nullptr;

@@ -67,8 +67,8 @@ FocusRing::~FocusRing()
 
 bool FocusRing::isShownAround(const QWidget *control)
 {
-    const auto rings = control->children();
-    return std::any_of(rings.begin(), rings.end(), [](const QObject *child) {
+    const auto &children = control->children();
+    return std::any_of(children.begin(), children.end(), [](const QObject *child) {
         const auto *ring = dynamic_cast<const FocusRing *>(child);
         return ring && ring->isShown();
     });

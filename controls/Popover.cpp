@@ -48,6 +48,7 @@ QPoint popoverPosition(const QRect &anchor, const QSize &size, const QRect &boun
 Popover::Popover(QWidget *content, QWidget *anchor)
     : QWidget(anchor->window(), kFlags), m_anchor(anchor)
 {
+    setAppearanceOf(this, appearanceOf(anchor));
     setAttribute(Qt::WA_TranslucentBackground);
     setFixedSize(content->size());
     setMask(roundedShape(size(), kRadius));
@@ -77,9 +78,7 @@ void Popover::present()
             Qt::QueuedConnection);
 
     const QRect anchor(view->mapToGlobal(QPoint()), view->size());
-    // Without known bounds the panel asks for its place above and is moved where it fits.
-    const QRect unbounded(anchor.center() - QPoint(width(), height()) * 2, size() * 4);
-    move(popoverPosition(anchor, size(), platform::placementBounds(view).value_or(unbounded)));
+    move(popoverPosition(anchor, size(), platform::placementBounds(view)));
     show();
     focusFirst(FocusRing::isShownAround(view) ? Qt::TabFocusReason : Qt::PopupFocusReason);
 }

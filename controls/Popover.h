@@ -21,6 +21,9 @@ public:
     Popover(QWidget *content, QWidget *anchor);
     ~Popover() override;
 
+    /// Null once it is destroyed.
+    QWidget *anchor() const { return m_anchor; }
+
     /// Shows the panel beside its anchor, with the keyboard in the content.
     void present();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/RoundedShape.h"
 
+#include <algorithm>
 #include <cmath>
 
 QRegion roundedShape(const QSize &size, double radius)

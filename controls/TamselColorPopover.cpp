@@ -142,7 +142,7 @@ void TamselColorPopover::fullPicker()
         report();
 }
 
-void TamselColorPopover::popoverDidClose()
+void TamselColorPopover::popoverDidClose() const
 {
     if (m_openingFullPanel)
         return;

@@ -45,11 +45,11 @@ public:
     /// Opens the popover at \p anchor, which need not outlive it.
     void showFor(QWidget *anchor, const QColor &color);
     void updateGradients();
-
-public Q_SLOTS:
+    /// A slider moved: shows the colour and reports it.
     void changed();
+    /// Closes the popover and asks for the full panel.
     void fullPicker();
-    void popoverDidClose();
+    void popoverDidClose() const;
 
 private:
     void loadView();

@@ -10,6 +10,8 @@
 
 #include <QPainter>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -28,8 +30,8 @@ struct ModeSymbol
     QStringView description;
     double pointSize;
 };
-constexpr ModeSymbol kSymbols[] = {{u"sun.max.fill", u"Preview day colors", 14.0},
-                                   {u"moon.fill", u"Preview night colors", 12.0}};
+constexpr std::array<ModeSymbol, 2> kSymbols{{{u"sun.max.fill", u"Preview day colors", 14.0},
+                                              {u"moon.fill", u"Preview night colors", 12.0}}};
 
 class ModeButton final : public QAbstractButton
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselSettingsWindow.h"
 
+#include "controls/ControlAccessibility.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -15,6 +16,7 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
 {
     setAttribute(Qt::WA_TranslucentBackground);
     redrawWithAppearance(this);
+    installControlAccessibility();
 }
 
 void TamselSettingsWindow::setCornerRadius(double radius)

@@ -7,7 +7,7 @@
 #include <QWidget>
 
 namespace {
-constexpr char kAppearance[] = "appearance";
+constexpr const char *kAppearance = "appearance";
 }
 
 const platform::Appearance &appearanceOf(const QWidget *view)

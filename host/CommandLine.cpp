@@ -164,7 +164,7 @@ QString usageFault(const QCommandLineParser &parser)
     const OptionNames &n = names();
     if (!parser.positionalArguments().isEmpty())
         return u"unexpected argument '%1'"_s.arg(parser.positionalArguments().first());
-    if (const QString error = conflict(parser); !error.isEmpty())
+    if (QString error = conflict(parser); !error.isEmpty())
         return error;
     const std::pair<QStringList, QStringList> companions[] = {
         {{n.at, n.preview}, {n.snapshot}},
@@ -173,7 +173,7 @@ QString usageFault(const QCommandLineParser &parser)
         {{n.size}, {n.window, n.snapshot}},
     };
     for (const auto &[dependent, wanted] : companions)
-        if (const QString error = missingCompanion(parser, dependent, wanted); !error.isEmpty())
+        if (QString error = missingCompanion(parser, dependent, wanted); !error.isEmpty())
             return error;
     return {};
 }

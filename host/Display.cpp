@@ -1,31 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/Display.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLibraryInfo>
+#include "host/XcbReply.h"
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 #include <xcb/xcb.h>
-
-#include <cstdlib>
-#include <cstring>
-#include <memory>
-
-using namespace Qt::StringLiterals;
 
 namespace host {
 
 namespace {
-
-struct Freed
-{
-    void operator()(void *reply) const { std::free(reply); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, Freed>;
 
 /// A connection of our own, closed before Qt makes its one.
 class XConnection
@@ -51,37 +33,11 @@ private:
     xcb_connection_t *m_connection;
 };
 
-bool hasPlatformPlugin(const char *pattern)
-{
-    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms"_L1);
-    return !plugins.entryList({QLatin1StringView(pattern)}, QDir::Files).isEmpty();
-}
-
-bool waylandAnswers()
-{
-    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
-    if (name.isEmpty())
-        return false;
-    const QByteArray path = name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name;
-    sockaddr_un address = {};
-    if (path.size() >= qsizetype(sizeof address.sun_path))
-        return false;
-    address.sun_family = AF_UNIX;
-    std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (socket < 0)
-        return false;
-    const bool connected =
-        ::connect(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
-    ::close(socket);
-    return connected;
-}
-
 /// The value of the window property \p name if it is one window id.
 std::optional<xcb_window_t> windowProperty(xcb_connection_t *connection, xcb_window_t window,
                                            xcb_atom_t name)
 {
-    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+    const XcbReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
         connection, xcb_get_property(connection, 0, window, name, XCB_ATOM_WINDOW, 0, 1), nullptr));
     if (!reply || xcb_get_property_value_length(reply.get()) != int(sizeof(xcb_window_t)))
         return std::nullopt;
@@ -90,25 +46,6 @@ std::optional<xcb_window_t> windowProperty(xcb_connection_t *connection, xcb_win
 
 } // namespace
 
-std::optional<QByteArray> reachablePlatform()
-{
-    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
-    const QByteArray chosenName = chosen.left(chosen.indexOf(':') + 1 ? chosen.indexOf(':') : -1);
-    const bool any = chosen.isEmpty();
-    if ((any || chosenName.startsWith("wayland")) && waylandAnswers() &&
-        hasPlatformPlugin("libqwayland*"))
-        return any ? QByteArray("wayland") : chosen;
-    if ((any || chosenName.startsWith("xcb")) && xServerAnswers())
-        return any ? QByteArray("xcb") : chosen;
-    const bool needsDisplay = chosenName.startsWith("wayland") || chosenName.startsWith("xcb");
-    return any || needsDisplay ? std::nullopt : std::optional(chosen);
-}
-
-bool xServerAnswers()
-{
-    return XConnection().answers();
-}
-
 std::optional<quint32> xRootWindow()
 {
     const XConnection x;
@@ -116,9 +53,9 @@ std::optional<quint32> xRootWindow()
         return std::nullopt;
     const xcb_window_t root = x.root();
     constexpr char kVirtualRoot[] = "__SWM_VROOT";
-    const Reply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
+    const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
         x.get(), xcb_intern_atom(x.get(), 1, sizeof kVirtualRoot - 1, kVirtualRoot), nullptr));
-    const Reply<xcb_query_tree_reply_t> tree(
+    const XcbReply<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(x.get(), xcb_query_tree(x.get(), root), nullptr));
     if (!atom || atom->atom == XCB_ATOM_NONE || !tree)
         return root;
@@ -135,7 +72,7 @@ bool xWindowExists(quint32 id)
     const XConnection x;
     if (!x.answers())
         return false;
-    const Reply<xcb_get_window_attributes_reply_t> attributes(
+    const XcbReply<xcb_get_window_attributes_reply_t> attributes(
         xcb_get_window_attributes_reply(x.get(), xcb_get_window_attributes(x.get(), id), nullptr));
     return attributes && attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/HostWindow.h"
 
+#include "host/XcbReply.h"
 #include "platform/ScreenSaverView.h"
 
 #include <QGuiApplication>
@@ -9,18 +10,10 @@
 #include <xcb/xcb.h>
 
 #include <cmath>
-#include <cstdlib>
 
 namespace host {
 
 namespace {
-
-struct Freed
-{
-    void operator()(void *reply) const { std::free(reply); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, Freed>;
 
 xcb_connection_t *connection()
 {
@@ -31,12 +24,12 @@ xcb_connection_t *connection()
 /// is gone.
 bool selectStructureEvents(xcb_window_t window)
 {
-    const Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+    const XcbReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
         connection(), xcb_get_window_attributes(connection(), window), nullptr));
     if (!attributes)
         return false;
     const uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    const Reply<xcb_generic_error_t> error(xcb_request_check(
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(
         connection(),
         xcb_change_window_attributes_checked(connection(), window, XCB_CW_EVENT_MASK, &mask)));
     return !error;
@@ -45,7 +38,7 @@ bool selectStructureEvents(xcb_window_t window)
 /// The window's size in device pixels; empty when it is gone.
 QSize windowSize(xcb_window_t window)
 {
-    const Reply<xcb_get_geometry_reply_t> geometry(
+    const XcbReply<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(connection(), xcb_get_geometry(connection(), window), nullptr));
     return geometry ? QSize(geometry->width, geometry->height) : QSize();
 }

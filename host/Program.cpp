@@ -11,6 +11,7 @@
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
+#include "platform/DisplayServer.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
 
@@ -64,7 +65,7 @@ public:
         m_desktop.session = &m_session;
     }
 
-    platform::Desktop &desktop() { return m_desktop; }
+    const platform::Desktop &desktop() const { return m_desktop; }
 
     /// Single layers may be missing, but a module without any artwork is not installed.
     bool hasResources() const
@@ -75,6 +76,15 @@ public:
     std::unique_ptr<TamselClockSaverView> makeView(bool isPreview) const
     {
         return std::make_unique<TamselScheduledSaverView>(m_desktop, isPreview);
+    }
+
+    /// A view that stands at the moment of \p clocks, which must outlive it.
+    std::unique_ptr<TamselClockSaverView> makeViewAt(const platform::Clocks &clocks,
+                                                     bool isPreview) const
+    {
+        platform::Desktop desktop = m_desktop;
+        desktop.clocks = &clocks;
+        return std::make_unique<TamselScheduledSaverView>(desktop, isPreview);
     }
 
     int exec() { return QApplication::exec(); }
@@ -93,7 +103,7 @@ int complainAndFail(const QString &text)
     return kCouldNotRun;
 }
 
-int failWithoutResources(Application &application)
+int failWithoutResources(const Application &application)
 {
     return complainAndFail(u"the clock's resources are missing: %1"_s.arg(
         application.desktop().bundle.resourcesPath()));
@@ -109,15 +119,14 @@ int savePicture(const QImage &picture, const Options &options)
                : complainAndFail(u"cannot write %1: %2"_s.arg(options.pictureFile, fault));
 }
 
-int runSnapshot(const Options &options, Application &application)
+int runSnapshot(const Options &options, const Application &application)
 {
     const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
-    application.desktop().clocks = &clocks;
-    const auto view = application.makeView(options.preview);
+    const auto view = application.makeViewAt(clocks, options.preview);
     return savePicture(pictureOfFrame(*view, options.size, options.scale), options);
 }
 
-int runSheetSnapshot(const Options &options, Application &application)
+int runSheetSnapshot(const Options &options, const Application &application)
 {
     using Scheme = platform::Appearance::Scheme;
     platform::Appearance::shared().setForcedScheme(options.dark ? Scheme::Dark : Scheme::Light);
@@ -125,7 +134,7 @@ int runSheetSnapshot(const Options &options, Application &application)
     return savePicture(pictureOfSheet(*view, options.scale), options);
 }
 
-int runConfigure(Application &application)
+int runConfigure(const Application &application)
 {
     const Configuration configuration(application.desktop());
     if (!configuration.isOnlyOne()) {
@@ -166,7 +175,7 @@ int runFullScreen(Application &application)
 int inHostWindow(const Options &options, int argc, char **argv)
 {
     const std::optional<quint32> window = options.hostWindow ? options.hostWindow : xRootWindow();
-    if (!window || !xServerAnswers())
+    if (!window || !platform::xServerAnswers())
         return complainAndFail(u"no X display can be reached"_s);
     if (!xWindowExists(*window))
         return complainAndFail(u"there is no window 0x%1"_s.arg(*window, 0, 16));
@@ -177,7 +186,7 @@ int inHostWindow(const Options &options, int argc, char **argv)
 
 int onDisplay(const Options &options, int argc, char **argv)
 {
-    const auto qtPlatform = reachablePlatform();
+    const auto qtPlatform = platform::reachablePlatform();
     if (!qtPlatform)
         return complainAndFail(
             u"no display: neither a Wayland compositor nor an X server answers"_s);

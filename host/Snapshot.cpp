@@ -17,8 +17,8 @@ QImage pictureOfFrame(platform::ScreenSaverView &view, const QSize &size, double
     QImage picture((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
     if (picture.isNull())
         return picture;
-    picture.setDevicePixelRatio(scale);
     QPainter painter(&picture);
+    painter.scale(scale, scale);
     view.drawRect(painter, view.rect());
     return picture;
 }
@@ -28,10 +28,8 @@ QString writePicture(const QImage &picture, const QString &file)
     QSaveFile target(file);
     if (!target.open(QIODevice::WriteOnly))
         return target.errorString();
-    QImage plain = picture;
-    plain.setDevicePixelRatio(1.0);
     QImageWriter writer(&target, "png"_ba);
-    if (!writer.write(plain))
+    if (!writer.write(picture))
         return writer.errorString();
     return target.commit() ? QString() : target.errorString();
 }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr qint64 kTrailerSize = 32;
 /// What the whole tree may cost: bytes of text and data, and this much for every object.
-constexpr quint64 kBudget = 8 * 1024 * 1024;
+constexpr quint64 kBudget = 8ULL * 1024 * 1024;
 constexpr quint64 kObjectCost = 32;
 
 /// Walks the objects as a reader would, counting instead of keeping. The file is a row of objects,

@@ -9,7 +9,7 @@
 namespace platform {
 
 /// No file the program reads is legitimately larger; what is larger counts as unreadable.
-inline constexpr qint64 kSmallFileLimit = 1024 * 1024;
+inline constexpr qint64 kSmallFileLimit = 1024LL * 1024;
 
 /// The contents of the regular file at \p path (symbolic links are followed). None when it is
 /// missing, unreadable, larger than kSmallFileLimit, or anything but a regular file. Never blocks,

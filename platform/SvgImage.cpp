@@ -3,10 +3,85 @@
 
 #include "platform/SmallFile.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+#include <optional>
+
 namespace platform {
+
+namespace {
+
+/// Rows and columns of the picture in which ink is looked for.
+constexpr int kInkGrid = 512;
+/// Cells by which a box may be wider than the narrowest of its rows.
+constexpr int kInkSlack = 2;
+
+/// Cells left to right, the right one exclusive; empty when the row has no ink.
+struct InkRow
+{
+    int left = kInkGrid;
+    int right = 0;
+
+    bool isEmpty() const { return left >= right; }
+    int width() const { return right - left; }
+    InkRow united(const InkRow &other) const
+    {
+        return {std::min(left, other.left), std::max(right, other.right)};
+    }
+};
+
+InkRow inkRow(const QImage &alpha, int y)
+{
+    const uchar *cells = alpha.constScanLine(y);
+    const auto isInk = [](uchar cell) { return cell > 0; };
+    const auto *first = std::find_if(cells, cells + kInkGrid, isInk);
+    if (first == cells + kInkGrid)
+        return {};
+    int last = kInkGrid - 1;
+    while (!isInk(cells[last]))
+        --last;
+    return {int(first - cells), last + 1};
+}
+
+std::vector<QRectF> inkBoxesOf(const SvgImage &image)
+{
+    QImage alpha(kInkGrid, kInkGrid, QImage::Format_Alpha8);
+    alpha.fill(0);
+    QPainter painter(&alpha);
+    image.draw(painter, alpha.rect());
+    painter.end();
+
+    std::vector<QRectF> boxes;
+    for (int y = 0; y < kInkGrid;) {
+        const int top = y;
+        InkRow box = inkRow(alpha, y);
+        int narrowest = box.width();
+        for (++y; y < kInkGrid && !box.isEmpty(); ++y) {
+            const InkRow next = inkRow(alpha, y);
+            const int narrower = std::min(narrowest, next.width());
+            if (next.isEmpty() || box.united(next).width() > narrower + kInkSlack)
+                break;
+            box = box.united(next);
+            narrowest = narrower;
+        }
+        if (!box.isEmpty()) {
+            boxes.emplace_back(double(box.left) / kInkGrid, double(top) / kInkGrid,
+                               double(box.width()) / kInkGrid, double(y - top) / kInkGrid);
+        }
+    }
+    return boxes;
+}
+
+} // namespace
+
+struct SvgImage::Picture
+{
+    QSvgRenderer renderer;
+    std::optional<std::vector<QRectF>> inkBoxes;
+};
 
 SvgImage SvgImage::fromFile(const QString &path)
 {
@@ -17,16 +92,26 @@ SvgImage SvgImage::fromFile(const QString &path)
 SvgImage SvgImage::fromSvg(const QByteArray &svg)
 {
     SvgImage image;
-    auto renderer = std::make_shared<QSvgRenderer>();
-    if (renderer->load(svg))
-        image.m_renderer = std::move(renderer);
+    auto picture = std::make_shared<Picture>();
+    if (picture->renderer.load(svg))
+        image.m_picture = std::move(picture);
     return image;
 }
 
 void SvgImage::draw(QPainter &painter, const QRectF &rect) const
 {
-    if (m_renderer)
-        m_renderer->render(&painter, rect);
+    if (m_picture)
+        m_picture->renderer.render(&painter, rect);
+}
+
+const std::vector<QRectF> &SvgImage::inkBoxes() const
+{
+    static const std::vector<QRectF> none;
+    if (!m_picture)
+        return none;
+    if (!m_picture->inkBoxes)
+        m_picture->inkBoxes = inkBoxesOf(*this);
+    return *m_picture->inkBoxes;
 }
 
 } // namespace platform

@@ -5,9 +5,9 @@
 #include <QRectF>
 
 #include <memory>
+#include <vector>
 
 class QPainter;
-class QSvgRenderer;
 
 namespace platform {
 
@@ -23,13 +23,22 @@ public:
     /// The picture written in \p svg (UTF-8); null when it is not one.
     static SvgImage fromSvg(const QByteArray &svg);
 
-    bool isNull() const { return !m_renderer; }
+    bool isNull() const { return !m_picture; }
 
     /// Draws the whole picture into \p rect, source-over. A null image draws nothing.
     void draw(QPainter &painter, const QRectF &rect) const;
 
+    /// Boxes that together cover all ink of the picture, tight to about 1/500 of its side, in a
+    /// unit square. Meant for a slender picture whose ink stands upright. Found when first asked
+    /// for.
+    const std::vector<QRectF> &inkBoxes() const;
+
+    /// Whether both are copies of the same picture.
+    bool operator==(const SvgImage &) const = default;
+
 private:
-    std::shared_ptr<QSvgRenderer> m_renderer;
+    struct Picture;
+    std::shared_ptr<Picture> m_picture;
 };
 
 } // namespace platform

@@ -7,10 +7,12 @@
 
 namespace platform {
 
-std::optional<QRect> placementBounds(const QWidget *view)
+QRect placementBounds(const QWidget *view)
 {
-    if (QGuiApplication::platformName().startsWith(QLatin1StringView("wayland")))
-        return std::nullopt;
+    if (QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"))) {
+        const QWidget *window = view->window();
+        return {window->mapToGlobal(QPoint()), window->size()};
+    }
     const QScreen *screen = QGuiApplication::screenAt(view->mapToGlobal(view->rect().center()));
     return (screen ? screen : view->screen())->availableGeometry();
 }

@@ -3,15 +3,13 @@
 
 #include <QRect>
 
-#include <optional>
-
 class QWidget;
 
 namespace platform {
 
-/// The part of the screen around \p view that windows may cover, in global coordinates. None where
-/// programs do not know where their windows stand: there the desktop itself keeps popups on the
-/// screen.
-std::optional<QRect> placementBounds(const QWidget *view);
+/// Where a popup of \p view may go, in global coordinates: the part of the screen around it that
+/// windows may cover, or, on desktops that do not tell programs where their windows stand, the
+/// view's own window, which the user has on the screen.
+QRect placementBounds(const QWidget *view);
 
 } // namespace platform

@@ -70,7 +70,7 @@ void TamselClockSaverView::storeColor(const QColor &color, const QString &key)
           hexStringForColor(color));
 }
 
-void TamselClockSaverView::postVariantChanged(const QVariantMap &userInfo)
+void TamselClockSaverView::postVariantChanged(const QVariantMap &userInfo) const
 {
     if (desktop().notifications)
         desktop().notifications->post(kVariantChangedNotification, userInfo);

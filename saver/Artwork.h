@@ -16,6 +16,8 @@ struct Artwork
     platform::SvgImage hourImage;
     platform::SvgImage minuteImage;
     platform::SvgImage secondImage;
+
+    bool operator==(const Artwork &) const = default;
 };
 
 /// \p svg with every shape that is filled black, in either of the two spellings fill="black" and

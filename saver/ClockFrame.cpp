@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "saver/ClockFrame.h"
 
-#include "calendar/TamselDrawCalendar.h"
-
 #include <QPainter>
 
 namespace {
@@ -40,14 +38,6 @@ void drawTintedClock(QPainter &painter, const ClockFrame &frame, QImage &layer)
     painter.drawImage(target, layer);
 }
 
-void drawCalendar(QPainter &painter, const ClockFrame &frame, CalendarPageCache &pages)
-{
-    const CalendarFrame &calendar = *frame.calendar;
-    TamselDrawCalendar(painter, frame.background, frame.mark,
-                       pages.page(calendar.date, calendar.portrait, calendar.locale),
-                       calendar.rect);
-}
-
 } // namespace
 
 void drawFrame(QPainter &painter, const ClockFrame &frame, FrameScratch &scratch)
@@ -59,6 +49,8 @@ void drawFrame(QPainter &painter, const ClockFrame &frame, FrameScratch &scratch
         scratch.layer = {};
         drawClock(painter, frame);
     }
-    if (frame.calendar)
-        drawCalendar(painter, frame, scratch.calendarPages);
+    if (frame.calendar) {
+        scratch.calendar.draw(painter, frame.background, frame.mark, frame.calendar->month,
+                              frame.calendar->rect);
+    }
 }

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "calendar/CalendarPage.h"
+#include "calendar/CalendarPicture.h"
 #include "saver/Artwork.h"
 #include "saver/TamselClockAngles.h"
 
 #include <QColor>
-#include <QDate>
 #include <QImage>
-#include <QLocale>
 
 #include <optional>
 
@@ -16,9 +14,9 @@
 struct CalendarFrame
 {
     QRectF rect;
-    QDate date;
-    bool portrait = false;
-    QLocale locale;
+    CalendarMonth month;
+
+    bool operator==(const CalendarFrame &) const = default;
 };
 
 /// One frame as a value: all that its drawing needs. The same value always gives the same pixels.
@@ -40,7 +38,7 @@ struct FrameScratch
 {
     /// Where a tinted clock is composed; held for the length of a fade.
     QImage layer;
-    CalendarPageCache calendarPages;
+    CalendarPicture calendar;
 };
 
 /// Draws \p frame.

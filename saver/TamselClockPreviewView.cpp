@@ -171,15 +171,15 @@ ClockFrame TamselClockPreviewView::frame() const
     frame.angles = TamselClockAnglesForDate(now);
     frame.artwork = m_artwork;
     if (progress > 0.0)
-        frame.calendar = {layout.calendarRect, now.date(), calendarIsPortrait(area.size()),
-                          QLocale::system()};
+        frame.calendar = {layout.calendarRect,
+                          {now.date(), calendarIsPortrait(area.size()), QLocale::system()}};
     return frame;
 }
 
 void TamselClockPreviewView::drawRect(QPainter &painter)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    drawFrame(painter, frame(), m_scratch);
+    m_painter.paint(painter, frame(), rect());
     if (isFading())
         drawTransition(painter);
 }

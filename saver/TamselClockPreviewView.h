@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/FramePacer.h"
-#include "saver/ClockFrame.h"
+#include "saver/FramePainter.h"
 
 #include <QPixmap>
 #include <QTimer>
@@ -93,5 +93,5 @@ private:
     bool m_animating = false;
     platform::FramePacer m_pacer;
     QTimer m_animationTimer;
-    FrameScratch m_scratch;
+    FramePainter m_painter;
 };

@@ -6,13 +6,33 @@
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
+#include "saver/FrameDamage.h"
 #include "settings/SettingsSheet.h"
 
 #include <QCoreApplication>
+#include <QPaintEvent>
 #include <QPainter>
+
+#include <cmath>
 
 namespace {
 constexpr double kFrameInterval = 1.0 / 30.0;
+
+/// The points that cover \p pixels. At a density between whole numbers a point's edge may lie
+/// inside a pixel, so that a pixel more on each side is taken.
+QRegion pointsCovering(const QRegion &pixels, double ratio)
+{
+    if (ratio == 1.0)
+        return pixels;
+    const double margin = ratio == std::floor(ratio) ? 0.0 : 1.0;
+    const QTransform toPoints = QTransform::fromScale(1.0 / ratio, 1.0 / ratio);
+    QRegion points;
+    for (const QRect &rect : pixels) {
+        points += toPoints.mapRect(QRectF(rect).adjusted(-margin, -margin, margin, margin))
+                      .toAlignedRect();
+    }
+    return points;
+}
 } // namespace
 
 TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,
@@ -50,7 +70,12 @@ void TamselClockSaverView::startAnimation()
 void TamselClockSaverView::animateOneFrame()
 {
     reloadVariantIfNeeded();
-    update();
+    if (!isVisible())
+        return;
+    const double ratio = devicePixelRatioF();
+    ClockFrame next = withDriftHeld(m_shown, nextFrame(), ratio);
+    update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
+    m_shown = std::move(next);
 }
 
 ClockFrame TamselClockSaverView::nextFrame()
@@ -67,14 +92,24 @@ ClockFrame TamselClockSaverView::nextFrame()
     const QDateTime now = clocks().now();
     frame.angles = TamselClockAnglesForDate(now);
     if (m_settings.calendarEnabled)
-        frame.calendar = {calendarRect(), now.date(), calendarIsPortrait(frame.bounds.size()),
-                          QLocale::system()};
+        frame.calendar = {calendarRect(),
+                          {now.date(), calendarIsPortrait(frame.bounds.size()), QLocale::system()}};
     return frame;
 }
 
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 {
     drawFrame(painter, nextFrame(), m_scratch);
+}
+
+/// A part that is painted belongs to the frame on screen, which began with painting the whole.
+void TamselClockSaverView::paintEvent(QPaintEvent *event)
+{
+    const bool isWhole = QRegion(rect()).subtracted(event->region()).isEmpty();
+    if (isWhole || m_shown.bounds != QRectF(rect()))
+        m_shown = nextFrame();
+    QPainter painter(this);
+    m_painter.paint(painter, m_shown, event->region());
 }
 
 void TamselClockSaverView::screenSaverPreferencesMayHaveChanged()

@@ -6,6 +6,7 @@
 #include "prefs/StoredSettings.h"
 #include "saver/Artwork.h"
 #include "saver/ClockFrame.h"
+#include "saver/FramePainter.h"
 
 #include <QColor>
 #include <QHash>
@@ -201,7 +202,7 @@ public:
     const LoadedPalette &loadedPalette() const { return m_palette; }
     const AppliedSettings &appliedSettings() const { return m_settings; }
 
-public Q_SLOTS:
+    /// Somebody changed a setting, or the session came back: checks at once.
     void screenSaverPreferencesMayHaveChanged();
 
     // What the sheet's controls do.
@@ -226,6 +227,7 @@ Q_SIGNALS:
     void configurationEnded(bool saved);
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     /// Hears of the end of editing in the sheet's text fields.
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -239,7 +241,7 @@ private:
     void loadNightPalette();
     void loadDayPalette();
     void reloadPalette(bool nightFlip);
-    void postVariantChanged(const QVariantMap &userInfo);
+    void postVariantChanged(const QVariantMap &userInfo) const;
 
     void moveSheet();
     void applySheetState(const SheetState &state);
@@ -251,5 +253,8 @@ private:
     AppliedSettings m_settings;
     PaletteTransition m_transition;
     FrameScratch m_scratch;
+    /// The frame on screen.
+    ClockFrame m_shown;
+    FramePainter m_painter;
     std::unique_ptr<SettingsSheet> m_sheet;
 };

@@ -6,3 +6,5 @@ set_target_properties(change_check PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_B
 target_compile_definitions(change_check PRIVATE TAMSEL_TEST_BUNDLE="${CMAKE_BINARY_DIR}/${TAMSEL_BUNDLE_DIR}")
 target_link_libraries(change_check PRIVATE tamsel_clock_core)
 tamsel_script_test(saver_change_check saver/change_check.sh ARGS $<TARGET_FILE:change_check> LABELS host)
+tamsel_test(saver/test_FrameDamage.cpp LIBS tamsel_clock_core)
+tamsel_test(saver/test_FramePainter.cpp LIBS tamsel_clock_core)

@@ -17,7 +17,7 @@
 #include "controls/TimePicker.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
-#include "tests/support/Pixels.h"
+#include "tests/support/ControlPicture.h"
 
 #include <QTest>
 

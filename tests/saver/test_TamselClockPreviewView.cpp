@@ -6,6 +6,7 @@
 #include "platform/Clocks.h"
 #include "saver/PreviewLayout.h"
 #include "saver/TamselClockPreviewView.h"
+#include "tests/support/ControlPicture.h"
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>

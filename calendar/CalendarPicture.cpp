@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "calendar/CalendarPicture.h"
+
+#include "calendar/TamselDrawCalendar.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+/// A quarter of the 1/64 pixel to which outlines are resolved: nobody can tell a picture at rest on
+/// this raster from a free one, and the slow breathing of the clock moves it once a second or less.
+constexpr double kStepsPerPixel = 256.0;
+
+double snapped(double length)
+{
+    return std::round(length * kStepsPerPixel) / kStepsPerPixel;
+}
+
+/// Everything that \p page covers when it is drawn into \p rect. Today's square stands out from its
+/// cell, some scripts stand out from their line.
+QRectF coveredRect(const CalendarPage &page, const QRectF &rect)
+{
+    const double scale = rect.width() / page.grid.width;
+    const double height = page.grid.height(page.rows()) * scale;
+    const double margin = page.grid.columnGap * scale;
+    return QRectF(rect.topLeft(), QSizeF(rect.width(), height))
+        .adjusted(-margin, -margin, margin, margin);
+}
+
+} // namespace
+
+void CalendarPicture::draw(QPainter &painter, const QColor &background, const QColor &mark,
+                           const CalendarMonth &month, const QRectF &rect)
+{
+    if (!m_page || m_page->month != month) {
+        m_page = calendarPage(month);
+        m_look.reset();
+    }
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF target = toDevice.mapRect(rect);
+    const Look look{background, mark, snapped(target.x()), snapped(target.y()),
+                    snapped(target.width())};
+    if (rect.width() <= 0.0 || look.width <= 0.0)
+        return;
+    if (m_look != look)
+        fill(look);
+    painter.drawImage(toDevice.inverted().mapRect(QRectF(m_area)), m_pixels);
+}
+
+void CalendarPicture::fill(const Look &look)
+{
+    m_look = look;
+    const QRectF rect(look.x, look.y, look.width, 0.0);
+    m_area = coveredRect(*m_page, rect).toAlignedRect();
+    if (m_pixels.size() != m_area.size())
+        m_pixels = QImage(m_area.size(), QImage::Format_ARGB32_Premultiplied);
+    m_pixels.fill(Qt::transparent);
+    QPainter painter(&m_pixels);
+    // On empty pixels replacing is as good as blending, and several times faster; the square of
+    // today and its number are opaque.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.translate(-m_area.topLeft());
+    TamselDrawCalendar(painter, look.background, look.mark, *m_page, rect);
+}

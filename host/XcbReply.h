@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdlib>
+#include <memory>
+
+namespace host {
+
+struct FreedReply
+{
+    void operator()(void *reply) const { std::free(reply); }
+};
+
+/// A reply or an error of the X server, which the C library allocates; null where there is none.
+template <typename T>
+using XcbReply = std::unique_ptr<T, FreedReply>;
+
+} // namespace host

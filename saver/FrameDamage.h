@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "saver/ClockFrame.h"
+
+#include <QRegion>
+
+/// Whether two frames show the same apart from the directions of their hands.
+bool sameApartFromHands(const ClockFrame &a, const ClockFrame &b);
+
+/// \p next with the rectangles of \p shown as long as no edge of them would move by 1/64 device
+/// pixel. The slow breathing of the clock thus becomes visible in steps that nobody sees, and
+/// everything between two steps can stay as it is drawn. \p ratio is device pixels per point.
+ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio);
+
+/// The device pixels, counted from the view's top-left corner, that may differ between the pictures
+/// of two frames: the outlines of the hands that moved, where they were and where they are, or the
+/// whole view. \p ratio is device pixels per point.
+QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio);

@@ -1,0 +1,3 @@
+tamsel_test(calendar/test_CalendarTexts.cpp LIBS tamsel_clock_core)
+tamsel_test(calendar/test_TamselCalendarLayout.cpp LIBS tamsel_clock_core)
+tamsel_test(calendar/test_TamselDrawCalendar.cpp LIBS tamsel_clock_core)

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// Painting by copying and mending against drawing every frame afresh.
+#include "saver/FrameDamage.h"
+#include "saver/FramePainter.h"
+#include "tests/support/Frames.h"
+#include "tests/support/Pixels.h"
+#include "tests/support/SaverFixture.h"
+
+#include <QScreen>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An edge drawn inside a clip may differ from one drawn whole by this much of 255.
+constexpr int kEdgeTolerance = 4;
+
+const QDateTime kShortlyBeforeMidnight(QDate(2026, 3, 31), QTime(23, 59, 40));
+
+QVariantMap night(bool enabled)
+{
+    return {{u"enabled"_s, enabled},
+            {u"from"_s, 0},
+            {u"to"_s, 1439},
+            {u"fromMode"_s, u"custom"_s},
+            {u"toMode"_s, u"custom"_s},
+            {u"base"_s, u"#101820"_s},
+            {u"mark"_s, u"#C0A080"_s}};
+}
+
+/// A saver on the screen of this test's platform, one frame after the other.
+class Film
+{
+public:
+    Film()
+    {
+        f.clocks.setNow(kShortlyBeforeMidnight);
+        view = f.makeView(false);
+        view->resize(160, 100);
+        view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view.get()));
+    }
+
+    /// Shows the next frame; how far the screen is from the reference then.
+    int next()
+    {
+        f.clocks.advance(1.0 / 30.0);
+        view->animateOneFrame();
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        const QImage screen = view->screen()->grabWindow(view->winId()).toImage();
+        QImage reference = SaverFixture::picture(*view);
+        return pixels::largestDifference(screen.convertToFormat(QImage::Format_RGB32), reference);
+    }
+
+    SaverFixture f;
+    std::unique_ptr<TamselClockSaverView> view;
+};
+
+} // namespace
+
+class TestFramePainter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// Across two minutes, an hour, a day, a month, the night, the calendar, and other sizes.
+    void whatIsOnScreenIsTheReference()
+    {
+        Film film;
+        const std::map<int, std::function<void()>> turns{
+            {300, [&] { SaverFixture::set(film.f.stores.suite, kCalendarEnabledKey, true); }},
+            {700, [&] { film.view->resize(100, 160); }},
+            {900, [&] { film.f.setNight(night(true)); }},
+            {1100, [&] { film.f.setNight(night(false)); }},
+            {1300, [&] { SaverFixture::set(film.f.stores.suite, kCalendarEnabledKey, false); }},
+            {1500, [&] { film.view->resize(300, 90); }},
+            {1600, [&] { SaverFixture::set(film.f.stores.suite, kSelectedVariantKey, u"blue"_s); }},
+        };
+        for (int frame = 0; frame < 2000; ++frame) {
+            if (const auto turn = turns.find(frame); turn != turns.end())
+                turn->second();
+            const int difference = film.next();
+            QVERIFY2(difference <= kEdgeTolerance,
+                     qPrintable(u"frame %1 differs by %2"_s.arg(frame).arg(difference)));
+        }
+    }
+
+    void everyDensityIsExact_data()
+    {
+        QTest::addColumn<double>("ratio");
+        for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0})
+            QTest::addRow("%g", ratio) << ratio;
+    }
+
+    /// One painter serves a surface that is painted whole and then mended, also after its density
+    /// changed.
+    void everyDensityIsExact()
+    {
+        QFETCH(double, ratio);
+        FramePainter painter;
+        for (const double density : {1.0, ratio}) {
+            ClockFrame shown = frames::frameAt(QTime(10, 8, 59));
+            QImage surface = frames::surfaceFor(shown, density);
+            QRegion damage(shown.bounds.toRect());
+            for (int i = 0; i < 40; ++i) {
+                QPainter screen(&surface);
+                painter.paint(screen, shown, damage);
+                screen.end();
+                QVERIFY(pixels::largestDifference(surface, frames::reference(shown, density)) <=
+                        kEdgeTolerance);
+                const ClockFrame next = frames::frameAt(QTime(10, 8, 59).addMSecs(33 * i));
+                damage = {};
+                for (const QRect &pixels : frameDamage(shown, next, density)) {
+                    const QRectF points(QPointF(pixels.topLeft()) / density,
+                                        QSizeF(pixels.size()) / density);
+                    damage += points.toAlignedRect();
+                }
+                shown = next;
+            }
+        }
+    }
+
+    /// Inside a window that draws more than the clock: at an offset, and nothing beyond the region.
+    void paintsInPlaceAndNowhereElse()
+    {
+        const ClockFrame frame = frames::frameAt(QTime(10, 8, 15), {160, 100});
+        QImage window(300, 200, QImage::Format_RGB32);
+        window.fill(Qt::magenta);
+        QPainter screen(&window);
+        screen.translate(40, 30);
+        FramePainter().paint(screen, frame, QRect(80, 0, 60, 100));
+        screen.end();
+        QImage expected(300, 200, QImage::Format_RGB32);
+        expected.fill(Qt::magenta);
+        QPainter(&expected).drawImage(QPoint(120, 30), frames::reference(frame, 1.0),
+                                      QRect(80, 0, 60, 100));
+        QVERIFY(pixels::largestDifference(window, expected) <= kEdgeTolerance);
+    }
+};
+
+QTEST_MAIN(TestFramePainter)
+#include "test_FramePainter.moc"
