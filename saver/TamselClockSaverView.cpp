@@ -7,6 +7,7 @@
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
 #include "saver/FrameDamage.h"
+#include "settings/SettingsSheet.h"
 
 #include <QCoreApplication>
 #include <QPaintEvent>
@@ -52,7 +53,12 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
     loadSelectedVariant();
 }
 
-TamselClockSaverView::~TamselClockSaverView() = default;
+TamselClockSaverView::~TamselClockSaverView()
+{
+    if (m_sheet)
+        closeColorPanel();
+    m_sheet.reset();
+}
 
 void TamselClockSaverView::startAnimation()
 {
