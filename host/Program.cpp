@@ -82,7 +82,7 @@ public:
     {
         platform::Desktop desktop = m_desktop;
         desktop.clocks = &clocks;
-        return std::make_unique<TamselClockSaverView>(desktop, isPreview);
+        return std::make_unique<TamselScheduledSaverView>(desktop, isPreview);
     }
 
     int exec() { return QApplication::exec(); }
