@@ -24,6 +24,8 @@ struct OptionNames
     QString scale = u"scale"_s;
     QString at = u"at"_s;
     QString preview = u"preview"_s;
+    QString registering = u"register-xscreensaver"_s;
+    QString unregistering = u"unregister-xscreensaver"_s;
     QString help = u"help"_s;
     QString version = u"version"_s;
 };
@@ -47,6 +49,8 @@ void addOptions(QCommandLineParser &parser)
         {n.scale, u"Device pixels per point of the picture."_s, u"N"_s},
         {n.at, u"Local time of the picture, as 2026-03-14T22:08:30.5."_s, u"TIME"_s},
         {n.preview, u"Draw the picture as a settings thumbnail."_s},
+        {n.registering, u"Enter the clock in the list of savers in ~/.xscreensaver."_s},
+        {n.unregistering, u"Take the clock out of that list."_s},
         {n.help, u"Print this help."_s},
         {n.version, u"Print the version."_s},
     });
@@ -111,24 +115,36 @@ QString missingCompanion(const QCommandLineParser &parser, const QStringList &de
                                     : u"--%1 needs --%2"_s.arg(*alone, wanted.join(" or --"_L1));
 }
 
-QString conflict(const QCommandLineParser &parser)
+/// The options that each stand for a way to run the program.
+QList<std::pair<QString, Mode>> modes()
 {
     const OptionNames &n = names();
-    const bool hosted = parser.isSet(n.root) || parser.isSet(n.windowId);
-    const int modes = int(hosted) + int(parser.isSet(n.window)) + int(parser.isSet(n.snapshot));
-    return modes > 1 ? u"--window, --snapshot and --root or --window-id exclude each other"_s
-                     : QString();
+    return {{n.snapshot, Mode::Snapshot},    {n.window, Mode::Window},
+            {n.registering, Mode::Register}, {n.unregistering, Mode::Unregister},
+            {n.root, Mode::HostWindow},      {n.windowId, Mode::HostWindow}};
+}
+
+/// Two of them that cannot stand together, as an error text.
+QString conflict(const QCommandLineParser &parser)
+{
+    std::optional<std::pair<QString, Mode>> first;
+    for (const auto &[name, mode] : modes()) {
+        if (!parser.isSet(name))
+            continue;
+        if (first && first->second != mode)
+            return u"--%1 and --%2 exclude each other"_s.arg(first->first, name);
+        first = {name, mode};
+    }
+    return {};
 }
 
 Mode modeFrom(const QCommandLineParser &parser, bool windowIsNamed)
 {
-    const OptionNames &n = names();
-    if (parser.isSet(n.snapshot))
-        return Mode::Snapshot;
-    if (parser.isSet(n.window))
-        return Mode::Window;
-    const bool hosted = windowIsNamed || parser.isSet(n.root);
-    return hosted ? Mode::HostWindow : Mode::FullScreen;
+    for (const auto &[name, mode] : modes()) {
+        if (parser.isSet(name))
+            return mode;
+    }
+    return windowIsNamed ? Mode::HostWindow : Mode::FullScreen;
 }
 
 /// Qt's wording as one line in our form.

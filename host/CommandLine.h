@@ -16,6 +16,8 @@ enum class Mode {
     HostWindow, ///< inside a window that a host names
     Window,     ///< an ordinary window
     Snapshot,   ///< one frame as a picture
+    Register,   ///< enter the clock in XScreenSaver's list of programs
+    Unregister, ///< and take it out again
     Help,
     Version,
 };

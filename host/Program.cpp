@@ -6,6 +6,7 @@
 #include "host/SaverHost.h"
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
+#include "host/XScreenSaverRegistration.h"
 #include "night/TamselScheduledSaverView.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
@@ -185,6 +186,13 @@ int print(const QString &text)
     return kSuccess;
 }
 
+int runRegistration(Registration wanted, int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QString fault = registerWithXScreenSaver(wanted);
+    return fault.isNull() ? kSuccess : complainAndFail(fault);
+}
+
 } // namespace
 
 void complain(const QString &text)
@@ -204,6 +212,10 @@ int run(const Options &options, int argc, char **argv)
             QStringLiteral("%1 " TAMSEL_VERSION "\n").arg(QLatin1StringView(kProgramName)));
     case Mode::Snapshot:
         return asPicture(options, argc, argv);
+    case Mode::Register:
+        return runRegistration(Registration::Listed, argc, argv);
+    case Mode::Unregister:
+        return runRegistration(Registration::Unlisted, argc, argv);
     case Mode::HostWindow:
         return inHostWindow(options, argc, argv);
     case Mode::Window:

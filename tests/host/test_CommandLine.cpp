@@ -93,6 +93,8 @@ private Q_SLOTS:
         QTest::newRow("time without picture") << u"--at 2026-02-03T10:00"_s << u"--snapshot"_s;
         QTest::newRow("size without window") << u"--size 10x10"_s << u"--window"_s;
         QTest::newRow("two modes") << u"--window --root"_s << u"exclude"_s;
+        QTest::newRow("to and fro")
+            << u"--register-xscreensaver --unregister-xscreensaver"_s << u"exclude"_s;
     }
 
     void refusesWrongUse()

@@ -1,0 +1,3 @@
+# bash completion for pelko-location                      -*- shell-script -*-
+
+complete -W '--set --show --forget --help' pelko-location

@@ -1,0 +1,20 @@
+# bash completion for tamsel-clock                        -*- shell-script -*-
+
+_tamsel_clock()
+{
+    local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}
+    case $prev in
+    --snapshot | --sheet-snapshot)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$cur")
+        return
+        ;;
+    --window-id | --size | --scale | --at | --idle)
+        return
+        ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W '--root --window-id --window --size --idle --configure
+        --register-xscreensaver --unregister-xscreensaver --snapshot --scale --at --preview
+        --sheet-snapshot --dark --help --version' -- "$cur")
+} &&
+    complete -F _tamsel_clock tamsel-clock

@@ -1,0 +1,18 @@
+# fish completion for tamsel-clock
+complete -c tamsel-clock -f
+complete -c tamsel-clock -l root -d 'Draw into the window of a screen saver host'
+complete -c tamsel-clock -l window-id -x -d 'Draw into a window as a settings thumbnail'
+complete -c tamsel-clock -l window -d 'Show the clock in an ordinary window'
+complete -c tamsel-clock -l size -x -d 'Size of the window or picture in points, WxH'
+complete -c tamsel-clock -l idle -x -d 'Wait until the user is idle for so many minutes'
+complete -c tamsel-clock -l configure -d 'Open the options'
+complete -c tamsel-clock -l register-xscreensaver -d 'Enter the clock in ~/.xscreensaver'
+complete -c tamsel-clock -l unregister-xscreensaver -d 'Take the clock out of ~/.xscreensaver'
+complete -c tamsel-clock -l snapshot -r -F -d 'Write one frame as a picture'
+complete -c tamsel-clock -l scale -x -d 'Device pixels per point of the picture'
+complete -c tamsel-clock -l at -x -d 'Local time of the picture'
+complete -c tamsel-clock -l preview -d 'Draw the picture as a settings thumbnail'
+complete -c tamsel-clock -l sheet-snapshot -r -F -d 'Write the options window as a picture'
+complete -c tamsel-clock -l dark -d 'Draw the options in the dark appearance'
+complete -c tamsel-clock -l help -d 'Print help'
+complete -c tamsel-clock -l version -d 'Print the version'

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "host/XScreenSaverRegistration.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using host::withClockListed;
+using host::withClockUnlisted;
+
+namespace {
+
+/// As XScreenSaver's own settings window writes it.
+const QByteArray kWritten = "# XScreenSaver Preferences File\n"
+                            "\n"
+                            "timeout:\t0:10:00\n"
+                            "mode:\t\tone\n"
+                            "selected:\t1\n"
+                            "textLiteral:\tXScreenSaver: \\\n"
+                            "programs: none\n"
+                            "\n"
+                            "programs:\t\t\t\t\t\t      \\\n"
+                            "\t\t\t\tmaze --root\t\t\t    \\n\\\n"
+                            "- GL: \t\t\t\tsuperquadrics --root\t\t    \\n\\\n"
+                            "  GL: \"Quoted\"\t\tattraction --root\t\t    \\n\\\n"
+                            "\n"
+                            "\n"
+                            "pointerHysteresis:\t10\n";
+const QByteArray kLine = "\t\t\t\t\"Tamsel Clock\"\ttamsel-clock --root\t\\n";
+
+} // namespace
+
+class TestXScreenSaverRegistration : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void listsTheClockLast_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("listed");
+        QByteArray listed = kWritten;
+        listed.insert(listed.indexOf("\n\npointer"), kLine + "\\\n");
+        QTest::newRow("as written by the settings") << kWritten << listed;
+        QTest::newRow("no file") << QByteArray() << "programs:\t\\\n" + kLine + "\n";
+        QTest::newRow("no list") << QByteArray("timeout: 5\n")
+                                 << "timeout: 5\nprograms:\t\\\n" + kLine + "\n";
+        QTest::newRow("no last line break")
+            << QByteArray("timeout: 5") << "timeout: 5\nprograms:\t\\\n" + kLine + "\n";
+        QTest::newRow("an open end")
+            << QByteArray("timeout: 5\\\n") << "timeout: 5\\\n\nprograms:\t\\\n" + kLine + "\n";
+        QTest::newRow("a list in a comment")
+            << QByteArray("# programs: a\n") << "# programs: a\nprograms:\t\\\n" + kLine + "\n";
+        QTest::newRow("empty list")
+            << QByteArray("programs:\nfade: True\n") << "programs:\\\n" + kLine + "\nfade: True\n";
+        QTest::newRow("one line") << QByteArray(
+                                         "programs: maze --root\\n qix --root \\n\nfade: True\n")
+                                  << "programs: maze --root\\n qix --root \\n\\\n" + kLine +
+                                         "\nfade: True\n";
+        QTest::newRow("no end mark") << QByteArray("Programs: maze --root\nfade: True\n")
+                                     << "Programs: maze --root \\n\\\n" + kLine + "\nfade: True\n";
+        QTest::newRow("the last of two lists")
+            << QByteArray("programs: maze\\n\nprograms: qix\\n\n")
+            << "programs: maze\\n\nprograms: qix\\n\\\n" + kLine + "\n";
+        QTest::newRow("escaped backslash before an n")
+            << QByteArray("programs: sh -c 'a\\\\nb'\\n\n")
+            << "programs: sh -c 'a\\\\nb'\\n\\\n" + kLine + "\n";
+        QTest::newRow("listed and switched off")
+            << QByteArray("programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n")
+            << QByteArray("programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n");
+        QTest::newRow("listed at another place")
+            << QByteArray("programs: \"tamsel-clock\" /old/bin/tamsel-clock --root \\n a\\n\n")
+            << QByteArray("programs: \"tamsel-clock\" tamsel-clock --root \\n a\\n\n");
+        QTest::newRow("listed at a quoted place")
+            << QByteArray("programs: '/my programs/tamsel-clock' --root\n")
+            << QByteArray("programs: tamsel-clock --root\n");
+        QTest::newRow("relatives are others")
+            << QByteArray("programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\n")
+            << "programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\\\n" + kLine + "\n";
+    }
+
+    void listsTheClockLast()
+    {
+        QFETCH(QByteArray, file);
+        const QByteArray listed = withClockListed(file, "tamsel-clock");
+        QTEST(listed, "listed");
+        QCOMPARE(withClockListed(listed, "tamsel-clock"), listed);
+    }
+
+    void unlistingLeavesNoTrace_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::newRow("as written by the settings") << kWritten;
+        QTest::newRow("no file") << QByteArray();
+        QTest::newRow("no list") << QByteArray("timeout: 5\n");
+        QTest::newRow("one line") << QByteArray("programs: maze \\n\nfade: True\n");
+        QTest::newRow("no last line break") << QByteArray("programs: maze \\n\\\n qix \\n");
+    }
+
+    void unlistingLeavesNoTrace()
+    {
+        QFETCH(QByteArray, file);
+        QCOMPARE(withClockUnlisted(withClockListed(file, "'/a b/tamsel-clock'")), file);
+        QCOMPARE(withClockUnlisted(file), file);
+    }
+
+    void theChosenSaverStaysChosen_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        QTest::newRow("one before the clock") << QByteArray("0") << QByteArray("0");
+        QTest::newRow("one after the clock") << QByteArray("2") << QByteArray("1");
+        QTest::newRow("none") << QByteArray("-1") << QByteArray("-1");
+        QTest::newRow("nonsense") << QByteArray("x") << QByteArray("x");
+    }
+
+    void theChosenSaverStaysChosen()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const QByteArray file = "programs: a\\n- tamsel-clock --root\\n c\\n\nselected:\t";
+        QCOMPARE(withClockUnlisted(file + before + " \n"),
+                 "programs: a\\n c\\n\nselected:\t" + after + " \n");
+    }
+
+    void oldBytesSurviveForeignLineBreaks()
+    {
+        QByteArray file = kWritten;
+        file.replace("\n", "\r\n");
+        QByteArray listed = withClockListed(file, "tamsel-clock");
+        QVERIFY(listed.contains(kLine));
+        for (const QByteArray &line : file.split('\n'))
+            QVERIFY2(listed.contains(line), line);
+    }
+
+    void quotesAProgramsPath_data()
+    {
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QByteArray>("program");
+        QTest::newRow("plain") << QByteArray("/opt/a-b_1.2+/x") << QByteArray("/opt/a-b_1.2+/x");
+        QTest::newRow("blank") << QByteArray("/my clock/x") << QByteArray("'/my clock/x'");
+        QTest::newRow("of the shell") << QByteArray("/$HOME;/x") << QByteArray("'/$HOME;/x'");
+        QTest::newRow("quote") << QByteArray("/it's/x") << QByteArray();
+        QTest::newRow("backslash") << QByteArray("/a\\n/x") << QByteArray();
+        QTest::newRow("line break") << QByteArray("/a\nb/x") << QByteArray();
+    }
+
+    void quotesAProgramsPath()
+    {
+        QFETCH(QByteArray, path);
+        QTEST(host::listedProgram(path), "program");
+    }
+
+    /// The program itself: links, permissions and files that cannot be changed.
+    void changesTheUsersFile()
+    {
+        QTemporaryDir home;
+        QProcess program;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("HOME", home.path());
+        program.setProcessEnvironment(environment);
+        const auto run = [&](const QString &option) {
+            program.start(TAMSEL_PROGRAM, {option});
+            return program.waitForFinished() ? program.exitCode() : -1;
+        };
+        const QString listed = home.filePath(".xscreensaver");
+        QCOMPARE(run("--register-xscreensaver"), 0);
+        QVERIFY(QFileInfo(listed).size() > 0);
+        QCOMPARE(run("--unregister-xscreensaver"), 0);
+        QVERIFY(!QFileInfo::exists(listed));
+        QCOMPARE(run("--unregister-xscreensaver"), 0);
+
+        QFile kept(home.filePath("kept.conf"));
+        QVERIFY(kept.open(QIODevice::WriteOnly) && kept.write(kWritten) > 0);
+        kept.close();
+        const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther;
+        QVERIFY(kept.setPermissions(permissions));
+        QVERIFY(QFile::link("kept.conf", listed));
+        QCOMPARE(run("--register-xscreensaver"), 0);
+        QVERIFY(QFileInfo(listed).isSymLink());
+        QVERIFY(QFileInfo(kept).size() > kWritten.size());
+        QCOMPARE(QFileInfo(kept).permissions() & permissions, permissions);
+        QVERIFY(!(QFileInfo(kept).permissions() & QFile::ReadGroup));
+
+        QVERIFY(QFile::remove(listed) && QDir(home.path()).mkdir(".xscreensaver"));
+        QCOMPARE(run("--register-xscreensaver"), 1);
+        QCOMPARE(program.readAllStandardError().count('\n'), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestXScreenSaverRegistration)
+#include "test_XScreenSaverRegistration.moc"

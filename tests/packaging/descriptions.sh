@@ -1,0 +1,35 @@
+#!/bin/bash
+# SPDX-License-Identifier: MIT
+# What desktops and hosts read about the programs is well formed, by their own validators.
+set -u
+sources=$1
+built=$2
+failed=0
+check() {
+    local said
+    if ! said=$("$@" 2>&1) || [ -n "$said" ]; then
+        printf 'FAILED: %s\n%s\n' "$*" "$said" >&2
+        failed=1
+    fi
+}
+validated_appstream() {
+    appstreamcli validate --no-net "$1" >"$TMPDIR/said" || cat "$TMPDIR/said"
+}
+
+for entry in "$sources"/*.desktop; do
+    case $entry in
+    *.screensaver.desktop) check desktop-file-validate --no-hints "$built/screensavers/tamsel-clock.desktop" ;;
+    *) check desktop-file-validate "$entry" ;;
+    esac
+done
+check validated_appstream "$built/org.tamsel.clock.metainfo.xml"
+check xmllint --noout "$sources/tamsel-clock.xml"
+for page in "$sources"/man/*; do
+    check groff -mdoc -Tutf8 -wall -z "$page"
+done
+check bash -n "$sources/completions/tamsel-clock.bash"
+check bash -n "$sources/completions/pelko-location.bash"
+for icon in "$sources"/icons/*.svg; do
+    check xmllint --noout "$icon"
+done
+exit $failed
