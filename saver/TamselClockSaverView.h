@@ -71,7 +71,8 @@ public:
     void animateOneFrame() override;
     /// Paints the whole view from its state; the reference for what is on screen.
     void drawRect(QPainter &painter, const QRectF &dirtyRect) override;
-    /// All that the frame at this moment shows. Ends a cross-fade that has run its time.
+    /// All that the frame at this moment shows, the drift held as on screen. Ends a cross-fade that
+    /// has run its time.
     ClockFrame nextFrame();
 
     // Variants and artwork: saver/SaverArtwork.cpp
