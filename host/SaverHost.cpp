@@ -62,7 +62,7 @@ void SaverHost::start()
     syncViews();
 }
 
-void SaverHost::followScreen(QScreen *screen)
+void SaverHost::followScreen(QScreen *screen) const
 {
     connect(screen, &QScreen::geometryChanged, this, &SaverHost::screensChanged);
 }

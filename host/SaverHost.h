@@ -38,7 +38,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void followScreen(QScreen *screen);
+    void followScreen(QScreen *screen) const;
     void screensChanged();
     void syncViews();
     void cover(QScreen *screen);
