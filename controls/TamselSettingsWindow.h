@@ -25,7 +25,7 @@ public:
     void setMovableByWindowBackground(bool movable) { m_movable = movable; }
 
 Q_SIGNALS:
-    /// Return was pressed where no control takes it.
+    /// Return was pressed and neither a control takes it nor is it for the focused button.
     void defaultRequested();
     /// Escape was pressed where no control takes it, or the desktop was told to close the window;
     /// it stays unless whoever hears of it hides it.

@@ -2,6 +2,7 @@
 // The building of the options sheet.
 #include "saver/TamselClockSaverView.h"
 
+#include "controls/OverlayScroller.h"
 #include "controls/PushButton.h"
 #include "controls/TamselHexField.h"
 #include "controls/TamselModeControl.h"
@@ -126,6 +127,7 @@ void SheetBuilder::addWindow()
     // The window's rounded background shows through.
     scroll->viewport()->setAutoFillBackground(false);
     scroll->widget()->setAutoFillBackground(false);
+    new OverlayScroller(m_view.clocks(), scroll);
 }
 
 void SheetBuilder::addPreview(QWidget *document)
