@@ -88,7 +88,7 @@ QWidget *TamselScheduledSaverView::configureSheet()
 
 bool TamselScheduledSaverView::hasTimeRows() const
 {
-    return m_timeRows && m_timeRows->sheet;
+    return sheet() && m_timeRows && m_timeRows->sheet;
 }
 
 void TamselScheduledSaverView::addTimeRow(int row)

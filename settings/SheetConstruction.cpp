@@ -323,12 +323,11 @@ void SheetBuilder::addActions(QWidget *document)
 
 QWidget *TamselClockSaverView::configureSheet()
 {
-    if (!sheet()) {
+    if (!m_sheet) {
         m_sheet = std::make_unique<SettingsSheet>(new TamselSettingsWindow);
         SheetBuilder(*this, *m_sheet).build();
-        // A host may have made the window a child of its own, and destroyed it with that.
         connect(m_sheet->configurationSheet, &QObject::destroyed, this,
-                [this] { m_sheet.reset(); });
+                &TamselClockSaverView::forgetSheet);
         m_sheet->settingsLayoutTimer.setTimerType(Qt::PreciseTimer);
         m_sheet->settingsLayoutTimer.callOnTimeout(this, &TamselClockSaverView::moveSheet);
     }
@@ -339,7 +338,12 @@ QWidget *TamselClockSaverView::configureSheet()
     return window;
 }
 
-SettingsSheet *TamselClockSaverView::sheet() const
+/// A host may have made the window a child of its own, and destroyed it with that.
+void TamselClockSaverView::forgetSheet()
 {
-    return m_sheet && m_sheet->isAlive() ? m_sheet.get() : nullptr;
+    if (!m_sheet)
+        return;
+    closeColorPanel();
+    m_sheet->configurationSheet = nullptr;
+    m_sheet.reset();
 }
