@@ -29,7 +29,6 @@ Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
       m_information(addText(information, platform::systemFont(kFontSize, QFont::Normal)))
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowModality(Qt::WindowModal);
     setCornerRadius(kRadius);
     setMovableByWindowBackground(true);
     setWindowTitle(message);

@@ -15,6 +15,7 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
 {
     setAttribute(Qt::WA_TranslucentBackground);
+    takeModality();
     redrawWithAppearance(this);
     installControlAccessibility();
 }
@@ -38,6 +39,18 @@ void TamselSettingsWindow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     takeShape();
+}
+
+bool TamselSettingsWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::ParentChange)
+        takeModality();
+    return QWidget::event(event);
+}
+
+void TamselSettingsWindow::takeModality()
+{
+    setWindowModality(parentWidget() ? Qt::WindowModal : Qt::NonModal);
 }
 
 void TamselSettingsWindow::closeEvent(QCloseEvent *event)

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// The window of the options sheet: without a frame, see-through where nothing is drawn, yet able
-/// to take the keyboard like any window.
+/// to take the keyboard like any window. Modal over its parent when it has one.
 class TamselSettingsWindow : public QWidget
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ Q_SIGNALS:
     void cancelRequested();
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -41,6 +42,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void takeModality();
     void takeShape();
 
     double m_cornerRadius = 0.0;
