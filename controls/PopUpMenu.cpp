@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/PopUpMenu.h"
 
+#include "controls/Emphasis.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr double kFontSize = 13.0;
 constexpr double kRadius = 9.0;
-constexpr double kBorderAlpha = 0.12;
 constexpr double kSeparatorAlpha = 0.1;
 constexpr double kItemRadius = 5.0;
 constexpr double kItemHeight = 24.0;
@@ -40,7 +40,7 @@ public:
         if (type != CT_MenuItem || !item)
             return QProxyStyle::sizeFromContents(type, option, size, widget);
         if (item->menuItemType == QStyleOptionMenuItem::Separator)
-            return {0, int(kSeparatorHeight)};
+            return {1, int(kSeparatorHeight)};
         const double title = QFontMetricsF(item->font).horizontalAdvance(item->text);
         return {int(std::ceil(kTitleInset + title + kTitleMargin)), int(kItemHeight)};
     }
@@ -91,16 +91,11 @@ void PopUpMenu::resizeEvent(QResizeEvent *event)
 
 void PopUpMenu::paintEvent(QPaintEvent *)
 {
-    const platform::Appearance &appearance = appearanceOf(this);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(rect(), Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.setBrush(appearance.windowBackgroundColor());
-    painter.setPen(QPen(withAlpha(appearance.labelColor(), kBorderAlpha), 1.0));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius - 0.5,
-                            kRadius - 0.5);
+    drawPanel(painter, this, kRadius);
     for (const QAction *action : actions())
         drawItem(painter, *action, actionGeometry(const_cast<QAction *>(action)));
 }
@@ -115,11 +110,11 @@ void PopUpMenu::drawItem(QPainter &painter, const QAction &action, const QRectF 
         return;
     }
     const bool active = activeAction() == &action;
-    const QColor ink = active ? appearance.palette().color(QPalette::HighlightedText)
-                              : appearance.controlTextColor();
+    const Emphasis emphasis = emphasisFrom(appearance.controlAccentColor());
+    const QColor ink = active ? emphasis.ink : appearance.controlTextColor();
     if (active) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(appearance.controlAccentColor());
+        painter.setBrush(emphasis.fill);
         painter.drawRoundedRect(item, kItemRadius, kItemRadius);
     }
     painter.setPen(ink);

@@ -4,7 +4,6 @@
 #include "controls/FocusRing.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
 #include "platform/WindowPlacement.h"
 
 #include <QGuiApplication>
@@ -17,7 +16,6 @@
 namespace {
 
 constexpr double kRadius = 16.0;
-constexpr double kBorderAlpha = 0.12;
 /// Between the anchor and the panel.
 constexpr int kGap = 4;
 
@@ -139,13 +137,8 @@ void Popover::mousePressEvent(QMouseEvent *event)
 
 void Popover::paintEvent(QPaintEvent *)
 {
-    const platform::Appearance &appearance = appearanceOf(this);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(appearance.windowBackgroundColor());
-    painter.setPen(QPen(withAlpha(appearance.labelColor(), kBorderAlpha), 1.0));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius - 0.5,
-                            kRadius - 0.5);
+    drawPanel(painter, this, kRadius);
 }
 
 void Popover::reportOnce()

@@ -2,6 +2,7 @@
 #include "controls/PushButton.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/Emphasis.h"
 #include "controls/FocusRing.h"
 #include "controls/LineHeight.h"
 #include "controls/TamselInputFill.h"
@@ -21,13 +22,6 @@ constexpr double kSymbolGap = 5.0;
 constexpr double kSidePadding = 14.0;
 constexpr double kPressedAlpha = 0.6;
 constexpr double kDisabledAlpha = 0.4;
-
-/// White on dark and middling colours, black on light ones.
-QColor inkOn(const QColor &fill)
-{
-    const double luminance = 0.2126 * fill.redF() + 0.7152 * fill.greenF() + 0.0722 * fill.blueF();
-    return luminance > 0.6 ? Qt::black : Qt::white;
-}
 
 } // namespace
 
@@ -88,14 +82,14 @@ QRectF PushButton::bezel() const
 QColor PushButton::displayFill() const
 {
     if (m_prominent)
-        return appearanceOf(this).controlAccentColor();
+        return emphasisFrom(appearanceOf(this).controlAccentColor()).fill;
     return m_fill.isValid() ? m_fill : TamselInputFill(this);
 }
 
 QColor PushButton::displayInk() const
 {
     if (m_prominent)
-        return inkOn(displayFill());
+        return emphasisFrom(appearanceOf(this).controlAccentColor()).ink;
     return m_ink.isValid() ? m_ink : appearanceOf(this).controlTextColor();
 }
 

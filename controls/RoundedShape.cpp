@@ -1,8 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "controls/RoundedShape.h"
 
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QPainter>
+#include <QWidget>
+
 #include <algorithm>
 #include <cmath>
+
+namespace {
+constexpr double kEdgeAlpha = 0.16;
+} // namespace
 
 QRegion roundedShape(const QSize &size, double radius)
 {
@@ -19,4 +29,17 @@ QRegion roundedShape(const QSize &size, double radius)
         shape -= QRegion(line.translated(0, mirrored - row)) - middle.translated(0, mirrored - row);
     }
     return shape;
+}
+
+void drawPanel(QPainter &painter, const QWidget *panel, double radius)
+{
+    const platform::Appearance &appearance = appearanceOf(panel);
+    const QRectF area = panel->rect();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(appearance.windowBackgroundColor());
+    painter.drawRoundedRect(area, radius, radius);
+    painter.setPen(QPen(withAlpha(appearance.labelColor(), kEdgeAlpha), 1.0));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
 }

@@ -2,9 +2,9 @@
 #include "controls/TamselSettingsWindow.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/PushButton.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>
@@ -15,6 +15,7 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
 {
     setAttribute(Qt::WA_TranslucentBackground);
+    takeModality();
     redrawWithAppearance(this);
     installControlAccessibility();
 }
@@ -40,6 +41,18 @@ void TamselSettingsWindow::resizeEvent(QResizeEvent *event)
     takeShape();
 }
 
+bool TamselSettingsWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::ParentChange)
+        takeModality();
+    return QWidget::event(event);
+}
+
+void TamselSettingsWindow::takeModality()
+{
+    setWindowModality(parentWidget() ? Qt::WindowModal : Qt::NonModal);
+}
+
 void TamselSettingsWindow::closeEvent(QCloseEvent *event)
 {
     Q_EMIT cancelRequested();
@@ -54,7 +67,10 @@ void TamselSettingsWindow::keyPressEvent(QKeyEvent *event)
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        Q_EMIT defaultRequested();
+        if (auto *button = qobject_cast<PushButton *>(focusWidget()))
+            button->click();
+        else
+            Q_EMIT defaultRequested();
         break;
     default:
         QWidget::keyPressEvent(event);
@@ -87,8 +103,5 @@ void TamselSettingsWindow::paintEvent(QPaintEvent *)
     if (m_cornerRadius <= 0.0)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(appearanceOf(this).windowBackgroundColor());
-    painter.drawRoundedRect(rect(), m_cornerRadius, m_cornerRadius);
+    drawPanel(painter, this, m_cornerRadius);
 }

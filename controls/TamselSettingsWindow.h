@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// The window of the options sheet: without a frame, see-through where nothing is drawn, yet able
-/// to take the keyboard like any window.
+/// to take the keyboard like any window. Modal over its parent when it has one.
 class TamselSettingsWindow : public QWidget
 {
     Q_OBJECT
@@ -25,13 +25,14 @@ public:
     void setMovableByWindowBackground(bool movable) { m_movable = movable; }
 
 Q_SIGNALS:
-    /// Return was pressed where no control takes it.
+    /// Return was pressed and neither a control takes it nor is it for the focused button.
     void defaultRequested();
     /// Escape was pressed where no control takes it, or the desktop was told to close the window;
     /// it stays unless whoever hears of it hides it.
     void cancelRequested();
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -41,6 +42,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void takeModality();
     void takeShape();
 
     double m_cornerRadius = 0.0;

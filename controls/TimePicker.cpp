@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TimePicker.h"
 
+#include "controls/Emphasis.h"
 #include "controls/LineHeight.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -69,7 +70,8 @@ void TimePicker::takeColors()
     QPalette colors = palette();
     colors.setColor(QPalette::Base, Qt::transparent);
     colors.setColor(QPalette::Text, text);
-    colors.setColor(QPalette::Highlight, appearance.controlAccentColor());
-    colors.setColor(QPalette::HighlightedText, Qt::white);
+    const Emphasis selection = emphasisFrom(appearance.controlAccentColor());
+    colors.setColor(QPalette::Highlight, selection.fill);
+    colors.setColor(QPalette::HighlightedText, selection.ink);
     setPalette(colors);
 }

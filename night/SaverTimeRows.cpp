@@ -2,6 +2,7 @@
 // The From and To rows of the options sheet: each end of the night may follow the sun.
 #include "night/TamselScheduledSaverView.h"
 
+#include "controls/Alert.h"
 #include "controls/PopUpMenu.h"
 #include "controls/PushButton.h"
 #include "controls/TamselSettingsView.h"
@@ -18,9 +19,7 @@
 #include "settings/SettingsSheet.h"
 #include "settings/SheetParts.h"
 
-#include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -67,19 +66,6 @@ TimePicker *pickerOf(const SettingsSheet &sheet, int row)
     return row == 0 ? sheet.nightFromPicker : sheet.nightToPicker;
 }
 
-/// An alert on \p sheet, which waits until it is answered. Destroys itself.
-QMessageBox *alertOn(QWidget *sheet, const QString &message, const QString &information)
-{
-    auto *alert = new QMessageBox(sheet);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setWindowModality(Qt::WindowModal);
-    alert->setFont(settingsFont());
-    alert->setPalette(appearanceOf(sheet).palette());
-    alert->setText(message);
-    alert->setInformativeText(information);
-    return alert;
-}
-
 } // namespace
 
 QWidget *TamselScheduledSaverView::configureSheet()
@@ -102,7 +88,7 @@ QWidget *TamselScheduledSaverView::configureSheet()
 
 bool TamselScheduledSaverView::hasTimeRows() const
 {
-    return m_timeRows && m_timeRows->sheet;
+    return sheet() && m_timeRows && m_timeRows->sheet;
 }
 
 void TamselScheduledSaverView::addTimeRow(int row)
@@ -214,9 +200,10 @@ void TamselScheduledSaverView::requestSolarLocation()
     companion.setProgram(desktop().bundle.helperPath(u"Pelko Location.app"_s));
     if (companion.startDetached() || !sheet())
         return;
-    alertOn(sheet()->configurationSheet, u"Could not open location setup"_s,
-            companion.errorString())
-        ->open();
+    auto *alert = new Alert(u"Could not open location setup"_s, companion.errorString(),
+                            sheet()->configurationSheet);
+    alert->addButton(u"OK"_s);
+    alert->present();
 }
 
 bool TamselScheduledSaverView::validateSchedule()
@@ -244,12 +231,11 @@ void TamselScheduledSaverView::saveConfiguration()
 
 void TamselScheduledSaverView::askForLocation()
 {
-    QMessageBox *alert =
-        alertOn(sheet()->configurationSheet, u"Sunrise and sunset need your Mac's location"_s,
-                u"Allow location access in the Pelko Location app, or choose Custom time in the "
-                "From and To menus. The location stays on this Mac."_s);
-    const QPushButton *use = alert->addButton(u"Use Mac location"_s, QMessageBox::AcceptRole);
-    alert->addButton(u"Cancel"_s, QMessageBox::RejectRole);
-    connect(use, &QAbstractButton::clicked, this, [this] { requestSolarLocation(); });
-    alert->open();
+    auto *alert = new Alert(u"Sunrise and sunset need your Mac's location"_s,
+                            u"Allow location access in the Pelko Location app, or choose Custom "
+                            "time in the From and To menus. The location stays on this Mac."_s,
+                            sheet()->configurationSheet);
+    alert->addButton(u"Use Mac location"_s, [this] { requestSolarLocation(); });
+    alert->addButton(u"Cancel"_s);
+    alert->present();
 }

@@ -234,7 +234,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// The sheet's controls; null while there is no sheet.
-    SettingsSheet *sheet() const;
+    SettingsSheet *sheet() const { return m_sheet.get(); }
     /// Takes the keyboard from a text field of the sheet, which applies what was typed.
     void endEditing();
 
@@ -244,6 +244,7 @@ private:
     void reloadPalette(bool nightFlip);
     void postVariantChanged(const QVariantMap &userInfo) const;
 
+    void forgetSheet();
     void moveSheet();
     void applySheetState(const SheetState &state);
     void applyColor(const QColor &color, const QString &key);

@@ -42,6 +42,12 @@ const ColorControls *controlsOf(const QString &key)
     return found == end ? nullptr : found;
 }
 
+/// The panel is the whole program's and has one target at a time.
+void clearTarget(const QColorDialog &panel)
+{
+    QObject::disconnect(&panel, &QColorDialog::currentColorChanged, nullptr, nullptr);
+}
+
 /// Puts \p panel before every window, above \p sheet for as long as both are there.
 void bringToFront(QColorDialog &panel, const QWidget *sheet)
 {
@@ -157,10 +163,10 @@ void TamselClockSaverView::openFullColorPanel()
     SettingsSheet &s = *m_sheet;
     QColorDialog &panel = sharedColorPanel();
     // The panel has no target while it is given its colour, which is no choice of the user's.
-    disconnect(s.colorPanelTarget);
+    clearTarget(panel);
     panel.setCurrentColor(draftColorForKey(s.activeColorPanelKey));
-    s.colorPanelTarget = connect(&panel, &QColorDialog::currentColorChanged, this,
-                                 &TamselClockSaverView::colorPanelChanged);
+    connect(&panel, &QColorDialog::currentColorChanged, this,
+            &TamselClockSaverView::colorPanelChanged);
     disconnect(s.colorPanelCloseObserver);
     s.colorPanelCloseObserver =
         connect(&panel, &QDialog::finished, this, &TamselClockSaverView::closeColorPanel);
@@ -179,7 +185,7 @@ void TamselClockSaverView::closeColorPanel()
         s->colorPopover.reset();
     }
     if (sharedColorPanelExists() && !s->activeColorPanelKey.isNull()) {
-        disconnect(s->colorPanelTarget);
+        clearTarget(sharedColorPanel());
         sharedColorPanel().hide();
     }
     setActiveColorPanelKey({});

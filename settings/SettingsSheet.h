@@ -6,7 +6,6 @@
 #include "settings/SheetTransition.h"
 
 #include <QHash>
-#include <QPointer>
 #include <QString>
 #include <QTimer>
 
@@ -28,17 +27,11 @@ class TimePicker;
 /// the controls' own and kept nowhere else.
 struct SettingsSheet
 {
-    /// Takes \p window, unless somebody else destroys it.
-    explicit SettingsSheet(TamselSettingsWindow *window)
-        : configurationSheet(window), m_owned(window)
-    {
-    }
+    /// Takes \p window.
+    explicit SettingsSheet(TamselSettingsWindow *window) : configurationSheet(window) {}
     SettingsSheet(const SettingsSheet &) = delete;
     SettingsSheet &operator=(const SettingsSheet &) = delete;
-    ~SettingsSheet() { delete m_owned; }
-
-    /// False once the window is being destroyed, and every control with it.
-    bool isAlive() const { return !m_owned.isNull(); }
+    ~SettingsSheet() { delete configurationSheet; }
 
     TamselSettingsWindow *configurationSheet;
     QScrollArea *settingsScroll = nullptr;
@@ -84,10 +77,6 @@ struct SettingsSheet
     /// The colour key whose editor is open; null when none is.
     QString activeColorPanelKey;
     std::unique_ptr<TamselColorPopover> colorPopover;
-    /// To the full colour panel while it works for this sheet.
-    QMetaObject::Connection colorPanelTarget;
+    /// Hears of the full colour panel's closing while it works for this sheet.
     QMetaObject::Connection colorPanelCloseObserver;
-
-private:
-    QPointer<TamselSettingsWindow> m_owned;
 };

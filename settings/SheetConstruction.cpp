@@ -2,6 +2,7 @@
 // The building of the options sheet.
 #include "saver/TamselClockSaverView.h"
 
+#include "controls/OverlayScroller.h"
 #include "controls/PushButton.h"
 #include "controls/TamselHexField.h"
 #include "controls/TamselModeControl.h"
@@ -126,6 +127,7 @@ void SheetBuilder::addWindow()
     // The window's rounded background shows through.
     scroll->viewport()->setAutoFillBackground(false);
     scroll->widget()->setAutoFillBackground(false);
+    new OverlayScroller(m_view.clocks(), scroll);
 }
 
 void SheetBuilder::addPreview(QWidget *document)
@@ -321,12 +323,11 @@ void SheetBuilder::addActions(QWidget *document)
 
 QWidget *TamselClockSaverView::configureSheet()
 {
-    if (!sheet()) {
+    if (!m_sheet) {
         m_sheet = std::make_unique<SettingsSheet>(new TamselSettingsWindow);
         SheetBuilder(*this, *m_sheet).build();
-        // A host may have made the window a child of its own, and destroyed it with that.
         connect(m_sheet->configurationSheet, &QObject::destroyed, this,
-                [this] { m_sheet.reset(); });
+                &TamselClockSaverView::forgetSheet);
         m_sheet->settingsLayoutTimer.setTimerType(Qt::PreciseTimer);
         m_sheet->settingsLayoutTimer.callOnTimeout(this, &TamselClockSaverView::moveSheet);
     }
@@ -337,7 +338,12 @@ QWidget *TamselClockSaverView::configureSheet()
     return window;
 }
 
-SettingsSheet *TamselClockSaverView::sheet() const
+/// A host may have made the window a child of its own, and destroyed it with that.
+void TamselClockSaverView::forgetSheet()
 {
-    return m_sheet && m_sheet->isAlive() ? m_sheet.get() : nullptr;
+    if (!m_sheet)
+        return;
+    closeColorPanel();
+    m_sheet->configurationSheet = nullptr;
+    m_sheet.reset();
 }

@@ -64,6 +64,8 @@ double SheetTransition::duration() const
 
 SheetState SheetTransition::at(double t) const
 {
+    if (t >= duration())
+        return m_end;
     return {rowsAt(t, m_start.day, m_end.day), rowsAt(t, m_start.night, m_end.night)};
 }
 

@@ -1,46 +1,35 @@
 // SPDX-License-Identifier: MIT
-// The options sheet: its rules and timelines as values, its draft, and what saving it writes.
-#include "controls/PushButton.h"
-#include "controls/TamselHexField.h"
-#include "controls/TamselModeControl.h"
-#include "controls/TamselSettingsView.h"
-#include "controls/TamselSwatchButton.h"
-#include "controls/TamselToggle.h"
-#include "controls/TimePicker.h"
-#include "platform/DistributedNotifications.h"
-#include "saver/TamselClockPreviewView.h"
-#include "settings/SettingsSheet.h"
-#include "settings/SheetLayout.h"
-#include "settings/SheetRules.h"
-#include "settings/SheetTransition.h"
-#include "tests/support/SaverFixture.h"
+// The options sheet as a user meets it: what it opens on, what it shows, what it stores.
+#include "tests/support/SheetFixture.h"
 
+#include "controls/TamselSymbolButton.h"
+#include "controls/ViewAlpha.h"
+#include "settings/SheetRules.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QScrollArea>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
+void QApplication::beep()
+{
+    ++g_beeps;
+}
+
 namespace {
 
-/// A view with its sheet on the screen.
-struct Opened : SaverFixture
-{
-    std::unique_ptr<TamselClockSaverView> view;
-    const SettingsSheet *sheet = nullptr;
+using Fixture = SheetFixture<TamselClockSaverView>;
 
-    void open()
-    {
-        if (!view)
-            view = makeView();
-        view->configureSheet()->show();
-        sheet = view->settingsSheet();
-    }
-    void choose(const QString &variant) const
-    {
-        sheet->variantRadioButtons.value(variant)->click();
-    }
-    QVariant stored(const QString &key) const { return stores.suite.value(key); }
-};
+QVariantMap night(bool enabled, int from, int to)
+{
+    return {{u"enabled"_s, enabled},
+            {u"from"_s, from},
+            {u"to"_s, to},
+            {u"base"_s, u"#101010"_s},
+            {u"mark"_s, u"#EEDDCC"_s}};
+}
 
 } // namespace
 
@@ -49,243 +38,427 @@ class TestSettingsSheet : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void minutesAndTimes()
+    void init() { g_beeps = 0; }
+
+    void opensOnTheStoredSettings()
     {
-        for (const int minutes : {0, 425, 1439}) {
-            TimePicker picker;
-            picker.setTime(dateForMinutes(minutes).time());
-            QCOMPARE(minutesForPicker(picker), minutes);
+        Fixture f;
+        f.set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
+        f.set(f.stores.suite, kCalendarEnabledKey, true);
+        f.set(f.stores.suite, kCustomBaseColorKey, u"#112233"_s);
+        f.set(f.stores.suite, kCustomMarkColorKey, u"#AABBCC"_s);
+        f.setNight(night(true, 1320, 365));
+        QVERIFY(f.open());
+        QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"custom"_s);
+        QCOMPARE(f.sheet().themeName->text(), u"Custom"_s);
+        QVERIFY(f.sheet().calendarCheckbox->isChecked());
+        QVERIFY(f.sheet().nightSwitch->isChecked());
+        for (const auto &[key, text] :
+             {std::pair(kBaseColorKey, u"#112233"_s), std::pair(kMarkColorKey, u"#AABBCC"_s),
+              std::pair(kNightBaseColorKey, u"#101010"_s),
+              std::pair(kNightMarkColorKey, u"#EEDDCC"_s)}) {
+            QCOMPARE(f.draft(key), text);
+            QCOMPARE(f.shown(key), text);
         }
-        QCOMPARE(dateForMinutes(1439).time(), QTime(23, 59));
+        QCOMPARE(f.sheet().nightFromPicker->time(), QTime(22, 0));
+        QCOMPARE(f.sheet().nightToPicker->time(), QTime(6, 5));
+        QCOMPARE(f.sheet().previewMode->selectedSegment(), int(TamselModeControl::Day));
+        QCOMPARE(f.previewGround(), u"#112233"_s);
+        QVERIFY(f.sheet().customPreviewView->isTicking());
+        QCOMPARE(f.sheet().settingsScroll->widget()->height(), 758);
     }
 
-    void rulesOfScheduleAndInk()
+    void aVariantWithoutASwatchShowsAsOrange_data()
     {
-        QVERIFY(!scheduleIsValid(true, 1320, 1320));
-        QVERIFY(scheduleIsValid(true, 1320, 1321));
-        QVERIFY(scheduleIsValid(false, 1320, 1320));
-        QCOMPARE(inkForLuminance(0.5), QColor(Qt::white));
-        QCOMPARE(inkForLuminance(0.500001), QColor(Qt::black));
-        QVERIFY(isNightColorKey(u"nightBase"_s) && !isNightColorKey(u"base"_s));
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("random") << u"random"_s << u"orange"_s;
+        QTest::newRow("unknown") << u"plaid"_s << u"orange"_s;
+        QTest::newRow("black") << u"black"_s << u"nero"_s;
     }
 
-    void heights_data()
+    void aVariantWithoutASwatchShowsAsOrange()
     {
-        QTest::addColumn<double>("day");
-        QTest::addColumn<double>("night");
-        QTest::addColumn<double>("content");
-        QTest::newRow("collapsed") << 42.0 << 42.0 << 482.0;
-        QTest::newRow("custom") << 138.0 << 42.0 << 578.0;
-        QTest::newRow("custom and night") << 138.0 << 222.0 << 758.0;
+        QFETCH(QString, stored);
+        Fixture f;
+        f.set(f.stores.suite, kSelectedVariantKey, stored);
+        QVERIFY(f.open());
+        QTEST(f.view->selectedVariantFromRadioButtons(), "shown");
     }
 
-    void heights()
+    void anOpenSheetKeepsItsDraftAndAClosedOneForgetsIt()
     {
-        QFETCH(double, day);
-        QFETCH(double, night);
-        const SheetLayout layout = sheetLayout(day, night);
-        QTEST(layout.contentHeight, "content");
-        QCOMPARE(layout.themeGroup, QRectF(28, 252, 344, day));
-        QCOMPARE(layout.nightGroup.top() - layout.calendarGroup.bottom(), 10.0);
-        QCOMPARE(layout.settingsActions.top() - layout.nightGroup.bottom(), 32.0);
-    }
-
-    void theSheetStaysOnTheScreen()
-    {
-        const QRectF screen(0, 0, 1000, 700);
-        QCOMPARE(sheetFrame({300, 20, 400, 482}, 758, screen).height(), 630.0); // and scrolls
-        const QRectF low = sheetFrame({300, 200, 400, 482}, 578, screen);
-        QCOMPARE(low.bottom(), 700.0);
-        QCOMPARE(sheetFrame({300, 50, 400, 482}, 578, screen).top(), 50.0);
-    }
-
-    /// Rows that go fade out, then the groups resize, then rows that come fade in.
-    void transitionHasThreePhases()
-    {
-        const SheetTransition way(sheetAtRest(true, false), false, true);
-        QVERIFY(way.isNeeded());
-        QCOMPARE(way.duration(), 0.16 + 0.32 + 0.16);
-        QCOMPARE(way.at(0.08).day.alpha, 0.5);
-        QCOMPARE(way.at(0.08).day.groupHeight, 138.0);
-        QVERIFY(way.at(0.17).day.hidden && way.at(0.17).night.hidden);
-        QCOMPARE(way.at(0.32).day.groupHeight, 90.0);
-        QCOMPARE(way.at(0.32).night.groupHeight, 132.0);
-        QVERIFY(!way.at(0.56).night.hidden);
-        QVERIFY(std::abs(way.at(0.56).night.alpha - 0.5) < 1e-9);
-        QCOMPARE(way.at(9.0), sheetAtRest(false, true));
-        QVERIFY(!SheetTransition(sheetAtRest(true, true), true, true).isNeeded());
-        QCOMPARE(SheetTransition(sheetAtRest(false, false), true, false).duration(), 0.32 + 0.16);
-    }
-
-    void aChangeInMidwayGoesOnFromThere()
-    {
-        const SheetState midway = SheetTransition(sheetAtRest(false, false), false, true).at(0.2);
-        const SheetState begun = SheetTransition(midway, false, false).at(0.0);
-        QCOMPARE(begun.night.groupHeight, midway.night.groupHeight);
-    }
-
-    void theDraftStartsFromTheStores()
-    {
-        Opened f;
-        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"random"_s);
-        SaverFixture::set(f.stores.suite, kCustomMarkColorKey, u"#123456"_s);
-        f.setNight(
-            {{u"enabled"_s, true}, {u"from"_s, 425}, {u"to"_s, 1439}, {u"mark"_s, u"#ABCDEF"_s}});
-        f.open();
-        QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"orange"_s);
-        QCOMPARE(f.sheet->customMarkHexField->text(), u"#123456"_s);
-        QCOMPARE(f.view->draftColorForKey(u"nightMark"_s), QColor(0xab, 0xcd, 0xef));
-        QCOMPARE(f.sheet->nightFromPicker->time(), QTime(7, 5));
-        QVERIFY(f.sheet->nightSwitch->isChecked() && f.sheet->saveButton->isEnabled());
-    }
-
-    void reopeningResetsOnlyADismissedDraft()
-    {
-        Opened f;
-        f.open();
-        f.choose(u"blue"_s);
-        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"nero"_s);
-        QWidget *first = f.view->configureSheet();
+        Fixture f;
+        QVERIFY(f.open());
+        const QWidget *window = f.window();
+        f.chooseVariant(u"blue"_s);
+        f.set(f.stores.suite, kSelectedVariantKey, u"cream"_s);
+        f.view->reloadVariantIfNeeded();
+        QCOMPARE(f.view->configureSheet(), window);
         QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"blue"_s);
         f.view->cancelConfiguration();
-        QVERIFY(!first->isVisible());
-        QCOMPARE(f.view->configureSheet(), first);
-        QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"nero"_s);
+        QVERIFY(!window->isVisible());
+        QVERIFY(!f.sheet().customPreviewView->isAnimating());
+        QVERIFY(f.open());
+        QCOMPARE(f.window(), window);
+        QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"cream"_s);
     }
 
-    void variantSwatchesAreOneChoice()
+    void swatchesAreOneChoice()
     {
-        Opened f;
-        f.open();
-        for (const QString &variant : {u"blue"_s, u"blue"_s, u"custom"_s, u"cream"_s}) {
-            f.choose(variant);
-            int on = 0;
-            for (const TamselSwatchButton *swatch : f.sheet->variantRadioButtons)
-                on += int(swatch->isChecked());
-            QCOMPARE(on, 1);
-            QCOMPARE(f.view->selectedVariantFromRadioButtons(), variant);
+        Fixture f;
+        QVERIFY(f.open());
+        for (const QString &variant : {u"cream"_s, u"nero"_s, u"nero"_s, u"custom"_s, u"blue"_s}) {
+            f.chooseVariant(variant);
+            for (const QString &other : TamselClockSaverView::popupVariants())
+                QCOMPARE(f.sheet().variantRadioButtons.value(other)->isChecked(), other == variant);
         }
-        QCOMPARE(f.sheet->customPreviewView->backgroundColor().name(), u"#fff5e8"_s);
+        QCOMPARE(f.sheet().themeName->text(), u"Blue"_s);
     }
 
-    void equalTimesAreMarkedWhileTheNightIsOn()
+    void thePreviewShowsTheDraft_data()
     {
-        Opened f;
-        f.open();
-        f.sheet->nightSwitch->click();
-        f.sheet->nightFromPicker->setTime(QTime(22, 0));
-        f.sheet->nightToPicker->setTime(QTime(22, 0));
-        QVERIFY(!f.sheet->saveButton->isEnabled());
-        QCOMPARE(f.sheet->nightToPicker->toolTip(), u"Choose a different end time."_s);
-        QCOMPARE(f.sheet->nightToPicker->accessibleDescription(),
-                 u"Night mode start and end times must be different."_s);
-        f.view->saveConfiguration();
-        QVERIFY(f.sheet->configurationSheet->isVisible());
-        QVERIFY(!f.stored(kSelectedVariantKey).isValid());
-        f.sheet->nightToPicker->setTime(QTime(22, 1));
-        QVERIFY(f.sheet->saveButton->isEnabled() && f.sheet->nightToPicker->toolTip().isEmpty());
-        f.sheet->nightToPicker->setTime(QTime(22, 0));
-        f.sheet->nightSwitch->click();
-        QVERIFY(f.sheet->saveButton->isEnabled());
+        QTest::addColumn<QString>("variant");
+        QTest::addColumn<bool>("nightOn");
+        QTest::addColumn<int>("segment");
+        QTest::addColumn<QString>("ground");
+        QTest::addColumn<QString>("mark");
+        QTest::addColumn<QString>("ink");
+        const QString black = u"#000000"_s;
+        const QString white = u"#FFFFFF"_s;
+        QTest::newRow("cream") << u"cream"_s << false << 0 << u"#FFF5E8"_s << black << black;
+        QTest::newRow("orange") << u"orange"_s << false << 0 << u"#FF4600"_s << black << white;
+        QTest::newRow("blue") << u"blue"_s << false << 0 << u"#0021D0"_s << white << white;
+        QTest::newRow("nero") << u"nero"_s << false << 0 << black << white << white;
+        QTest::newRow("custom") << u"custom"_s << false << 0 << u"#DDEEFF"_s << u"#332211"_s
+                                << black;
+        QTest::newRow("night") << u"blue"_s << true << 1 << u"#101010"_s << u"#EEDDCC"_s << white;
+        QTest::newRow("day of a night") << u"blue"_s << true << 0 << u"#0021D0"_s << white << white;
+        QTest::newRow("night is off") << u"cream"_s << false << 1 << u"#FFF5E8"_s << black << black;
     }
 
-    void savingWritesTheDraft()
+    void thePreviewShowsTheDraft()
     {
-        Opened f;
-        platform::DistributedNotifications notifications;
-        int heard = 0;
-        notifications.observe(kVariantChangedNotification, this, [&] { ++heard; });
-        platform::Desktop desktop = f.desktop();
-        desktop.notifications = &notifications;
-        f.view = std::make_unique<TamselClockSaverView>(desktop, true);
-        f.open();
-        const QSignalSpy ended(f.view.get(), &TamselClockSaverView::configurationEnded);
-        f.choose(u"custom"_s);
-        f.sheet->calendarCheckbox->click();
-        f.sheet->customBaseHexField->setText(u" 2a3b4c"_s);
-        f.view->customHexFieldChanged(f.sheet->customBaseHexField);
-        QCOMPARE(f.sheet->customBaseHexField->text(), u"#2A3B4C"_s);
-        f.sheet->nightSwitch->click();
+        QFETCH(QString, variant);
+        QFETCH(bool, nightOn);
+        QFETCH(int, segment);
+        Fixture f;
+        f.set(f.stores.suite, kCustomBaseColorKey, u"#DDEEFF"_s);
+        f.set(f.stores.suite, kCustomMarkColorKey, u"#332211"_s);
+        f.setNight(night(nightOn, 0, 60));
+        QVERIFY(f.open());
+        f.chooseVariant(variant);
+        f.sheet().previewMode->setSelectedSegment(segment);
+        f.view->updateSettingsPreview();
+        QTEST(f.previewGround(), "ground");
+        QTEST(hexStringForColor(f.sheet().customPreviewView->markColor()), "mark");
+        QTEST(hexStringForColor(f.sheet().previewMode->ink()), "ink");
+        QVERIFY(!f.sheet().customPreviewView->artwork().faceImage.isNull());
+    }
+
+    void switchesMoveThePreview()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        f.click(f.sheet().calendarCheckbox);
+        QVERIFY(f.sheet().customPreviewView->calendarEnabled());
+        f.click(f.sheet().nightSwitch);
+        QCOMPARE(f.sheet().previewMode->selectedSegment(), int(TamselModeControl::Night));
+        QCOMPARE(f.previewGround(), u"#000000"_s);
+        QVERIFY(f.sheet().customPreviewView->showsModeSelector());
+        f.click(f.sheet().nightSwitch);
+        QCOMPARE(f.sheet().previewMode->selectedSegment(), int(TamselModeControl::Day));
+        QVERIFY(!f.sheet().customPreviewView->showsModeSelector());
+    }
+
+    void swappingTurnsAPairRound_data()
+    {
+        QTest::addColumn<QString>("palette");
+        QTest::addColumn<QString>("baseKey");
+        QTest::addColumn<QString>("markKey");
+        QTest::addColumn<int>("segment");
+        QTest::newRow("day") << u"day"_s << QString(kBaseColorKey) << QString(kMarkColorKey) << 0;
+        QTest::newRow("night") << u"night"_s << QString(kNightBaseColorKey)
+                               << QString(kNightMarkColorKey) << 1;
+    }
+
+    void swappingTurnsAPairRound()
+    {
+        QFETCH(QString, palette);
+        QFETCH(QString, baseKey);
+        QFETCH(QString, markKey);
+        Fixture f;
+        f.set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
+        f.setNight(night(true, 0, 60));
+        QVERIFY(f.open());
+        const QString base = f.draft(baseKey);
+        const QString mark = f.draft(markKey);
+        QVERIFY(base != mark);
+        f.click(f.window()->findChild<TamselSymbolButton *>(palette));
+        QCOMPARE(f.draft(baseKey), mark);
+        QCOMPARE(f.shown(baseKey), mark);
+        QCOMPARE(f.draft(markKey), base);
+        QTEST(f.sheet().previewMode->selectedSegment(), "segment");
+        QCOMPARE(f.previewGround(), mark);
+    }
+
+    void equalTimesAreMarkedUntilTheyDiffer()
+    {
+        Fixture f;
+        f.setNight(night(true, 1320, 360));
+        QVERIFY(f.open());
+        TimePicker *end = f.sheet().nightToPicker;
+        const auto ink = [end] { return end->palette().color(QPalette::Text); };
+        const QColor plain = ink();
+        const auto isMarked = [&] {
+            return ink() != plain && end->toolTip() == u"Choose a different end time."_s &&
+                   end->accessibleDescription() ==
+                       u"Night mode start and end times must be different."_s &&
+                   !f.sheet().saveButton->isEnabled();
+        };
+        const auto isPlain = [&] {
+            return ink() == plain && end->toolTip().isEmpty() &&
+                   end->accessibleDescription().isEmpty() && f.sheet().saveButton->isEnabled();
+        };
+        QVERIFY(isPlain());
+        f.setTime(end, 22, 0);
+        QVERIFY(isMarked());
+        f.setTime(f.sheet().nightFromPicker, 22, 1);
+        QVERIFY(isPlain());
+        f.setTime(end, 22, 1);
+        f.click(f.sheet().nightSwitch);
+        QVERIFY(isPlain());
+        f.click(f.sheet().nightSwitch);
+        QVERIFY(isMarked());
+        QCOMPARE(f.sheet().nightFromPicker->toolTip(), QString());
+
         f.view->saveConfiguration();
-        QCOMPARE(f.stored(kSelectedVariantKey), QVariant(u"custom"_s));
-        QCOMPARE(f.stored(kCalendarEnabledKey), QVariant(true));
-        QCOMPARE(f.stored(kCustomBaseColorKey), QVariant(u"#2A3B4C"_s));
-        QCOMPARE(f.stored(kNightSettingsKey).toMap().keys(),
-                 QStringList({u"base"_s, u"enabled"_s, u"from"_s, u"mark"_s, u"to"_s}));
-        QCOMPARE(ended.count(), 1);
-        QVERIFY(ended.at(0).at(0).toBool());
-        QVERIFY(!f.sheet->configurationSheet->isVisible());
-        QTRY_COMPARE(heard, 3); // the colours are written silently
+        QCOMPARE(g_beeps, 1);
+        QVERIFY(f.window()->isVisible());
+        QVERIFY(!f.stores.suite.value(kSelectedVariantKey).isValid());
+    }
+
+    void savingStoresTheDraft()
+    {
+        Fixture f;
+        f.set(f.stores.suite, u"Foreign"_s, 7);
+        QVERIFY(f.open());
+        QSignalSpy ended(f.view.get(), &TamselClockSaverView::configurationEnded);
+        f.chooseVariant(u"custom"_s);
+        f.click(f.sheet().calendarCheckbox);
+        f.click(f.sheet().nightSwitch);
+        f.setTime(f.sheet().nightFromPicker, 21, 15);
+        f.setTime(f.sheet().nightToPicker, 5, 45);
+        f.type(kNightMarkColorKey, u"abc def"_s); // refused
+        f.type(kBaseColorKey, u"4080c0"_s);       // applied by saving
+        f.click(f.sheet().saveButton);
+        QCOMPARE(ended, QList<QVariantList>{{true}});
+        QCOMPARE(g_beeps, 1);
+
+        const QVariantMap suite = f.stores.suite.contents();
+        QCOMPARE(suite.value(kSelectedVariantKey), u"custom"_s);
+        QCOMPARE(suite.value(kCalendarEnabledKey), QVariant(true));
+        QCOMPARE(suite.value(kCustomBaseColorKey), u"#4080C0"_s);
+        QCOMPARE(suite.value(kCustomMarkColorKey), u"#000000"_s);
+        const QVariantMap record{{u"enabled"_s, true},
+                                 {u"from"_s, 1275},
+                                 {u"to"_s, 345},
+                                 {u"base"_s, u"#000000"_s},
+                                 {u"mark"_s, u"#FFF5E8"_s}};
+        QCOMPARE(suite.value(kNightSettingsKey).toMap(), record);
+        QCOMPARE(suite.value(u"Foreign"_s), QVariant(7));
+        QCOMPARE(f.view->loadedPalette().activeVariant, u"custom"_s);
+        QCOMPARE(hexStringForColor(f.view->loadedPalette().backgroundColor), u"#4080C0"_s);
+        QVERIFY(!f.window()->isVisible());
     }
 
     void cancellingWritesNothing()
     {
-        Opened f;
-        f.open();
-        f.choose(u"blue"_s);
+        Fixture f;
+        QVERIFY(f.open());
+        QSignalSpy ended(f.view.get(), &TamselClockSaverView::configurationEnded);
+        f.chooseVariant(u"nero"_s);
+        f.click(f.sheet().nightSwitch);
         f.view->cancelConfiguration();
-        QVERIFY(!QFile::exists(f.stores.suite.path()));
-        QVERIFY(!f.sheet->settingsLayoutTimer.isActive());
+        QCOMPARE(ended, QList<QVariantList>{{false}});
+        QVERIFY(QDir(f.folder.path()).isEmpty());
+        QCOMPARE(f.view->loadedPalette().activeVariant, u"orange"_s);
     }
 
-    void nonsenseInAHexFieldIsTakenBack()
+    void keysEndTheSheet_data()
     {
-        Opened f;
-        f.open();
-        f.view->setCustomBaseColor(QColor(1, 2, 3));
-        f.sheet->customBaseHexField->setText(u"zz"_s);
-        f.view->customHexFieldChanged(f.sheet->customBaseHexField);
-        QCOMPARE(f.sheet->customBaseHexField->text(), u"#010203"_s);
-        QCOMPARE(f.view->currentCustomBaseColor(), QColor(1, 2, 3));
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("focus");
+        QTest::addColumn<QList<QVariantList>>("expected");
+        const QList<QVariantList> saved{{true}};
+        const QList<QVariantList> cancelled{{false}};
+        QTest::newRow("Return") << int(Qt::Key_Return) << QString() << saved;
+        QTest::newRow("Escape") << int(Qt::Key_Escape) << QString() << cancelled;
+        QTest::newRow("Return in a field")
+            << int(Qt::Key_Return) << u"Day primary hex color"_s << QList<QVariantList>{};
+        QTest::newRow("Escape in a field")
+            << int(Qt::Key_Escape) << u"Day primary hex color"_s << cancelled;
+        QTest::newRow("Return on a swatch") << int(Qt::Key_Return) << u"Cream"_s << saved;
+        QTest::newRow("Return on Cancel") << int(Qt::Key_Return) << u"Cancel"_s << cancelled;
     }
 
-    void swappingExchangesAPair()
+    void keysEndTheSheet()
     {
-        Opened f;
-        f.open();
-        f.view->setDraftColor(QColor(1, 2, 3), u"nightBase"_s);
-        f.view->setDraftColor(QColor(4, 5, 6), u"nightMark"_s);
-        f.view->swapColors(u"night"_s);
-        QCOMPARE(f.view->draftColorForKey(u"nightBase"_s), QColor(4, 5, 6));
-        QCOMPARE(f.sheet->nightMarkHexField->text(), u"#010203"_s);
-        QCOMPARE(int(f.sheet->previewMode->selectedSegment()), int(TamselModeControl::Night));
-        // With night mode off the preview still shows the day.
-        QCOMPARE(f.sheet->customPreviewView->backgroundColor(),
-                 TamselClockSaverView::backgroundColors().value(u"orange"_s));
+        QFETCH(int, key);
+        QFETCH(QString, focus);
+        Fixture f;
+        f.set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
+        QVERIFY(f.open());
+        QSignalSpy ended(f.view.get(), &TamselClockSaverView::configurationEnded);
+        QWidget *target = f.window();
+        for (QWidget *control : f.window()->findChildren<QWidget *>())
+            if (!focus.isNull() && f.nameOf(control) == focus && control->focusPolicy())
+                target = control;
+        QCOMPARE(target == f.window(), focus.isNull());
+        target->setFocus();
+        QTest::keyClick(target, Qt::Key(key));
+        const QList<QVariantList> heard = ended;
+        QTEST(heard, "expected");
     }
 
-    void onlyOneColourEditorIsOpen()
+    void returnBeepsAtAnInvalidSchedule()
     {
-        Opened f;
-        f.open();
-        f.choose(u"custom"_s);
-        f.sheet->nightSwitch->click();
-        f.view->colorSwatchClicked(f.sheet->nightBaseColorButton);
-        QVERIFY(f.sheet->nightBaseColorButton->pickerActive());
-        f.view->colorSwatchClicked(f.sheet->customMarkColorButton);
-        QVERIFY(!f.sheet->nightBaseColorButton->pickerActive());
-        QCOMPARE(f.sheet->activeColorPanelKey, u"mark"_s);
-        f.sheet->colorPopover->colorChanged(QColor(9, 8, 7));
-        QCOMPARE(f.view->currentCustomMarkColor(), QColor(9, 8, 7));
-        const auto late = f.sheet->colorPopover->colorChanged;
-        f.sheet->colorPopover->dismissed(); // as an outside click does
-        QVERIFY(f.sheet->activeColorPanelKey.isNull() && !f.sheet->colorPopover);
-        late(Qt::red);
-        QCOMPARE(f.view->currentCustomMarkColor(), QColor(9, 8, 7));
-        f.view->colorSwatchClicked(f.sheet->customMarkColorButton);
-        f.view->openFullColorPanel();
+        Fixture f;
+        f.setNight(night(true, 60, 60));
+        QVERIFY(f.open());
+        QTest::keyClick(f.window(), Qt::Key_Return);
+        QCOMPARE(g_beeps, 1);
+        QVERIFY(f.window()->isVisible());
+    }
+
+    void closingByTheDesktopCancels()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        QSignalSpy ended(f.view.get(), &TamselClockSaverView::configurationEnded);
+        f.window()->close();
+        QCOMPARE(ended, QList<QVariantList>{{false}});
+        QVERIFY(!f.sheet().customPreviewView->isAnimating());
+    }
+
+    void theUsersPaletteWinsOverTheEndOfEditing()
+    {
+        Fixture f;
+        f.setNight(night(true, 0, 60));
+        QVERIFY(f.open());
+        f.type(kNightBaseColorKey, u"#445566"_s);
+        f.click(f.sheet().previewMode->buttons().at(TamselModeControl::Day));
+        QCOMPARE(f.draft(kNightBaseColorKey), u"#445566"_s);
+        QCOMPARE(f.sheet().previewMode->selectedSegment(), int(TamselModeControl::Day));
+        QCOMPARE(f.previewGround(), u"#FF4600"_s);
+    }
+
+    void groupsGrowAndShrink()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        const auto heights = [&] {
+            return QSize(f.sheet().themeGroup->height(), f.sheet().nightGroup->height());
+        };
+        QCOMPARE(f.window()->height(), 482);
+        f.chooseVariant(u"custom"_s);
+        QTRY_VERIFY(f.sheet().settingsTransitionStart); // the first tick begins the time
+        QCOMPARE(heights(), QSize(42, 42));
+        f.clocks.advance(0.16);
+        QTRY_COMPARE(heights(), QSize(90, 42));
+        QVERIFY(f.sheet().dayColorControls->isHidden());
+
+        // Half-way there the night is switched on: both go on from where they are.
+        f.click(f.sheet().nightSwitch);
+        QTRY_VERIFY(f.sheet().settingsTransitionStart);
+        QCOMPARE(heights(), QSize(90, 42));
+        f.clocks.advance(0.40);
+        QTRY_COMPARE(heights(), QSize(138, 222));
+        QTRY_VERIFY(qAbs(alphaValue(f.sheet().dayColorControls) - 0.5) < 0.01);
+        f.clocks.advance(0.1);
+        QTRY_VERIFY(!f.sheet().settingsLayoutTimer.isActive());
+        QCOMPARE(alphaValue(f.sheet().nightControls), 1.0);
+        QCOMPARE(f.window()->height(), std::min(758, f.window()->screen()->size().height() - 70));
+
+        // A dismissal leaves nothing running, and the next opening moves nothing.
+        f.click(f.sheet().nightSwitch);
+        QVERIFY(f.sheet().settingsLayoutTimer.isActive());
         f.view->cancelConfiguration();
-        QVERIFY(f.sheet->activeColorPanelKey.isNull());
-        f.view.reset(); // with everything that was open
-        late(Qt::red);
+        QVERIFY(!f.sheet().settingsLayoutTimer.isActive());
+        QVERIFY(!f.sheet().previewMode->visibilityTimer().isRunning());
+        QVERIFY(f.open());
+        QVERIFY(!f.sheet().settingsLayoutTimer.isActive());
+        QCOMPARE(heights(), QSize(42, 42));
+        QCOMPARE(f.window()->height(), 482);
     }
 
-    void aRunningSaverHasNoSheet()
+    void theSheetGoesWithItsHostsWindow()
     {
-        const SaverFixture f;
+        Fixture f;
+        f.view = std::make_unique<TamselClockSaverView>(f.desktop(), false);
+        auto host = std::make_unique<QWidget>();
+        QWidget *window = f.view->configureSheet();
+        window->setParent(host.get(), window->windowFlags());
+        window->show();
+        f.chooseVariant(u"custom"_s);
+        f.type(kBaseColorKey, u"12"_s);
+        f.click(f.sheet().customBaseColorButton);
+        host.reset();
+        QVERIFY(!f.view->settingsSheet());
+        QVERIFY(f.open());
+        QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"orange"_s);
+    }
+
+    void aViewThatIsNeverAskedBuildsNoSheet()
+    {
+        Fixture f;
         const auto view = f.makeView();
-        view->animateOneFrame();
-        QVERIFY(view->hasConfigureSheet() && !view->settingsSheet());
+        view->startAnimation();
+        QVERIFY(view->hasConfigureSheet());
+        QVERIFY(!view->settingsSheet());
+    }
+
+    void everythingHasANameAndCanBeReachedByKeys()
+    {
+        Fixture f;
+        f.set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
+        f.setNight(night(true, 0, 60));
+        QVERIFY(f.open());
+        QStringList names;
+        QWidget *first = f.sheet().previewMode->buttons().first();
+        first->setFocus();
+        do {
+            QWidget *focused = f.window()->focusWidget();
+            names.append(f.nameOf(focused));
+            QTest::keyClick(focused, Qt::Key_Tab);
+        } while (f.window()->focusWidget() != first && names.size() < 40);
+        const QStringList expected{u"Preview day colors"_s,
+                                   u"Preview night colors"_s,
+                                   u"Cream"_s,
+                                   u"Orange"_s,
+                                   u"Blue"_s,
+                                   u"Nero"_s,
+                                   u"Custom"_s,
+                                   u"Day primary hex color"_s,
+                                   u"Day primary color"_s,
+                                   u"Day background hex color"_s,
+                                   u"Day background color"_s,
+                                   u"Swap colors"_s,
+                                   u"Monthly calendar"_s,
+                                   u"Night Mode"_s,
+                                   u"Night primary hex color"_s,
+                                   u"Night primary color"_s,
+                                   u"Night background hex color"_s,
+                                   u"Night background color"_s,
+                                   u"Swap colors"_s,
+                                   u"Night mode starts at"_s,
+                                   u"Night mode starts at"_s, // hour and minute
+
+                                   u"Night mode ends at"_s,
+                                   u"Night mode ends at"_s,
+                                   u"Cancel"_s,
+                                   u"OK"_s};
+        QCOMPARE(names, expected);
     }
 };
 

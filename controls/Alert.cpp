@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "controls/Alert.h"
+
+#include "controls/PushButton.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QLabel>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kWidth = 320;
+constexpr int kMargin = 20;
+constexpr double kRadius = 16.0;
+constexpr double kFontSize = 13.0;
+constexpr int kTextGap = 6;
+constexpr int kButtonsGap = 20;
+constexpr int kButtonGap = 10;
+constexpr int kButtonWidth = 80;
+constexpr int kButtonHeight = 24;
+
+} // namespace
+
+Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
+    : TamselSettingsWindow(sheet),
+      m_message(addText(message, platform::systemFont(kFontSize, QFont::DemiBold))),
+      m_information(addText(information, platform::systemFont(kFontSize, QFont::Normal)))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setCornerRadius(kRadius);
+    setMovableByWindowBackground(true);
+    setWindowTitle(message);
+    setAccessibleDescription(information);
+    connect(this, &TamselSettingsWindow::defaultRequested, this,
+            [this] { m_buttons.first()->click(); });
+    connect(this, &TamselSettingsWindow::cancelRequested, this,
+            [this] { m_buttons.last()->click(); });
+}
+
+QString Alert::message() const
+{
+    return m_message->text();
+}
+
+QString Alert::information() const
+{
+    return m_information->text();
+}
+
+QLabel *Alert::addText(const QString &text, const QFont &font)
+{
+    auto *label = new QLabel(text, this);
+    label->setFont(font);
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    followAppearance(label, [label] {
+        QPalette colors = label->palette();
+        colors.setColor(QPalette::WindowText, appearanceOf(label).labelColor());
+        label->setPalette(colors);
+    });
+    return label;
+}
+
+void Alert::addButton(const QString &title, const std::function<void()> &chosen)
+{
+    auto *button = new PushButton(title, this);
+    button->setProminent(m_buttons.isEmpty());
+    m_buttons.append(button);
+    connect(button, &QAbstractButton::clicked, this, [this, chosen] {
+        hide();
+        deleteLater();
+        if (chosen)
+            chosen();
+    });
+}
+
+void Alert::layOut()
+{
+    const int textWidth = kWidth - 2 * kMargin;
+    int y = kMargin;
+    for (QLabel *label : {m_message, m_information}) {
+        const int height = label->heightForWidth(textWidth);
+        label->setGeometry(kMargin, y, textWidth, height);
+        y += height + kTextGap;
+    }
+    y += kButtonsGap - kTextGap;
+    int right = kWidth - kMargin;
+    for (PushButton *button : m_buttons) {
+        const int width = std::max(kButtonWidth, button->sizeHint().width());
+        button->setGeometry(right - width, y, width, kButtonHeight);
+        right -= width + kButtonGap;
+    }
+    resize(kWidth, y + kButtonHeight + kMargin);
+}
+
+void Alert::present()
+{
+    layOut();
+    const QWidget *sheet = parentWidget();
+    move(sheet->mapToGlobal(sheet->rect().center()) - rect().center());
+    show();
+    activateWindow();
+    m_buttons.first()->setFocus(Qt::ActiveWindowFocusReason);
+}

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "controls/OverlayScroller.h"
+
+#include "controls/ViewAlpha.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <chrono>
+
+namespace {
+
+constexpr int kWidth = 14;
+/// From the area's corners, which may be round.
+constexpr int kEndMargin = 16;
+constexpr double kKnobWidth = 6.0;
+constexpr double kShortestKnob = 24.0;
+constexpr double kKnobAlpha = 0.45;
+constexpr std::chrono::milliseconds kLinger(900);
+constexpr double kFadeDuration = 0.3; // seconds
+
+} // namespace
+
+ScrollerKnob scrollerKnob(double track, double page, double content, double value)
+{
+    const double length = std::clamp(track * page / content, std::min(kShortestKnob, track), track);
+    const double range = content - page;
+    return {range > 0.0 ? (track - length) * std::clamp(value / range, 0.0, 1.0) : 0.0, length};
+}
+
+OverlayScroller::OverlayScroller(const platform::Clocks &clocks, QScrollArea *area)
+    : QWidget(area), m_area(area), m_fade(clocks, kFadeDuration, [this](double alpha, bool atEnd) {
+          setAlphaValue(this, alpha);
+          setVisible(!atEnd);
+      })
+{
+    hide();
+    m_linger.setSingleShot(true);
+    m_linger.setInterval(kLinger);
+    m_linger.callOnTimeout(this, &OverlayScroller::fade);
+    redrawWithAppearance(this);
+    area->installEventFilter(this);
+    connect(area->verticalScrollBar(), &QScrollBar::valueChanged, this, &OverlayScroller::flash);
+    connect(area->verticalScrollBar(), &QScrollBar::rangeChanged, this, &OverlayScroller::flash);
+}
+
+void OverlayScroller::flash()
+{
+    const QScrollBar *bar = m_area->verticalScrollBar();
+    if (bar->maximum() <= bar->minimum()) {
+        hide();
+        return;
+    }
+    m_fade.stop();
+    setAlphaValue(this, 1.0);
+    place();
+    show();
+    raise();
+    update();
+    m_linger.start();
+}
+
+void OverlayScroller::fade()
+{
+    if (underMouse())
+        return;
+    if (appearanceOf(this).reducedMotion())
+        hide();
+    else
+        m_fade.start(1.0, 0.0);
+}
+
+bool OverlayScroller::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
+        flash();
+    return QWidget::eventFilter(watched, event);
+}
+
+void OverlayScroller::place()
+{
+    setGeometry(m_area->width() - kWidth, kEndMargin, kWidth,
+                std::max(0, m_area->height() - 2 * kEndMargin));
+}
+
+QRectF OverlayScroller::knob() const
+{
+    const QScrollBar *bar = m_area->verticalScrollBar();
+    const ScrollerKnob knob =
+        scrollerKnob(height(), bar->pageStep(), bar->maximum() + bar->pageStep(), bar->value());
+    return {(width() - kKnobWidth) / 2.0, knob.position, kKnobWidth, knob.length};
+}
+
+void OverlayScroller::enterEvent(QEnterEvent *)
+{
+    flash();
+}
+
+void OverlayScroller::leaveEvent(QEvent *)
+{
+    m_linger.start();
+}
+
+void OverlayScroller::mousePressEvent(QMouseEvent *event)
+{
+    const QRectF knob = this->knob();
+    const double y = event->position().y();
+    // A press beside the knob brings its middle there.
+    m_dragOffset = y >= knob.top() && y <= knob.bottom() ? y - knob.top() : knob.height() / 2.0;
+    mouseMoveEvent(event);
+}
+
+void OverlayScroller::mouseMoveEvent(QMouseEvent *event)
+{
+    QScrollBar *bar = m_area->verticalScrollBar();
+    const double travel = height() - knob().height();
+    if (!event->buttons().testFlag(Qt::LeftButton) || travel <= 0.0)
+        return;
+    bar->setValue(qRound((event->position().y() - m_dragOffset) / travel * bar->maximum()));
+}
+
+void OverlayScroller::mouseReleaseEvent(QMouseEvent *)
+{
+    m_linger.start();
+}
+
+void OverlayScroller::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(withAlpha(appearanceOf(this).labelColor(), kKnobAlpha));
+    painter.drawRoundedRect(knob(), kKnobWidth / 2.0, kKnobWidth / 2.0);
+}

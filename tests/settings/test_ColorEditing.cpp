@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+// The three ways to a colour of the draft, and that never more than one editor is open.
+#include "tests/support/SheetFixture.h"
+
+#include "controls/Popover.h"
+#include "controls/TamselColorPopover.h"
+#include "controls/TamselGradientSlider.h"
+#include "settings/ColorPanel.h"
+#include "settings/SheetRules.h"
+
+#include <QColorDialog>
+#include <QFocusEvent>
+
+using namespace Qt::StringLiterals;
+
+void QApplication::beep()
+{
+    ++g_beeps;
+}
+
+namespace {
+
+/// A sheet with all four colours in sight.
+struct Fixture : SheetFixture<TamselClockSaverView>
+{
+    Fixture()
+    {
+        g_beeps = 0;
+        set(stores.suite, kSelectedVariantKey, u"custom"_s);
+        set(stores.suite, kCustomBaseColorKey, u"#102030"_s);
+        set(stores.suite, kCustomMarkColorKey, u"#405060"_s);
+        setNight({{u"enabled"_s, true}, {u"from"_s, 0}, {u"to"_s, 60}});
+    }
+
+    TamselSwatchButton *swatch(const QString &key) const { return view->buttonForColorKey(key); }
+
+    TamselColorPopover *popover() const { return sheet().colorPopover.get(); }
+
+    bool isClosed() const
+    {
+        bool marked = false;
+        for (const QString &key : {u"base"_s, u"mark"_s, u"nightBase"_s, u"nightMark"_s})
+            marked |= swatch(key)->pickerActive();
+        return !popover() && !marked && sheet().activeColorPanelKey.isNull() &&
+               (!sharedColorPanelExists() || !sharedColorPanel().isVisible());
+    }
+
+    /// Opens the full panel for \p key as the user does, through the popover.
+    void openPanel(const QString &key) const
+    {
+        click(swatch(key));
+        popover()->fullPicker();
+    }
+};
+
+} // namespace
+
+class TestColorEditing : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void typedTextIsTakenOverOrRefused_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected"); // null when refused
+        QTest::newRow("six digits") << u"base"_s << u"8A1C2B"_s << u"#8A1C2B"_s;
+        QTest::newRow("lower case") << u"mark"_s << u"#ffeedd"_s << u"#FFEEDD"_s;
+        QTest::newRow("blanks around") << u"nightBase"_s << u" 123456 "_s << u"#123456"_s;
+        QTest::newRow("night") << u"nightMark"_s << u"#ABCDEF"_s << u"#ABCDEF"_s;
+        QTest::newRow("too short") << u"base"_s << u"FFF"_s << QString();
+        QTest::newRow("no digits") << u"mark"_s << u"zz"_s << QString();
+        QTest::newRow("blank inside") << u"nightMark"_s << u"12 456"_s << QString();
+        QTest::newRow("empty") << u"nightBase"_s << u""_s << QString();
+    }
+
+    void typedTextIsTakenOverOrRefused()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        for (const bool byReturn : {true, false}) {
+            Fixture f;
+            QVERIFY(f.open());
+            const QString before = f.draft(key);
+            TamselHexField *field = f.view->fieldForColorKey(key);
+            field->setFocus();
+            field->clear();
+            QTest::keyClicks(field, text);
+            if (byReturn)
+                QTest::keyClick(field, Qt::Key_Return);
+            else
+                QTest::keyClick(field, Qt::Key_Tab);
+            const bool refused = expected.isNull();
+            QCOMPARE(f.draft(key), refused ? before : expected);
+            QCOMPARE(f.shown(key), f.draft(key));
+            QCOMPARE(g_beeps, refused ? 1 : 0);
+            if (!refused) {
+                QCOMPARE(f.sheet().previewMode->selectedSegment(), int(isNightColorKey(key)));
+            }
+        }
+    }
+
+    void aFieldIsStillEditedWhileAnotherWindowHasTheKeyboard()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        f.type(kBaseColorKey, u"12"_s);
+        TamselHexField *field = f.view->fieldForColorKey(kBaseColorKey);
+        for (const auto reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+            QFocusEvent away(QEvent::FocusOut, reason);
+            QApplication::sendEvent(field, &away);
+        }
+        QCOMPARE(f.shown(kBaseColorKey), u"12"_s);
+        QCOMPARE(g_beeps, 0);
+    }
+
+    void slidersEditTheColourOfTheirSwatch_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::newRow("base") << u"base"_s;
+        QTest::newRow("mark") << u"mark"_s;
+        QTest::newRow("night base") << u"nightBase"_s;
+        QTest::newRow("night mark") << u"nightMark"_s;
+    }
+
+    void slidersEditTheColourOfTheirSwatch()
+    {
+        QFETCH(QString, key);
+        Fixture f;
+        QVERIFY(f.open());
+        f.click(f.swatch(key));
+        QVERIFY(f.swatch(key)->pickerActive());
+        QCOMPARE(f.sheet().activeColorPanelKey, key);
+        f.popover()->saturationSlider()->edit(1.0);
+        f.popover()->brightnessSlider()->edit(1.0);
+        f.popover()->hueSlider()->edit(1.0 / 3.0);
+        QCOMPARE(f.draft(key), u"#00FF00"_s);
+        QCOMPARE(f.shown(key), u"#00FF00"_s);
+        QCOMPARE(f.sheet().previewMode->selectedSegment(), int(isNightColorKey(key)));
+        const bool isGround = key.endsWith("base"_L1, Qt::CaseInsensitive);
+        const TamselClockPreviewView &preview = *f.sheet().customPreviewView;
+        QCOMPARE(isGround ? preview.backgroundColor() : preview.markColor(), QColor(0, 255, 0));
+    }
+
+    void oneEditorIsOpenAtATime()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        f.click(f.swatch(kNightBaseColorKey));
+        f.view->colorSwatchClicked(f.swatch(kMarkColorKey));
+        QVERIFY(!f.swatch(kNightBaseColorKey)->pickerActive());
+        QVERIFY(f.swatch(kMarkColorKey)->pickerActive());
+        f.popover()->brightnessSlider()->edit(0.0);
+        QCOMPARE(f.draft(kMarkColorKey), u"#000000"_s);
+        QCOMPARE(f.draft(kNightBaseColorKey), u"#000000"_s);
+        QCOMPARE(f.draft(kBaseColorKey), u"#102030"_s);
+    }
+
+    void whatClosesTheEditor_data()
+    {
+        QTest::addColumn<std::function<void(Fixture &)>>("close");
+        QTest::addColumn<bool>("fullPanel");
+        const auto add = [](const char *name, const std::function<void(Fixture &)> &close) {
+            for (const bool panel : {false, true})
+                QTest::addRow("%s%s", name, panel ? ", full panel" : "") << close << panel;
+        };
+        add("a variant", [](Fixture &f) { f.chooseVariant(u"blue"_s); });
+        add("night mode", [](Fixture &f) { f.click(f.sheet().nightSwitch); });
+        add("Cancel", [](Fixture &f) { f.view->cancelConfiguration(); });
+        add("OK", [](Fixture &f) { f.view->saveConfiguration(); });
+        QTest::newRow("a click outside")
+            << std::function<void(Fixture &)>([](Fixture &f) { f.popover()->popover()->close(); })
+            << false;
+        QTest::newRow("the panel's own button")
+            << std::function<void(Fixture &)>([](Fixture &) { sharedColorPanel().close(); })
+            << true;
+    }
+
+    void whatClosesTheEditor()
+    {
+        QFETCH(std::function<void(Fixture &)>, close);
+        QFETCH(bool, fullPanel);
+        Fixture f;
+        QVERIFY(f.open());
+        f.click(f.swatch(kBaseColorKey));
+        const auto late = f.popover()->colorChanged;
+        if (fullPanel)
+            f.popover()->fullPicker();
+        close(f);
+        QVERIFY(f.isClosed());
+        // What comes late changes nothing.
+        late(Qt::yellow);
+        if (sharedColorPanelExists())
+            sharedColorPanel().setCurrentColor(Qt::magenta);
+        QCOMPARE(f.draft(kBaseColorKey), u"#102030"_s);
+    }
+
+    void theFullPanelEditsWithoutAlpha()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        sharedColorPanel().setCurrentColor(Qt::cyan);
+        f.openPanel(kNightMarkColorKey);
+        QColorDialog &panel = sharedColorPanel();
+        QVERIFY(panel.isVisible());
+        QCOMPARE(hexStringForColor(panel.currentColor()), u"#FFF5E8"_s);
+        QCOMPARE(f.draft(kNightMarkColorKey), u"#FFF5E8"_s);
+        QVERIFY(f.swatch(kNightMarkColorKey)->pickerActive());
+        Q_EMIT panel.currentColorChanged(QColor::fromRgbF(0.5F, 0.25F, 1.0F, 0.3F));
+        QCOMPARE(f.draft(kNightMarkColorKey), u"#8040FF"_s);
+        QCOMPARE(f.swatch(kNightMarkColorKey)->swatchColor().alpha(), 255);
+        QCOMPARE(f.sheet().previewMode->selectedSegment(), int(TamselModeControl::Night));
+    }
+
+    void theFullPanelServesWhoOpenedItLast()
+    {
+        Fixture first;
+        Fixture second;
+        QVERIFY(first.open());
+        first.openPanel(kBaseColorKey);
+        QVERIFY(second.open());
+        second.openPanel(kMarkColorKey);
+        sharedColorPanel().setCurrentColor(Qt::magenta);
+        QCOMPARE(first.draft(kBaseColorKey), u"#102030"_s);
+        QCOMPARE(second.draft(kMarkColorKey), u"#FF00FF"_s);
+    }
+
+    void aViewMayGoWithItsEditorOpen()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        f.click(f.swatch(kBaseColorKey));
+        const auto late = f.popover()->colorChanged;
+        f.popover()->fullPicker();
+        f.view.reset();
+        QVERIFY(!sharedColorPanel().isVisible());
+        late(Qt::yellow);
+        sharedColorPanel().setCurrentColor(Qt::magenta);
+    }
+};
+
+QTEST_MAIN(TestColorEditing)
+#include "test_ColorEditing.moc"

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+// What saving writes, in which order, and that an end between any two writes leaves settings that
+// can be read.
+#include "tests/support/SheetFixture.h"
+
+#include "night/NightSettings.h"
+#include "platform/PropertyList.h"
+
+#include <QFile>
+#include <QProcess>
+
+#include <csignal>
+#include <dlfcn.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Fixture = SheetFixture<TamselClockSaverView>;
+
+/// One replacement of a file: its path below the settings folder, and its contents afterwards.
+struct Write
+{
+    QString file;
+    QVariantMap contents;
+};
+
+QString g_folder;
+QList<Write> g_writes;
+/// The process dies before this replacement, counted from 0.
+int g_lastWrite = -1;
+
+const QString kSuite = u"org.tamsel.VornakClockSaver.plist"_s;
+const QString kSaver = u"screensaver/org.tamsel.VornakClockSaver.plist"_s;
+const QString kShortName = u"screensaver/VornakClockSaver.plist"_s;
+const QString kProgram = u"test_SaveOrder.plist"_s;
+
+void saveDraft(Fixture &f)
+{
+    f.chooseVariant(u"blue"_s);
+    f.click(f.sheet().calendarCheckbox);
+    f.type(u"base"_s, u"#111111"_s);
+    f.type(u"mark"_s, u"#EEEEEE"_s);
+    f.click(f.sheet().nightSwitch);
+    f.view->saveConfiguration();
+}
+
+/// The settings of before: all of them others.
+void storeOldSettings(const Fixture &f)
+{
+    f.set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
+    f.set(f.stores.suite, kCustomBaseColorKey, u"#010203"_s);
+    f.set(f.stores.suite, kCustomMarkColorKey, u"#FDFEFF"_s);
+    f.setNight({{u"enabled"_s, false}, {u"from"_s, 1200}, {u"to"_s, 300}});
+}
+
+} // namespace
+
+/// Every file is replaced by this call, which stands in for the system's.
+extern "C" int rename(const char *from, const char *to)
+{
+    static const auto real = reinterpret_cast<decltype(&rename)>(dlsym(RTLD_NEXT, "rename"));
+    const QString target = QFile::decodeName(to);
+    const bool isSetting = !g_folder.isEmpty() && target.startsWith(g_folder);
+    if (isSetting && g_writes.size() == g_lastWrite)
+        raise(SIGKILL);
+    const int result = real(from, to);
+    if (isSetting)
+        g_writes.append(
+            {target.mid(g_folder.size() + 1), platform::PreferenceDomain(target).contents()});
+    return result;
+}
+
+class TestSaveOrder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void settingsAreWrittenInTheirOrder()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        g_folder = f.folder.path();
+        saveDraft(f);
+        g_folder.clear();
+        const QVariantMap night{{u"enabled"_s, true},
+                                {u"from"_s, 1170},
+                                {u"to"_s, 450},
+                                {u"base"_s, u"#000000"_s},
+                                {u"mark"_s, u"#FFF5E8"_s}};
+        const std::tuple<QString, QVariant, QStringList> expected[] = {
+            {kSelectedVariantKey, u"blue"_s, {kSuite, kProgram, kSaver, kShortName}},
+            {kCalendarEnabledKey, true, {kSuite, kProgram, kSaver, kShortName}},
+            {kCustomBaseColorKey, u"#111111"_s, {kSuite, kSaver, kShortName, kProgram}},
+            {kCustomMarkColorKey, u"#EEEEEE"_s, {kSuite, kSaver, kShortName, kProgram}},
+            {kNightSettingsKey, night, {kSuite, kSaver}},
+        };
+        QHash<QString, QVariantMap> files;
+        auto write = g_writes.cbegin();
+        for (const auto &[key, value, names] : expected) {
+            for (const QString &name : names) {
+                files[name].insert(key, value);
+                QVERIFY(write != g_writes.cend());
+                QCOMPARE(write->file, name);
+                QCOMPARE(write->contents, files[name]);
+                ++write;
+            }
+        }
+        QVERIFY(write == g_writes.cend());
+    }
+
+    void aSaveThatIsCutOffLeavesReadableSettings_data()
+    {
+        QTest::addColumn<int>("writes");
+        for (const int writes : {0, 1, 2, 4, 5, 8, 9, 12, 13, 16, 17})
+            QTest::addRow("after %d writes", writes) << writes;
+    }
+
+    void aSaveThatIsCutOffLeavesReadableSettings()
+    {
+        QFETCH(int, writes);
+        Fixture f;
+        storeOldSettings(f);
+        QProcess saver;
+        saver.start(QCoreApplication::applicationFilePath(),
+                    {u"--die"_s, f.folder.path(), QString::number(writes)});
+        QVERIFY(saver.waitForFinished());
+        QCOMPARE(saver.exitStatus(), QProcess::CrashExit);
+
+        // Each setting is the old one or the new one, and those written first are new.
+        const auto view = f.makeView();
+        const auto oneOf = [&](int from, const auto &before, const auto &now, const auto &stored) {
+            return stored == (writes > from ? now : before);
+        };
+        QVERIFY(oneOf(0, u"custom"_s, u"blue"_s, view->storedSelectedVariant()));
+        QVERIFY(oneOf(4, false, true, view->storedCalendarEnabled()));
+        QVERIFY(oneOf(8, u"#010203"_s, u"#111111"_s, hexStringForColor(view->customBaseColor())));
+        QVERIFY(oneOf(12, u"#FDFEFF"_s, u"#EEEEEE"_s, hexStringForColor(view->customMarkColor())));
+        const QVariantMap night = view->storedNightSettings();
+        QVERIFY(oneOf(16, false, true, night.value(kNightEnabledKey).toBool()));
+        QCOMPARE(night.value(kNightFromKey).toInt(), 1200);
+        QVERIFY(!view->loadedPalette().artwork.faceImage.isNull());
+    }
+};
+
+/// The process that is cut off: --die FOLDER WRITES.
+static int saveAndDie(const QString &folder, int writes)
+{
+    g_folder = folder;
+    g_lastWrite = writes;
+    platform::FixedClocks clocks{QDateTime(QDate(2026, 3, 14), QTime(12, 0))};
+    Fixture f;
+    platform::Desktop desktop = f.desktop();
+    desktop.preferencesFolder = folder;
+    f.view = std::make_unique<TamselClockSaverView>(desktop, false);
+    if (f.open())
+        saveDraft(f);
+    return 0;
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--die"_L1)
+        return saveAndDie(arguments.at(2), arguments.at(3).toInt());
+    TestSaveOrder test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_SaveOrder.moc"

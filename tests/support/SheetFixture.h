@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/PushButton.h"
+#include "controls/TamselHexField.h"
+#include "controls/TamselModeControl.h"
+#include "controls/TamselSettingsView.h"
+#include "controls/TamselSwatchButton.h"
+#include "controls/TamselToggle.h"
+#include "controls/TimePicker.h"
+#include "prefs/HexColor.h"
+#include "saver/TamselClockPreviewView.h"
+#include "settings/SettingsSheet.h"
+#include "tests/support/SaverFixture.h"
+
+#include <QApplication>
+#include <QTest>
+
+/// Counted instead of heard: the program's own definition stands in for the toolkit's.
+inline int g_beeps = 0;
+
+/// A view of class \p View whose options sheet is on screen.
+template <typename View>
+struct SheetFixture : SaverFixture
+{
+    std::unique_ptr<View> view;
+
+    /// Opens the sheet on what is stored by now.
+    bool open()
+    {
+        if (!view)
+            view = std::make_unique<View>(desktop(), false);
+        QWidget *window = view->configureSheet();
+        window->show();
+        window->activateWindow();
+        return QTest::qWaitForWindowActive(window);
+    }
+
+    const SettingsSheet &sheet() const { return *view->settingsSheet(); }
+    QWidget *window() const { return sheet().configurationSheet; }
+
+    void chooseVariant(const QString &variant) const
+    {
+        click(sheet().variantRadioButtons.value(variant));
+    }
+
+    QString draft(const QString &colorKey) const
+    {
+        return hexStringForColor(view->draftColorForKey(colorKey));
+    }
+
+    /// What the field of \p colorKey shows.
+    QString shown(const QString &colorKey) const
+    {
+        return view->fieldForColorKey(colorKey)->text();
+    }
+
+    QString previewGround() const
+    {
+        return hexStringForColor(sheet().customPreviewView->backgroundColor());
+    }
+
+    /// Types \p text into the field of \p colorKey, from an empty one.
+    void type(const QString &colorKey, const QString &text) const
+    {
+        TamselHexField *field = view->fieldForColorKey(colorKey);
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, text);
+    }
+
+    /// What assistive technology calls \p control.
+    static QString nameOf(const QWidget *control)
+    {
+        const auto *button = qobject_cast<const PushButton *>(control);
+        return button ? button->text() : control->accessibleName();
+    }
+
+    static void click(QWidget *control) { QTest::mouseClick(control, Qt::LeftButton); }
+
+    static void setTime(QTimeEdit *picker, int hour, int minute)
+    {
+        picker->setTime(QTime(hour, minute));
+    }
+};
