@@ -3,18 +3,7 @@
 
 #include "host/XcbReply.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLibraryInfo>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 #include <xcb/xcb.h>
-
-#include <cstring>
-
-using namespace Qt::StringLiterals;
 
 namespace host {
 
@@ -44,32 +33,6 @@ private:
     xcb_connection_t *m_connection;
 };
 
-bool hasPlatformPlugin(const char *pattern)
-{
-    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms"_L1);
-    return !plugins.entryList({QLatin1StringView(pattern)}, QDir::Files).isEmpty();
-}
-
-bool waylandAnswers()
-{
-    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
-    if (name.isEmpty())
-        return false;
-    const QByteArray path = name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name;
-    sockaddr_un address = {};
-    if (path.size() >= qsizetype(sizeof address.sun_path))
-        return false;
-    address.sun_family = AF_UNIX;
-    std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (socket < 0)
-        return false;
-    const bool connected =
-        ::connect(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
-    ::close(socket);
-    return connected;
-}
-
 /// The value of the window property \p name if it is one window id.
 std::optional<xcb_window_t> windowProperty(xcb_connection_t *connection, xcb_window_t window,
                                            xcb_atom_t name)
@@ -82,25 +45,6 @@ std::optional<xcb_window_t> windowProperty(xcb_connection_t *connection, xcb_win
 }
 
 } // namespace
-
-std::optional<QByteArray> reachablePlatform()
-{
-    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
-    const QByteArray chosenName = chosen.left(chosen.indexOf(':') + 1 ? chosen.indexOf(':') : -1);
-    const bool any = chosen.isEmpty();
-    if ((any || chosenName.startsWith("wayland")) && waylandAnswers() &&
-        hasPlatformPlugin("libqwayland*"))
-        return any ? QByteArray("wayland") : chosen;
-    if ((any || chosenName.startsWith("xcb")) && xServerAnswers())
-        return any ? QByteArray("xcb") : chosen;
-    const bool needsDisplay = chosenName.startsWith("wayland") || chosenName.startsWith("xcb");
-    return any || needsDisplay ? std::nullopt : std::optional(chosen);
-}
-
-bool xServerAnswers()
-{
-    return XConnection().answers();
-}
 
 std::optional<quint32> xRootWindow()
 {

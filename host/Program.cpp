@@ -7,11 +7,12 @@
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
 #include "host/XScreenSaverRegistration.h"
+#include "night/TamselScheduledSaverView.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
+#include "platform/DisplayServer.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
-#include "saver/TamselClockSaverView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -73,7 +74,7 @@ public:
 
     std::unique_ptr<TamselClockSaverView> makeView(bool isPreview) const
     {
-        return std::make_unique<TamselClockSaverView>(m_desktop, isPreview);
+        return std::make_unique<TamselScheduledSaverView>(m_desktop, isPreview);
     }
 
     /// A view that stands at the moment of \p clocks, which must outlive it.
@@ -150,7 +151,7 @@ int runFullScreen(Application &application)
 int inHostWindow(const Options &options, int argc, char **argv)
 {
     const std::optional<quint32> window = options.hostWindow ? options.hostWindow : xRootWindow();
-    if (!window || !xServerAnswers())
+    if (!window || !platform::xServerAnswers())
         return complainAndFail(u"no X display can be reached"_s);
     if (!xWindowExists(*window))
         return complainAndFail(u"there is no window 0x%1"_s.arg(*window, 0, 16));
@@ -161,7 +162,7 @@ int inHostWindow(const Options &options, int argc, char **argv)
 
 int onDisplay(const Options &options, int argc, char **argv)
 {
-    const auto qtPlatform = reachablePlatform();
+    const auto qtPlatform = platform::reachablePlatform();
     if (!qtPlatform)
         return complainAndFail(
             u"no display: neither a Wayland compositor nor an X server answers"_s);

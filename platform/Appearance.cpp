@@ -30,9 +30,9 @@ struct SchemeColors
     QRgb button;
 };
 
-constexpr SchemeColors kLight{0xfff2f2f2, 0xff1f1f1f, 0xff636366, 0xffc9251c,
+constexpr SchemeColors kLight{0xfffafafa, 0xff1f1f1f, 0xff636366, 0xffc9251c,
                               0xff0b62d6, 0xffffffff, 0xffe8e8e8};
-constexpr SchemeColors kDark{0xff242424, 0xfff2f2f2, 0xffa1a1a6, 0xffff6b61,
+constexpr SchemeColors kDark{0xff1e1e1e, 0xfff2f2f2, 0xffa1a1a6, 0xffff6b61,
                              0xff2f7ff0, 0xff1e1e1e, 0xff303030};
 
 const SchemeColors &colorsOf(const Appearance &appearance)

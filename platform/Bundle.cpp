@@ -47,4 +47,9 @@ QString Bundle::helperPath(const QString &name) const
     return m_path + QLatin1StringView("/Contents/Helpers/") + name;
 }
 
+QString Bundle::plugInPath(const QString &name) const
+{
+    return m_path + QLatin1StringView("/Contents/PlugIns/") + name;
+}
+
 } // namespace platform

@@ -28,6 +28,9 @@ public:
     /// Full path of the executable \p name in the bundle's helpers, whether or not it exists.
     QString helperPath(const QString &name) const;
 
+    /// Full path of the loadable module \p name in the bundle's plug-ins, whether or not it exists.
+    QString plugInPath(const QString &name) const;
+
 private:
     QString m_path;
 };

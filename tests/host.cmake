@@ -1,5 +1,6 @@
 tamsel_test(host/test_CommandLine.cpp LIBS tamsel_host)
 tamsel_test(host/test_XScreenSaverRegistration.cpp LIBS tamsel_host)
+tamsel_test(host/test_Snapshot.cpp LIBS tamsel_host)
 tamsel_script_test(host_command_line host/command_line.sh
     ARGS $<TARGET_FILE:tamsel-clock> ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/${TAMSEL_BUNDLE_DIR})
 tamsel_script_test(host_window host/hosting.py ARGS $<TARGET_FILE:tamsel-clock> LABELS host)

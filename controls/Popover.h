@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+/// Where a popover of \p size goes: above \p anchor and centred on it, below where there is no room
+/// above, and in any case inside \p bounds. All in one coordinate system, y downwards.
+QPoint popoverPosition(const QRect &anchor, const QSize &size, const QRect &bounds);
+
+/// A small floating panel that belongs to an anchor. It closes on a press outside it, on Escape,
+/// when the anchor goes or hides, when the anchor's window moves, hides or loses the focus, and
+/// when its owner closes it; however it ends, it reports it once. A press on the anchor only closes
+/// it, so the anchor works as a switch.
+class Popover : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Takes \p content, which has its size already. Belongs to the window of \p anchor.
+    Popover(QWidget *content, QWidget *anchor);
+    ~Popover() override;
+
+    /// Null once it is destroyed.
+    QWidget *anchor() const { return m_anchor; }
+
+    /// Shows the panel beside its anchor, with the keyboard in the content.
+    void present();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void closed();
+
+protected:
+    void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void closeUnlessFocused();
+    void focusFirst(Qt::FocusReason reason);
+    void reportOnce();
+
+    QPointer<QWidget> m_anchor;
+    bool m_reported = false;
+};

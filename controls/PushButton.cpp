@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "controls/PushButton.h"
+
+#include "controls/ControlAccessibility.h"
+#include "controls/FocusRing.h"
+#include "controls/LineHeight.h"
+#include "controls/TamselInputFill.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+constexpr double kBezelHeight = 24.0;
+constexpr double kUsualRadius = 6.0;
+constexpr double kFontSize = 13.0;
+constexpr double kSymbolGap = 5.0;
+constexpr double kSidePadding = 14.0;
+constexpr double kPressedAlpha = 0.6;
+constexpr double kDisabledAlpha = 0.4;
+
+/// White on dark and middling colours, black on light ones.
+QColor inkOn(const QColor &fill)
+{
+    const double luminance = 0.2126 * fill.redF() + 0.7152 * fill.greenF() + 0.0722 * fill.blueF();
+    return luminance > 0.6 ? Qt::black : Qt::white;
+}
+
+} // namespace
+
+PushButton::PushButton(const QString &title, QWidget *parent)
+    : QAbstractButton(parent), m_radius(kUsualRadius)
+{
+    setText(title);
+    setFont(platform::systemFont(kFontSize, QFont::Normal));
+    setFocusPolicy(Qt::TabFocus);
+    redrawWithAppearance(this);
+    installControlAccessibility();
+    new FocusRing(this, [this] { return FocusRing::Outline{bezel(), m_radius}; });
+}
+
+void PushButton::setSymbol(const Symbol &symbol)
+{
+    m_symbol = symbol;
+    update();
+}
+
+void PushButton::setFill(const QColor &fill)
+{
+    m_fill = fill;
+    update();
+}
+
+void PushButton::setInk(const QColor &ink)
+{
+    m_ink = ink;
+    update();
+}
+
+void PushButton::setProminent(bool prominent)
+{
+    m_prominent = prominent;
+    update();
+}
+
+void PushButton::setRadius(double radius)
+{
+    m_radius = radius;
+    update();
+}
+
+QSize PushButton::sizeHint() const
+{
+    const double title = QFontMetricsF(font()).horizontalAdvance(text());
+    const double symbol = m_symbol.isNull() ? 0.0 : m_symbol.size().width() + kSymbolGap;
+    return {static_cast<int>(std::ceil(title + symbol + 2.0 * kSidePadding)),
+            static_cast<int>(kBezelHeight)};
+}
+
+QRectF PushButton::bezel() const
+{
+    return {0.0, (height() - kBezelHeight) / 2.0, static_cast<double>(width()), kBezelHeight};
+}
+
+QColor PushButton::displayFill() const
+{
+    if (m_prominent)
+        return appearanceOf(this).controlAccentColor();
+    return m_fill.isValid() ? m_fill : TamselInputFill(this);
+}
+
+QColor PushButton::displayInk() const
+{
+    if (m_prominent)
+        return inkOn(displayFill());
+    return m_ink.isValid() ? m_ink : appearanceOf(this).controlTextColor();
+}
+
+void PushButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(isEnabled() ? 1.0 : kDisabledAlpha);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(displayFill());
+    painter.drawRoundedRect(bezel(), m_radius, m_radius);
+    if (isDown())
+        painter.setOpacity(painter.opacity() * kPressedAlpha);
+    drawContents(painter);
+}
+
+void PushButton::drawContents(QPainter &painter) const
+{
+    const QFontMetricsF metrics(font());
+    const double titleWidth = metrics.horizontalAdvance(text());
+    const double symbolWidth = m_symbol.isNull() ? 0.0 : m_symbol.size().width() + kSymbolGap;
+    const double left = std::round((width() - titleWidth - symbolWidth) / 2.0);
+    const double line = lineHeight(font());
+    const QRectF title(left + symbolWidth, (height() - line) / 2.0, titleWidth + 1.0, line);
+
+    painter.setFont(font());
+    painter.setPen(displayInk());
+    painter.drawText(title, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, text());
+    const QRectF symbol(left, 0.0, symbolWidth - kSymbolGap, height());
+    m_symbol.draw(painter, symbol, displayInk());
+}

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "controls/RoundedShape.h"
+
+#include <algorithm>
+#include <cmath>
+
+QRegion roundedShape(const QSize &size, double radius)
+{
+    QRegion shape(QRect({}, size));
+    for (int row = 0; row < radius; ++row) {
+        // The row's lower edge is where the arc reaches furthest out.
+        const double up = std::max(0.0, radius - (row + 1));
+        const int inset =
+            static_cast<int>(std::floor(radius - std::sqrt(radius * radius - up * up)));
+        const QRect middle(inset, row, size.width() - 2 * inset, 1);
+        const QRect line(0, row, size.width(), 1);
+        shape -= QRegion(line) - middle;
+        const int mirrored = size.height() - 1 - row;
+        shape -= QRegion(line.translated(0, mirrored - row)) - middle.translated(0, mirrored - row);
+    }
+    return shape;
+}

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "controls/TamselModeControl.h"
+
+#include "controls/ControlAccessibility.h"
+#include "controls/FocusRing.h"
+#include "controls/Symbol.h"
+#include "controls/ViewAlpha.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Clocks.h"
+
+#include <QPainter>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kFadeDuration = 0.28; // seconds
+constexpr double kBackgroundAlpha = 0.1;
+constexpr double kRadius = 6.0;
+constexpr double kUnselectedAlpha = 0.4;
+
+constexpr QRect kFirstButton(4, 2, 22, 20);
+constexpr double kButtonRadius = 4.0;
+
+struct ModeSymbol
+{
+    QStringView name;
+    QStringView description;
+    double pointSize;
+};
+constexpr std::array<ModeSymbol, 2> kSymbols{{{u"sun.max.fill", u"Preview day colors", 14.0},
+                                              {u"moon.fill", u"Preview night colors", 12.0}}};
+
+class ModeButton final : public QAbstractButton
+{
+public:
+    ModeButton(const ModeSymbol &symbol, TamselModeControl *control)
+        : QAbstractButton(control), m_control(control),
+          m_image(Symbol::named(symbol.name.toString(), symbol.pointSize, QFont::Medium))
+    {
+        setFocusPolicy(Qt::TabFocus);
+        setAccessibleName(symbol.description.toString());
+        new FocusRing(this, [this] {
+            return FocusRing::Outline{QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0), kButtonRadius,
+                                      m_control->ink()};
+        });
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const bool selected = m_control->buttons().value(m_control->selectedSegment()) == this;
+        painter.setOpacity(selected ? 1.0 : kUnselectedAlpha);
+        m_image.draw(painter, rect(), m_control->ink());
+    }
+
+private:
+    TamselModeControl *m_control;
+    Symbol m_image;
+};
+
+} // namespace
+
+TamselModeControl::TamselModeControl(QWidget *parent)
+    : TamselModeControl(platform::systemClocks(), parent)
+{
+}
+
+TamselModeControl::TamselModeControl(const platform::Clocks &clocks, QWidget *parent)
+    : QWidget(parent), m_visibilityTimer(clocks, kFadeDuration, [this](double alpha, bool atEnd) {
+          fadeStep(alpha, atEnd);
+      })
+{
+    installControlAccessibility();
+    setAccessibleName(u"Preview palette"_s);
+    for (const ModeSymbol &symbol : kSymbols) {
+        const int segment = static_cast<int>(m_buttons.size());
+        auto *button = new ModeButton(symbol, this);
+        button->setGeometry(kFirstButton.translated(kFirstButton.width() * segment, 0));
+        connect(button, &QAbstractButton::clicked, this, [this, segment] { selectMode(segment); });
+        m_buttons.append(button);
+    }
+    updateIcons();
+}
+
+void TamselModeControl::setSelectedSegment(int segment)
+{
+    m_selectedSegment = segment;
+    updateIcons();
+}
+
+void TamselModeControl::setInk(const QColor &ink)
+{
+    m_ink = ink;
+    updateIcons();
+}
+
+void TamselModeControl::selectMode(int segment)
+{
+    setSelectedSegment(segment);
+    Q_EMIT triggered();
+}
+
+void TamselModeControl::updateIcons()
+{
+    for (QAbstractButton *button : m_buttons) {
+        button->update();
+        announceChecked(button);
+    }
+    update();
+}
+
+void TamselModeControl::setVisible(bool visible, bool animated)
+{
+    m_visibilityTimer.stop();
+    // A view that nobody hid counts as shown, even before its window is.
+    const bool hidden = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
+    const double from = hidden ? 0.0 : alphaValue(this);
+    const double to = visible ? 1.0 : 0.0;
+    for (QAbstractButton *button : m_buttons)
+        button->setEnabled(visible);
+    if (animated && from != to) {
+        m_fadingIn = visible;
+        show();
+        m_visibilityTimer.start(from, to);
+        return;
+    }
+    setAlphaValue(this, to);
+    setVisible(visible);
+}
+
+void TamselModeControl::fadeStep(double alpha, bool atEnd)
+{
+    setAlphaValue(this, alpha);
+    if (atEnd)
+        setVisible(m_fadingIn);
+}
+
+void TamselModeControl::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(withAlpha(m_ink, kBackgroundAlpha));
+    painter.drawRoundedRect(rect(), kRadius, kRadius);
+}

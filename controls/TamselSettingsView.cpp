@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "controls/TamselSettingsView.h"
+
+#include "controls/ControlAccessibility.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QPainter>
+
+TamselSettingsView::TamselSettingsView(QWidget *parent) : QWidget(parent)
+{
+    redrawWithAppearance(this);
+    installControlAccessibility();
+}
+
+void TamselSettingsView::setGroup(bool group)
+{
+    m_group = group;
+    update();
+}
+
+void TamselSettingsView::setTransparent(bool transparent)
+{
+    m_transparent = transparent;
+    update();
+}
+
+void TamselSettingsView::setGroupRadius(double radius)
+{
+    m_groupRadius = radius;
+    update();
+}
+
+void TamselSettingsView::setGroupContrast(double contrast)
+{
+    m_groupContrast = contrast;
+    update();
+}
+
+void TamselSettingsView::paintEvent(QPaintEvent *)
+{
+    if (m_transparent)
+        return;
+    const platform::Appearance &appearance = appearanceOf(this);
+    const double radius = m_group ? m_groupRadius : 0.0;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_group ? withAlpha(appearance.labelColor(), m_groupContrast)
+                             : appearance.windowBackgroundColor());
+    painter.drawRoundedRect(rect(), radius, radius);
+}

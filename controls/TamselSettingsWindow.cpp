@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "controls/TamselSettingsWindow.h"
+
+#include "controls/ControlAccessibility.h"
+#include "controls/RoundedShape.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
+    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+    redrawWithAppearance(this);
+    installControlAccessibility();
+}
+
+void TamselSettingsWindow::setCornerRadius(double radius)
+{
+    m_cornerRadius = radius;
+    takeShape();
+    update();
+}
+
+void TamselSettingsWindow::takeShape()
+{
+    if (m_cornerRadius > 0.0)
+        setMask(roundedShape(size(), m_cornerRadius));
+    else
+        clearMask();
+}
+
+void TamselSettingsWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    takeShape();
+}
+
+void TamselSettingsWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (!m_movable || event->button() != Qt::LeftButton)
+        return;
+    if (windowHandle() && windowHandle()->startSystemMove())
+        return;
+    m_grip = event->position().toPoint();
+    m_dragging = true;
+}
+
+void TamselSettingsWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_dragging)
+        move(event->globalPosition().toPoint() - m_grip);
+}
+
+void TamselSettingsWindow::mouseReleaseEvent(QMouseEvent *)
+{
+    m_dragging = false;
+}
+
+void TamselSettingsWindow::paintEvent(QPaintEvent *)
+{
+    if (m_cornerRadius <= 0.0)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(appearanceOf(this).windowBackgroundColor());
+    painter.drawRoundedRect(rect(), m_cornerRadius, m_cornerRadius);
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "controls/TamselTimeInput.h"
+
+#include "controls/TamselInputFill.h"
+#include "controls/ViewAppearance.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kRadius = 6.0;
+constexpr double kWidthLoss = 14.0;
+constexpr double kRightMargin = 8.0;
+/// A picker's text stands higher than the middle of its cell.
+constexpr double kNudge = 1.5;
+
+} // namespace
+
+QRectF timePickerFrame(const QSizeF &bounds, const QSizeF &cell)
+{
+    const double width = std::min(bounds.width() - kWidthLoss, std::ceil(cell.width()));
+    const double height = std::min(bounds.height(), std::ceil(cell.height()));
+    const double y = std::min(bounds.height() - height, (bounds.height() - height) / 2.0 + kNudge);
+    return {bounds.width() - kRightMargin - width, y, width, height};
+}
+
+TamselTimeInput::TamselTimeInput(QWidget *parent) : QWidget(parent)
+{
+    redrawWithAppearance(this);
+}
+
+void TamselTimeInput::setPicker(QWidget *picker)
+{
+    m_picker = picker;
+    if (picker && picker->parentWidget() != this) {
+        picker->setParent(this);
+        picker->show();
+    }
+}
+
+void TamselTimeInput::setFill(const QColor &fill)
+{
+    m_fill = fill;
+    update();
+}
+
+void TamselTimeInput::alignPicker()
+{
+    if (QWidget *picker = m_picker)
+        picker->setGeometry(timePickerFrame(size(), picker->sizeHint()).toRect());
+}
+
+void TamselTimeInput::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_fill.isValid() ? m_fill : TamselInputFill(this));
+    painter.drawRoundedRect(rect(), kRadius, kRadius);
+}

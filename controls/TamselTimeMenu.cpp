@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "controls/TamselTimeMenu.h"
+
+#include "controls/LineHeight.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+/// Where every row of the sheet ends.
+constexpr double kRightEdge = 334.0;
+constexpr double kTitledHeight = 24.0;
+constexpr double kSymbolSide = 20.0;
+/// What the width has beside the title: the symbol, the gap before it and the space on the left.
+constexpr double kTitleSurround = 44.0;
+constexpr double kTitleRightInset = 32.0;
+constexpr double kExpandedRadius = 6.0;
+constexpr double kCircleRadius = kSymbolSide / 2.0;
+
+} // namespace
+
+TamselTimeMenu::TamselTimeMenu(QWidget *parent) : TamselSymbolButton(parent)
+{
+}
+
+void TamselTimeMenu::alignAtRowCenter(double y)
+{
+    const bool titled = !text().isEmpty();
+    const double titleWidth = QFontMetricsF(font()).horizontalAdvance(text());
+    const double width = titled ? std::ceil(titleWidth) + kTitleSurround : kSymbolSide;
+    const double height = titled ? kTitledHeight : kSymbolSide;
+    setGeometry(QRectF(kRightEdge - width, y - height / 2.0, width, height).toRect());
+}
+
+double TamselTimeMenu::outlineRadius() const
+{
+    return text().isEmpty() ? kCircleRadius : kExpandedRadius;
+}
+
+bool TamselTimeMenu::isExpanded() const
+{
+    return !text().isEmpty() && (hovered() || isDown());
+}
+
+void TamselTimeMenu::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF icon(width() - kSymbolSide, (height() - kSymbolSide) / 2.0, kSymbolSide,
+                      kSymbolSide);
+    const double radius = isExpanded() ? kExpandedRadius : kCircleRadius;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(displayFill());
+    painter.drawRoundedRect(isExpanded() ? QRectF(rect()) : icon, radius, radius);
+    if (!text().isEmpty()) {
+        const double line = lineHeight(font());
+        painter.setPen(hoverInk().isValid() ? hoverInk() : appearanceOf(this).controlTextColor());
+        painter.drawText(QRectF(0.0, (height() - line) / 2.0, width() - kTitleRightInset, line),
+                         Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignTop | Qt::TextSingleLine,
+                         text());
+    }
+    drawSymbolInRect(painter, icon);
+}

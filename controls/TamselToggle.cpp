@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "controls/TamselToggle.h"
+
+#include "controls/ControlAccessibility.h"
+#include "controls/FocusRing.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+#include "platform/Clocks.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr QSize kSize(36, 16);
+constexpr double kKnobInset = 2.0;
+constexpr double kSlideDuration = 0.16; // seconds
+constexpr double kOffAlpha = 0.16;
+constexpr double kPressedShade = 0.08;
+constexpr double kDisabledAlpha = 0.4;
+
+} // namespace
+
+TamselToggle::TamselToggle(QWidget *parent) : TamselToggle(platform::systemClocks(), parent)
+{
+}
+
+TamselToggle::TamselToggle(const platform::Clocks &clocks, QWidget *parent)
+    : QAbstractButton(parent),
+      m_slide(clocks, kSlideDuration, [this](double position, bool) { setKnobPosition(position); })
+{
+    setCheckable(true);
+    setFocusPolicy(Qt::TabFocus);
+    resize(kSize);
+    redrawWithAppearance(this);
+    installControlAccessibility();
+    new FocusRing(this, [this] { return FocusRing::Outline{rect(), height() / 2.0}; });
+    connect(this, &QAbstractButton::toggled, this, [this](bool on) {
+        m_slide.stop();
+        setKnobPosition(on ? 1.0 : 0.0);
+    });
+}
+
+QSize TamselToggle::sizeHint() const
+{
+    return kSize;
+}
+
+void TamselToggle::nextCheckState()
+{
+    const double from = m_knobPosition;
+    QAbstractButton::nextCheckState();
+    if (!isVisible() || appearanceOf(this).reducedMotion() || from == m_knobPosition)
+        return;
+    m_slide.start(from, m_knobPosition);
+    setKnobPosition(from);
+}
+
+void TamselToggle::setKnobPosition(double position)
+{
+    m_knobPosition = position;
+    update();
+}
+
+void TamselToggle::paintEvent(QPaintEvent *)
+{
+    const platform::Appearance &appearance = appearanceOf(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(isEnabled() ? 1.0 : kDisabledAlpha);
+    painter.setPen(Qt::NoPen);
+
+    const double radius = height() / 2.0;
+    painter.setBrush(withAlpha(appearance.labelColor(), kOffAlpha));
+    painter.drawRoundedRect(rect(), radius, radius);
+    painter.setBrush(withAlpha(appearance.controlAccentColor(), m_knobPosition));
+    painter.drawRoundedRect(rect(), radius, radius);
+    if (isDown()) {
+        painter.setBrush(withAlpha(Qt::black, kPressedShade));
+        painter.drawRoundedRect(rect(), radius, radius);
+    }
+    const double side = height() - 2.0 * kKnobInset;
+    const double travel = width() - side - 2.0 * kKnobInset;
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(QRectF(kKnobInset + m_knobPosition * travel, kKnobInset, side, side));
+}

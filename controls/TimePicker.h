@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTimeEdit>
+
+/// An hour and a minute, typed or stepped, without frame, buttons or background of its own. It
+/// follows the user's way to write a time.
+class TimePicker : public QTimeEdit
+{
+    Q_OBJECT
+
+public:
+    explicit TimePicker(QWidget *parent = nullptr);
+
+    /// The colour of the digits; the control text colour when invalid, which is the default.
+    void setTextColor(const QColor &color);
+
+    /// Room for the widest time, one line high.
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void takeColors();
+
+    QColor m_textColor;
+};

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "location/CityChooser.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace location {
+
+namespace {
+
+constexpr int kSpacing = 8;
+constexpr int kRowsShown = 6;
+constexpr int kRowHeight = 26;
+constexpr int kFieldHeight = 30;
+
+bool movesInList(int key)
+{
+    constexpr std::array kKeys{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+    return std::find(kKeys.begin(), kKeys.end(), key) != kKeys.end();
+}
+
+} // namespace
+
+CityChooser::CityChooser(const ZoneCities &cities, QWidget *parent)
+    : QWidget(parent), m_cities(cities), m_field(new QLineEdit(this)), m_list(new QListWidget(this))
+{
+    m_field->setPlaceholderText(u"Search for a city or country"_s);
+    m_field->setAccessibleName(u"Search for a city or country"_s);
+    m_field->setClearButtonEnabled(true);
+    m_field->setMinimumHeight(kFieldHeight);
+    m_field->installEventFilter(this);
+    m_list->setAccessibleName(u"Cities"_s);
+    m_list->setUniformItemSizes(true);
+    m_list->setMinimumHeight(kRowsShown * kRowHeight);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(kSpacing);
+    layout->addWidget(m_field);
+    layout->addWidget(m_list);
+    setFocusProxy(m_field);
+    connect(m_field, &QLineEdit::textChanged, this, &CityChooser::search);
+    connect(m_list, &QListWidget::currentRowChanged, this, &CityChooser::reportCurrent);
+    search({});
+}
+
+void CityChooser::setCity(const std::optional<ZoneCity> &city)
+{
+    const QSignalBlocker blocker(m_list);
+    const auto row = std::find_if(m_found.begin(), m_found.end(),
+                                  [&](const ZoneCity &c) { return city && c.zone == city->zone; });
+    m_list->setCurrentRow(row == m_found.end() ? -1 : int(row - m_found.begin()));
+}
+
+void CityChooser::search(const QString &query)
+{
+    const QSignalBlocker blocker(m_list);
+    m_found = m_cities.matching(query);
+    m_list->clear();
+    for (const ZoneCity &city : std::as_const(m_found)) {
+        auto *item = new QListWidgetItem(city.fullName(), m_list);
+        item->setSizeHint({0, kRowHeight});
+    }
+    m_list->setCurrentRow(-1);
+}
+
+void CityChooser::reportCurrent()
+{
+    const int row = m_list->currentRow();
+    if (row >= 0)
+        Q_EMIT chosen(m_found[row]);
+}
+
+void CityChooser::takeFirstMatch()
+{
+    if (m_list->currentRow() < 0 && !m_field->text().isEmpty() && !m_found.isEmpty())
+        m_list->setCurrentRow(0);
+    if (m_list->currentRow() >= 0)
+        Q_EMIT confirmed();
+}
+
+bool CityChooser::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_field || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (movesInList(key)) {
+        QCoreApplication::sendEvent(m_list, event);
+        return true;
+    }
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        takeFirstMatch();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace location

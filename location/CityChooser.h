@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "location/ZoneCities.h"
+
+#include <QWidget>
+
+class QLineEdit;
+class QListWidget;
+
+namespace location {
+
+/// A list of cities with a field to search it. The arrow keys move in the list from the field too;
+/// Return takes the first match.
+class CityChooser : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// \p cities must outlive the widget.
+    explicit CityChooser(const ZoneCities &cities, QWidget *parent = nullptr);
+
+    /// Shows \p city as the chosen one without reporting it; none clears the choice.
+    void setCity(const std::optional<ZoneCity> &city);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void chosen(const location::ZoneCity &city);
+    /// Return was pressed on a choice.
+    void confirmed();
+
+private:
+    void search(const QString &query);
+    void reportCurrent();
+    void takeFirstMatch();
+
+    const ZoneCities &m_cities;
+    QList<ZoneCity> m_found;
+    QLineEdit *m_field;
+    QListWidget *m_list;
+};
+
+} // namespace location

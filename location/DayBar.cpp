@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "location/DayBar.h"
+
+#include "platform/Appearance.h"
+
+#include <QLocale>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace location {
+
+namespace {
+
+constexpr double kBarHeight = 10.0;
+constexpr double kLabelGap = 5.0;
+constexpr double kLabelSize = 11.0;
+constexpr double kNightOpacity = 0.14;
+constexpr int kHoursBetweenLabels = 6;
+constexpr double kMillisecondsOfDay = 24.0 * 60.0 * 60.0 * 1000.0;
+constexpr QColor kDaylight(0xff, 0x8a, 0x1f);
+
+double fractionOfDay(QTime time)
+{
+    return time.msecsSinceStartOfDay() / kMillisecondsOfDay;
+}
+
+/// The lit parts of \p bar: one, or two when the daylight runs over midnight.
+QPainterPath litParts(const QRectF &bar, const DaylightHours &daylight)
+{
+    const auto part = [&](double from, double to) {
+        return QRectF(bar.left() + from * bar.width(), bar.top(), (to - from) * bar.width(),
+                      bar.height());
+    };
+    const double rise = fractionOfDay(daylight.sunrise);
+    const double set = fractionOfDay(daylight.sunset);
+    QPainterPath path;
+    if (rise <= set) {
+        path.addRect(part(rise, set));
+    } else {
+        path.addRect(part(0.0, set));
+        path.addRect(part(rise, 1.0));
+    }
+    return path;
+}
+
+void drawLabels(QPainter &painter, const QRectF &bar)
+{
+    const QLocale locale = QLocale::system();
+    const QFontMetricsF metrics(painter.font());
+    for (int hour = 0; hour <= 24; hour += kHoursBetweenLabels) {
+        const QString text = locale.toString(hour);
+        const double width = metrics.horizontalAdvance(text);
+        const double x = bar.left() + bar.width() * hour / 24.0 - width * hour / 24.0;
+        painter.drawText(QPointF(x, bar.bottom() + kLabelGap + metrics.ascent()), text);
+    }
+}
+
+} // namespace
+
+DayBar::DayBar(QWidget *parent) : QWidget(parent)
+{
+    setFont(platform::systemFont(kLabelSize));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void DayBar::setDaylight(const std::optional<DaylightHours> &daylight)
+{
+    m_daylight = daylight;
+    update();
+}
+
+QSize DayBar::sizeHint() const
+{
+    const double height = kBarHeight + kLabelGap + QFontMetricsF(font()).height();
+    return {200, int(std::ceil(height))};
+}
+
+void DayBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF bar(0.0, 0.0, width(), kBarHeight);
+    QPainterPath track;
+    track.addRoundedRect(bar, kBarHeight / 2.0, kBarHeight / 2.0);
+    QColor night = palette().color(QPalette::WindowText);
+    night.setAlphaF(float(kNightOpacity));
+    painter.fillPath(track, night);
+    if (m_daylight)
+        painter.fillPath(track & litParts(bar, *m_daylight), kDaylight);
+    painter.setPen(platform::Appearance::shared().secondaryLabelColor());
+    drawLabels(painter, bar);
+}
+
+} // namespace location

@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: MIT
+#include "location/LocationWindow.h"
+
+#include "location/CityChooser.h"
+#include "location/CoordinateFields.h"
+#include "location/ServiceFinder.h"
+#include "platform/Appearance.h"
+#include "platform/Clocks.h"
+
+#include <QAccessible>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace location {
+
+namespace {
+
+constexpr int kMargin = 24;
+constexpr int kSpacing = 16;
+constexpr int kButtonSpacing = 8;
+constexpr int kButtonHeight = 30;
+constexpr int kWidth = 440;
+constexpr double kTitleSize = 20.0;
+constexpr double kTextSize = 13.0;
+
+} // namespace
+
+LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities cities,
+                               const QString &systemZone, QWidget *parent)
+    : QDialog(parent, Qt::Window), m_desktop(desktop), m_cities(std::move(cities)),
+      m_store(desktop), m_sun(desktop), m_card(new PlaceCard(this)),
+      m_finder(new ServiceFinder(*desktop.clocks, this)),
+      m_chooser(new CityChooser(m_cities, this)), m_coordinates(new CoordinateFields(this))
+{
+    setWindowTitle(u"Pelko Location"_s);
+    setFont(platform::systemFont(kTextSize));
+    layOut();
+    connectWays();
+    connect(&platform::Appearance::shared(), &platform::Appearance::changed, this,
+            &LocationWindow::followAppearance);
+    followAppearance();
+    suggest(systemZone);
+    m_chooser->setFocus();
+}
+
+LocationWindow::~LocationWindow() = default;
+
+void LocationWindow::layOut()
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(kSpacing);
+    layout->addWidget(makeIntroduction());
+    layout->addWidget(m_card);
+    layout->addWidget(m_finder);
+    layout->addWidget(m_chooser, 1);
+    layout->addWidget(m_coordinates);
+    layout->addWidget(makeFooter());
+    resize(kWidth, sizeHint().height());
+}
+
+QWidget *LocationWindow::makeIntroduction()
+{
+    auto *introduction = new QWidget(this);
+    auto *title = new QLabel(u"Where does your sun rise?"_s);
+    title->setFont(platform::systemFont(kTitleSize, QFont::DemiBold));
+    auto *text = new QLabel(u"The clock needs your location to change to its night colours at "
+                            u"sunset and back at sunrise. It stays on this computer."_s);
+    text->setWordWrap(true);
+    auto *layout = new QVBoxLayout(introduction);
+    layout->setContentsMargins({});
+    layout->setSpacing(kSpacing / 2);
+    layout->addWidget(title);
+    layout->addWidget(text);
+    return introduction;
+}
+
+QWidget *LocationWindow::makeFooter()
+{
+    auto *footer = new QWidget(this);
+    m_message = new QLabel;
+    m_message->setWordWrap(true);
+    m_forget = new QPushButton(u"Fo&rget location"_s);
+    m_forget->setAutoDefault(false);
+    auto *close = new QPushButton(u"&Close"_s);
+    close->setAutoDefault(false);
+    m_save = new QPushButton(u"&Save"_s);
+    m_save->setDefault(true);
+    for (QPushButton *button : {m_forget, close, m_save})
+        button->setMinimumHeight(kButtonHeight);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(kButtonSpacing);
+    buttons->addWidget(m_forget);
+    buttons->addStretch();
+    buttons->addWidget(close);
+    buttons->addWidget(m_save);
+    auto *layout = new QVBoxLayout(footer);
+    layout->setContentsMargins({});
+    layout->setSpacing(kButtonSpacing);
+    layout->addWidget(m_message);
+    layout->addLayout(buttons);
+    connect(m_forget, &QPushButton::clicked, this, &LocationWindow::forget);
+    connect(close, &QPushButton::clicked, this, &LocationWindow::reject);
+    connect(m_save, &QPushButton::clicked, this, &LocationWindow::save);
+    return footer;
+}
+
+void LocationWindow::connectWays()
+{
+    connect(m_finder, &ServiceFinder::found, this, &LocationWindow::chooseFound);
+    connect(m_chooser, &CityChooser::chosen, this, [this](const ZoneCity &city) {
+        m_finder->cancel();
+        chooseCity(city);
+    });
+    connect(m_chooser, &CityChooser::confirmed, m_save, qOverload<>(&QPushButton::setFocus));
+    connect(m_coordinates, &CoordinateFields::edited, this,
+            [this](const std::optional<SolarLocation> &location) {
+                m_finder->cancel();
+                m_chooser->setCity(std::nullopt);
+                choose(location);
+            });
+}
+
+/// Begins with the saved place, else with the city of the time zone.
+void LocationWindow::suggest(const QString &systemZone)
+{
+    if (const auto saved = m_store.load()) {
+        chooseFound(*saved);
+        tell({});
+    } else if (const auto city = m_cities.ofZone(systemZone)) {
+        chooseCity(*city);
+        tell(u"Suggested by your time zone; nothing is saved yet."_s);
+    } else {
+        choose(std::nullopt);
+    }
+}
+
+void LocationWindow::chooseCity(const ZoneCity &city)
+{
+    m_chooser->setCity(city);
+    m_coordinates->setLocation(city.location);
+    choose(city.location);
+}
+
+void LocationWindow::chooseFound(const SolarLocation &location)
+{
+    const auto city = m_cities.nearestTo(location);
+    m_chooser->setCity(city && city->location == location ? city : std::nullopt);
+    m_coordinates->setLocation(location);
+    choose(location);
+}
+
+void LocationWindow::choose(const std::optional<SolarLocation> &location)
+{
+    m_choice = location;
+    m_card->setPlace(placeOf(location));
+    tell({});
+    refreshButtons();
+}
+
+std::optional<Place> LocationWindow::placeOf(const std::optional<SolarLocation> &location)
+{
+    if (!location)
+        return std::nullopt;
+    m_sun.setLocation(location);
+    const QDateTime now = m_desktop.clocks->now();
+    const auto sunrise = m_sun.eventOnDate(u"sunrise"_s, now);
+    const auto sunset = m_sun.eventOnDate(u"sunset"_s, now);
+    Place place{m_cities.placeName(*location), *location, std::nullopt};
+    if (sunrise && sunset)
+        place.daylight = DaylightHours{sunrise->time(), sunset->time()};
+    return place;
+}
+
+void LocationWindow::save()
+{
+    if (!m_choice)
+        return;
+    if (m_store.save(*m_choice))
+        tell(u"Saved. Clocks that are running follow at once."_s);
+    else
+        tell(u"The location could not be saved in your home folder."_s, true);
+    refreshButtons();
+}
+
+void LocationWindow::forget()
+{
+    if (m_store.forget())
+        tell(u"Forgotten. A clock that is running keeps its sun times until it ends."_s);
+    else
+        tell(u"The saved location could not be removed."_s, true);
+    refreshButtons();
+}
+
+void LocationWindow::refreshButtons()
+{
+    const auto saved = m_store.load();
+    m_forget->setEnabled(saved.has_value());
+    m_save->setEnabled(m_choice && m_choice != saved);
+}
+
+void LocationWindow::tell(const QString &text, bool isFault)
+{
+    const auto &appearance = platform::Appearance::shared();
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText,
+                    isFault ? appearance.systemRedColor() : appearance.secondaryLabelColor());
+    m_message->setPalette(colors);
+    m_message->setText(text);
+    QAccessibleEvent event(m_message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void LocationWindow::followAppearance()
+{
+    setPalette(platform::Appearance::shared().palette());
+    m_card->followAppearance();
+    m_coordinates->followAppearance();
+    tell(m_message->text());
+}
+
+/// Another program may have saved meanwhile, and another day may have begun.
+void LocationWindow::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        m_card->setPlace(placeOf(m_choice));
+        refreshButtons();
+    }
+}
+
+} // namespace location

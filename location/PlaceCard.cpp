@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "location/PlaceCard.h"
+
+#include "location/Coordinates.h"
+#include "platform/Appearance.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace location {
+
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kSpacing = 4;
+constexpr int kSpacingAboveSun = 10;
+constexpr double kRadius = 10.0;
+constexpr double kNameSize = 17.0;
+constexpr double kTextSize = 13.0;
+constexpr int kDay = 24 * 60 * 60 * 1000; // in milliseconds
+/// The card stands out from the window by this much of the text's colour.
+constexpr double kCardOpacity = 0.05;
+
+/// Where noon is at another time, the times are another zone's business than the place's.
+bool isFarAway(const DaylightHours &daylight)
+{
+    const int rise = daylight.sunrise.msecsSinceStartOfDay();
+    const int length = daylight.sunrise.msecsTo(daylight.sunset);
+    const int noon = (rise + (length + (length < 0 ? kDay : 0)) / 2) % kDay;
+    return std::abs(noon - kDay / 2) > kDay / 6;
+}
+
+QString sunText(const std::optional<Place> &place)
+{
+    if (!place)
+        return u"Choose a place to see its sunrise and sunset."_s;
+    if (!place->daylight)
+        return u"The sun does not rise or set there today, so it cannot begin or end a night."_s;
+    const DaylightHours &daylight = *place->daylight;
+    return u"Today: sunrise %1, sunset %2%3"_s.arg(
+        timeText(daylight.sunrise), timeText(daylight.sunset),
+        isFarAway(daylight) ? u" by this computer's clock"_s : QString());
+}
+
+QString nameText(const std::optional<Place> &place)
+{
+    if (!place)
+        return u"No place chosen"_s;
+    return place->name.isNull() ? coordinatesText(place->location) : place->name;
+}
+
+} // namespace
+
+PlaceCard::PlaceCard(QWidget *parent)
+    : QFrame(parent), m_name(new QLabel(this)), m_coordinates(new QLabel(this)),
+      m_sun(new QLabel(this)), m_bar(new DayBar(this))
+{
+    m_name->setFont(platform::systemFont(kNameSize, QFont::DemiBold));
+    m_coordinates->setFont(platform::systemFont(kTextSize));
+    m_sun->setFont(platform::systemFont(kTextSize));
+    m_sun->setWordWrap(true);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(kSpacing);
+    layout->addWidget(m_name);
+    layout->addWidget(m_coordinates);
+    layout->addSpacing(kSpacingAboveSun);
+    layout->addWidget(m_sun);
+    layout->addSpacing(kSpacing);
+    layout->addWidget(m_bar);
+    setAccessibleName(u"Chosen place"_s);
+    followAppearance();
+    setPlace(std::nullopt);
+}
+
+void PlaceCard::setPlace(const std::optional<Place> &place)
+{
+    m_name->setText(nameText(place));
+    m_coordinates->setText(place && !place->name.isNull() ? coordinatesText(place->location)
+                                                          : QString());
+    m_sun->setText(sunText(place));
+    m_bar->setDaylight(place ? place->daylight : std::nullopt);
+    setAccessibleDescription(
+        QStringList{m_name->text(), m_coordinates->text(), m_sun->text()}.join(". "_L1));
+}
+
+void PlaceCard::followAppearance()
+{
+    QPalette quiet = palette();
+    quiet.setColor(QPalette::WindowText, platform::Appearance::shared().secondaryLabelColor());
+    m_coordinates->setPalette(quiet);
+    update();
+}
+
+void PlaceCard::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor surface = palette().color(QPalette::WindowText);
+    surface.setAlphaF(float(kCardOpacity));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(surface);
+    painter.drawRoundedRect(rect(), kRadius, kRadius);
+}
+
+} // namespace location

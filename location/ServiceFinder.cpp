@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "location/ServiceFinder.h"
+
+#include "night/TamselSolarTimes.h"
+#include "platform/Appearance.h"
+#include "platform/Clocks.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace location {
+
+namespace {
+
+constexpr int kProgressHeight = 4;
+constexpr int kButtonHeight = 30;
+constexpr int kSpacing = 8;
+
+QString findText()
+{
+    return u"&Find my location"_s;
+}
+
+} // namespace
+
+ServiceFinder::ServiceFinder(const platform::Clocks &clocks, QWidget *parent)
+    : QWidget(parent), m_clocks(clocks), m_service(QString(kLocationDesktopId)),
+      m_button(new QPushButton(findText(), this)), m_progress(new QProgressBar(this)),
+      m_message(new QLabel(this))
+{
+    using platform::LocationService;
+    m_button->setAutoDefault(false);
+    m_button->setMinimumHeight(kButtonHeight);
+    m_progress->setRange(0, 0);
+    m_progress->setTextVisible(false);
+    m_progress->setFixedHeight(kProgressHeight);
+    m_progress->setAccessibleName(u"Finding your location"_s);
+    m_progress->hide();
+    m_message->setWordWrap(true);
+    m_message->hide();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(kSpacing);
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_button, m_progress, m_message})
+        layout->addWidget(widget);
+
+    connect(m_button, &QPushButton::clicked, this, &ServiceFinder::toggle);
+    connect(&m_service, &LocationService::updated, this, &ServiceFinder::consider);
+    connect(&m_service, &LocationService::authorizationChanged, this,
+            [this](platform::LocationAuthorization authorization) {
+                if (authorization == platform::LocationAuthorization::Restricted)
+                    end(u"The desktop does not give locations to programs now. Switch its location "
+                        u"service on and try again, or choose a city."_s);
+                else
+                    m_message->setText(u"Finding your location… You can choose a city instead."_s);
+            });
+    connect(&m_service, &LocationService::failed, this, [this](platform::LocationError error) {
+        end(error == platform::LocationError::Denied
+                ? u"Access to your location was refused. Allow it and try again, or choose a city."_s
+                : u"No location service answered. Try again, or choose a city."_s);
+    });
+}
+
+void ServiceFinder::toggle()
+{
+    if (m_service.isUpdating())
+        cancel();
+    else
+        begin();
+}
+
+void ServiceFinder::begin()
+{
+    m_button->setText(u"Stop &finding"_s);
+    m_progress->setVisible(!platform::Appearance::shared().reducedMotion());
+    m_message->setText(u"Asking for your consent… You can choose a city instead."_s);
+    m_message->show();
+    m_service.startUpdating();
+}
+
+void ServiceFinder::cancel()
+{
+    m_service.stopUpdating();
+    end({});
+}
+
+void ServiceFinder::end(const QString &text)
+{
+    m_button->setText(findText());
+    m_progress->hide();
+    m_message->setText(text);
+    m_message->setVisible(!text.isEmpty());
+    QAccessibleEvent event(m_message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void ServiceFinder::consider(const platform::LocationFix &fix)
+{
+    if (!isUsableFix(fix, m_clocks.now()))
+        return;
+    m_service.stopUpdating();
+    end({});
+    Q_EMIT found({fix.latitude, fix.longitude});
+}
+
+} // namespace location

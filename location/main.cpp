@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "location/CommandLine.h"
+#include "location/Coordinates.h"
+#include "location/LocationWindow.h"
+#include "platform/Clocks.h"
+#include "platform/DisplayServer.h"
+#include "platform/DistributedNotifications.h"
+
+#include <QApplication>
+#include <QTimeZone>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kSuccess = 0;
+constexpr int kFailure = 1;
+constexpr int kWrongUsage = 2;
+
+int complain(const QString &text, int status)
+{
+    std::fprintf(stderr, "pelko-location: %s\n", text.toLocal8Bit().constData());
+    return status;
+}
+
+int print(const QString &text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    return kSuccess;
+}
+
+platform::Desktop desktopWith(platform::DistributedNotifications &notifications)
+{
+    return {.clocks = &platform::systemClocks(),
+            .bundle = platform::Bundle::ofProgram(),
+            .preferencesFolder = platform::userPreferencesFolder(),
+            .notifications = &notifications};
+}
+
+QString sunLine(const QString &name, const std::optional<QDateTime> &time)
+{
+    const QString text = time ? location::timeText(time->time()) : u"not today"_s;
+    return u"%1 %2\n"_s.arg(name, text);
+}
+
+int show(const platform::Desktop &desktop)
+{
+    TamselSolarTimes sun(desktop);
+    sun.setPersistent(true);
+    sun.reloadSavedLocation();
+    if (!sun.location())
+        return complain(u"no location is saved"_s, kFailure);
+    const SolarLocation &location = *sun.location();
+    const QDateTime now = desktop.clocks->now();
+    const QString place = location::ZoneCities::ofSystem().placeName(location);
+    return print(u"Location: %1,%2%3\n"_s.arg(location::degreesText(location.latitude),
+                                              location::degreesText(location.longitude),
+                                              place.isNull() ? QString() : u" (%1)"_s.arg(place)) +
+                 sunLine(u"Sunrise: "_s, sun.eventOnDate(u"sunrise"_s, now)) +
+                 sunLine(u"Sunset:  "_s, sun.eventOnDate(u"sunset"_s, now)));
+}
+
+int carryOut(const location::Request &request, int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    platform::DistributedNotifications notifications;
+    const platform::Desktop desktop = desktopWith(notifications);
+    const SolarLocationStore store(desktop);
+    if (const auto *set = std::get_if<location::SetLocation>(&request)) {
+        return store.save(set->location)
+                   ? kSuccess
+                   : complain(u"cannot write %1"_s.arg(TamselSolarLocationPath()), kFailure);
+    }
+    if (std::holds_alternative<location::ForgetLocation>(request)) {
+        return store.forget() ? kSuccess
+                              : complain(u"cannot remove the saved location"_s, kFailure);
+    }
+    return show(desktop);
+}
+
+int runWindow(int argc, char **argv)
+{
+    const auto qtPlatform = platform::reachablePlatform();
+    if (!qtPlatform)
+        return complain(u"no display can be reached; --set saves a location without one"_s,
+                        kFailure);
+    qputenv("QT_QPA_PLATFORM", *qtPlatform);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(u"pelko-location"_s);
+    QApplication::setApplicationDisplayName(u"Pelko Location"_s);
+    QGuiApplication::setDesktopFileName(QString(kLocationDesktopId));
+    platform::DistributedNotifications notifications;
+    location::LocationWindow window(desktopWith(notifications), location::ZoneCities::ofSystem(),
+                                    QString::fromUtf8(QTimeZone::systemTimeZoneId()));
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const location::Request request = location::parseCommandLine(arguments);
+    if (const auto *error = std::get_if<location::UsageError>(&request))
+        return complain(error->text, kWrongUsage);
+    if (std::holds_alternative<location::ShowHelp>(request))
+        return print(location::helpText());
+    // The options are ours alone; Qt would take some of its own out of the command line.
+    int programNameOnly = 1;
+    return std::holds_alternative<location::ShowWindow>(request)
+               ? runWindow(programNameOnly, argv)
+               : carryOut(request, programNameOnly, argv);
+}

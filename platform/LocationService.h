@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QString>
+
+#include <chrono>
+
+namespace platform {
+
+/// One answer of the location service: degrees, north and east positive.
+struct LocationFix
+{
+    double latitude = 0.0;
+    double longitude = 0.0;
+    /// Radius in metres; negative when the coordinates mean nothing.
+    double horizontalAccuracy = -1.0;
+    /// When it was found; invalid when the service does not tell.
+    QDateTime timestamp;
+};
+
+enum class LocationAuthorization {
+    NotDetermined,
+    Restricted, ///< location is switched off, or there is nobody who could be asked
+    Authorized,
+};
+
+enum class LocationError {
+    Denied,      ///< the user refused this program
+    Unavailable, ///< no service, no answer, or it went away
+};
+
+/// The desktop's location service, GeoClue 2 on the system bus, at city accuracy. It asks the user
+/// for consent itself. Every question is asked without waiting, no position is kept, and the bus is
+/// not connected to before the first start.
+///
+/// What its errors mean here: an AccessDenied that begins "Agent rejected" is the user's own no,
+/// so Denied; every other AccessDenied ("Geolocation disabled", "no agent", "disallowed by
+/// configuration", a missing desktop entry) is Restricted; anything else is Unavailable.
+class LocationService : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// How long a service that agreed to answer may stay silent.
+    static constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(60);
+
+    /// \p desktopId is the name of the program's installed desktop entry without its suffix: the
+    /// service shows the entry's name and reason to the user.
+    explicit LocationService(QString desktopId, QObject *parent = nullptr);
+    ~LocationService() override;
+
+    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
+
+    /// Asks for consent and then for the position, until stopUpdating or a failure. Starting again
+    /// begins anew.
+    void startUpdating();
+    void stopUpdating();
+    bool isUpdating() const { return m_request != nullptr; }
+
+Q_SIGNALS:
+    /// When it is Restricted, updating has ended.
+    void authorizationChanged(platform::LocationAuthorization authorization);
+    void updated(const platform::LocationFix &fix);
+    /// Updating has ended.
+    void failed(platform::LocationError error);
+
+private:
+    class Request;
+
+    QString m_desktopId;
+    std::chrono::milliseconds m_patience = kPatience;
+    Request *m_request = nullptr;
+};
+
+} // namespace platform

@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: MIT
+// Mouse, wheel, keyboard and text input as a user gives them.
+#include "controls/FocusRing.h"
+#include "controls/TamselGradientSlider.h"
+#include "controls/TamselHexField.h"
+#include "controls/TamselModeControl.h"
+#include "controls/TamselSettingsWindow.h"
+#include "controls/TamselSwatchButton.h"
+#include "controls/TamselSymbolButton.h"
+#include "controls/TamselTimeMenu.h"
+#include "controls/TamselToggle.h"
+#include "controls/TimePicker.h"
+#include "controls/ViewAlpha.h"
+#include "platform/Clocks.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFocusFrame>
+#include <QInputMethodEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void turnWheel(QWidget *control, const QPoint &eighths)
+{
+    QWheelEvent event(control->rect().center(), control->mapToGlobal(control->rect().center()), {},
+                      eighths, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(control, &event);
+}
+
+} // namespace
+
+class TestControlInput : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_window->resize(400, 200);
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void buttonsWorkLikeButtons_data()
+    {
+        QTest::addColumn<QAbstractButton *>("button");
+        QTest::newRow("symbol button") << static_cast<QAbstractButton *>(new TamselSymbolButton);
+        QTest::newRow("swatch") << static_cast<QAbstractButton *>(new TamselSwatchButton);
+        QTest::newRow("time menu") << static_cast<QAbstractButton *>(new TamselTimeMenu);
+        QTest::newRow("toggle") << static_cast<QAbstractButton *>(new TamselToggle);
+    }
+
+    void buttonsWorkLikeButtons()
+    {
+        QFETCH(QAbstractButton *, button);
+        button->setParent(m_window.get());
+        button->setGeometry(20, 20, 36, 24);
+        button->show();
+        const QSignalSpy clicked(button, &QAbstractButton::clicked);
+        const QPoint inside(10, 10);
+        const QPoint outside(100, 100);
+
+        QTest::mouseClick(button, Qt::LeftButton, {}, inside);
+        QCOMPARE(clicked.size(), 1);
+        QTest::mousePress(button, Qt::LeftButton, {}, inside);
+        QVERIFY(button->isDown());
+        QTest::mouseMove(button, outside);
+        QVERIFY(!button->isDown());
+        QTest::mouseMove(button, inside);
+        QVERIFY(button->isDown());
+        QTest::mouseMove(button, outside);
+        QTest::mouseRelease(button, Qt::LeftButton, {}, outside);
+        QTest::mouseClick(button, Qt::RightButton, {}, inside);
+        QCOMPARE(clicked.size(), 1);
+
+        button->setFocus(Qt::TabFocusReason);
+        QVERIFY(FocusRing::isShownAround(button));
+        QTest::keyClick(button, Qt::Key_Space);
+        QCOMPARE(clicked.size(), 2);
+        button->setEnabled(false);
+        QTest::mouseClick(button, Qt::LeftButton, {}, inside);
+        QCOMPARE(clicked.size(), 2);
+    }
+
+    void hoverPicksTheInk_data()
+    {
+        QTest::addColumn<QColor>("ink");
+        QTest::addColumn<QColor>("hoverInk");
+        QTest::addColumn<QColor>("resting");
+        QTest::addColumn<QColor>("hovered");
+        const QColor red = Qt::red;
+        const QColor blue = Qt::blue;
+        QColor usual = TamselSymbolButton().displayInk();
+        QCOMPARE(usual.alpha(), 128);
+        QTest::newRow("neither") << QColor() << QColor() << usual << usual;
+        QTest::newRow("ink only") << red << QColor() << red << red;
+        QTest::newRow("hover ink only") << QColor() << blue << usual << blue;
+        QTest::newRow("both") << red << blue << red << blue;
+    }
+
+    void hoverPicksTheInk()
+    {
+        QFETCH(QColor, ink);
+        QFETCH(QColor, hoverInk);
+        TamselSymbolButton button(m_window.get());
+        button.setGeometry(20, 20, 24, 24);
+        button.setInk(ink);
+        button.setHoverInk(hoverInk);
+        button.show();
+        QTEST(button.displayInk(), "resting");
+        QTest::mouseMove(m_window->windowHandle(), {30, 30});
+        QVERIFY(button.hovered());
+        QTEST(button.displayInk(), "hovered");
+        QTest::mouseMove(m_window->windowHandle(), {200, 100});
+        QVERIFY(!button.hovered());
+        QTEST(button.displayInk(), "resting");
+    }
+
+    void focusRingIsForTheKeyboard()
+    {
+        TamselToggle first(m_window.get());
+        TamselSwatchButton second(m_window.get());
+        first.setGeometry(20, 20, 36, 16);
+        second.setGeometry(80, 20, 28, 28);
+        first.show();
+        second.show();
+        m_window->setFocus();
+        QTest::keyClick(m_window.get(), Qt::Key_Tab);
+        QVERIFY(first.hasFocus() && FocusRing::isShownAround(&first));
+        QCOMPARE(m_window->findChild<QFocusFrame *>()->geometry(), QRect(17, 17, 42, 22));
+        first.move(30, 40);
+        QCOMPARE(m_window->findChild<QFocusFrame *>()->pos(), QPoint(27, 37));
+        QTest::keyClick(&first, Qt::Key_Tab);
+        QVERIFY(second.hasFocus() && !FocusRing::isShownAround(&first));
+        QTest::mouseClick(&second, Qt::LeftButton);
+        QVERIFY(!FocusRing::isShownAround(&second));
+        QTest::keyClick(&second, Qt::Key_Space);
+        QVERIFY(FocusRing::isShownAround(&second));
+        second.hide();
+        QVERIFY(!FocusRing::isShownAround(&second));
+    }
+
+    void sliderFollowsThePointer()
+    {
+        TamselGradientSlider slider(m_window.get());
+        slider.setGeometry(20, 20, 280, 28);
+        slider.show();
+        QList<double> values;
+        connect(&slider, &TamselGradientSlider::edited, this,
+                [&] { values.append(slider.doubleValue()); });
+        QTest::mousePress(&slider, Qt::LeftButton, {}, {14 + 63, 14});
+        QTest::mouseMove(&slider, {14 + 126, 200}); // far below: still tracked
+        QTest::mouseMove(&slider, {-50, 14});
+        QTest::mouseMove(&slider, {900, 14});
+        QTest::mouseRelease(&slider, Qt::LeftButton, {}, {900, 14});
+        QCOMPARE(values, (QList<double>{0.25, 0.5, 0, 1, 1}));
+        QTest::mouseMove(&slider, {14, 14});
+        QTest::mouseClick(&slider, Qt::RightButton, {}, {14, 14});
+        QCOMPARE(values.size(), 5);
+    }
+
+    void sliderStepsByKeyAndWheel_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QPoint>("turn");
+        QTest::addColumn<double>("from");
+        QTest::addColumn<double>("to");
+        const QPoint still;
+        QTest::newRow("left") << int(Qt::Key_Left) << still << 0.5 << 0.49;
+        QTest::newRow("right") << int(Qt::Key_Right) << still << 0.5 << 0.51;
+        QTest::newRow("up") << int(Qt::Key_Up) << still << 0.5 << 0.51;
+        QTest::newRow("down") << int(Qt::Key_Down) << still << 0.5 << 0.49;
+        QTest::newRow("page up") << int(Qt::Key_PageUp) << still << 0.5 << 0.6;
+        QTest::newRow("page down") << int(Qt::Key_PageDown) << still << 0.5 << 0.4;
+        QTest::newRow("home") << int(Qt::Key_Home) << still << 0.5 << 0.0;
+        QTest::newRow("end") << int(Qt::Key_End) << still << 0.5 << 1.0;
+        QTest::newRow("left at the end") << int(Qt::Key_Left) << still << 0.0 << 0.0;
+        QTest::newRow("wheel up") << 0 << QPoint(0, 120) << 0.5 << 0.51;
+        QTest::newRow("fine wheel down") << 0 << QPoint(0, -30) << 0.5 << 0.4975;
+        QTest::newRow("wheel to the right") << 0 << QPoint(-240, 10) << 0.5 << 0.52;
+    }
+
+    void sliderStepsByKeyAndWheel()
+    {
+        QFETCH(int, key);
+        QFETCH(QPoint, turn);
+        QFETCH(double, from);
+        TamselGradientSlider slider(m_window.get());
+        slider.setGeometry(20, 20, 280, 28);
+        slider.setLayoutDirection(Qt::RightToLeft); // a colour's scale is never mirrored
+        slider.show();
+        slider.setDoubleValue(from);
+        const QSignalSpy edited(&slider, &TamselGradientSlider::edited);
+        if (key != 0)
+            QTest::keyClick(&slider, Qt::Key(key));
+        else
+            turnWheel(&slider, turn);
+        QTEST(slider.doubleValue(), "to");
+        QCOMPARE(edited.size(), 1);
+    }
+
+    void toggleSlidesForTheUserOnly()
+    {
+        platform::FixedClocks clocks({}, 10.0);
+        TamselToggle toggle(clocks, m_window.get());
+        toggle.show();
+        toggle.setChecked(true);
+        QVERIFY(!toggle.slide().isRunning());
+        toggle.click();
+        QVERIFY(!toggle.isChecked());
+        QVERIFY(toggle.slide().isRunning());
+        clocks.advance(1.0);
+        toggle.slide().tick();
+        QVERIFY(!toggle.slide().isRunning());
+    }
+
+    void modeControlReportsTheUsersChoice()
+    {
+        TamselModeControl control(m_window.get());
+        control.setGeometry(10, 10, 50, 24);
+        control.show();
+        QList<int> chosen;
+        connect(&control, &TamselModeControl::triggered, this,
+                [&] { chosen.append(control.selectedSegment()); });
+        control.setSelectedSegment(1);
+        QVERIFY(chosen.isEmpty());
+        QTest::mouseClick(control.buttons().at(0), Qt::LeftButton);
+        QTest::mouseClick(control.buttons().at(0), Qt::LeftButton);
+        QTest::keyClick(control.buttons().at(1), Qt::Key_Space);
+        QCOMPARE(chosen, (QList<int>{0, 0, 1}));
+    }
+
+    void modeControlFades()
+    {
+        platform::FixedClocks clocks({}, 100.0);
+        TamselModeControl control(clocks, m_window.get());
+        const auto enabled = [&] { return control.buttons().at(0)->isEnabled(); };
+        control.show();
+        control.setVisible(true, true);
+        QVERIFY2(!control.visibilityTimer().isRunning(), "nothing to fade");
+
+        control.setVisible(false, true);
+        QVERIFY(control.isVisible() && !enabled());
+        clocks.advance(0.07);
+        control.visibilityTimer().tick();
+        QVERIFY(qAbs(alphaValue(&control) - (1 - 0.15625)) < 1e-9); // smoothstep of a quarter
+        control.setVisible(true, true);                             // turns round where it is
+        QVERIFY(enabled());
+        QVERIFY(qAbs(alphaValue(&control) - (1 - 0.15625)) < 1e-9);
+        clocks.advance(0.28);
+        control.visibilityTimer().tick();
+        QCOMPARE(alphaValue(&control), 1.0);
+
+        control.setVisible(false, true);
+        clocks.advance(0.28);
+        control.visibilityTimer().tick();
+        QVERIFY(control.isHidden() && !control.visibilityTimer().isRunning());
+        control.setVisible(true, true);
+        QVERIFY(control.isVisible());
+        QCOMPARE(alphaValue(&control), 0.0);
+        control.setVisible(false, false);
+        QVERIFY(control.isHidden() && !control.visibilityTimer().isRunning());
+
+        control.setVisible(true, false);
+        control.hide(); // by its owner: the alpha stays, and drops at the first step
+        control.setVisible(true, true);
+        QCOMPARE(alphaValue(&control), 1.0);
+        control.visibilityTimer().tick();
+        QCOMPARE(alphaValue(&control), 0.0);
+    }
+
+    void hexFieldTakesOddText_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::newRow("usual") << u"#12AB34"_s;
+        QTest::newRow("lines and tabs") << u"#12\nAB\t34\r\n"_s;
+        QTest::newRow("long") << QString(2'000'000, u'F');
+        QTest::newRow("right to left") << u"#שלום‏123"_s;
+        QTest::newRow("beyond the basic plane, torn") << u"🕰️#12"_s + QChar(0xD83D);
+        QTest::newRow("full width") << u"＃１２ＡＢ３４"_s;
+        QTest::newRow("control characters") << u"\u0001#12\u0000AB"_s;
+    }
+
+    void hexFieldTakesOddText()
+    {
+        QFETCH(QString, pasted);
+        TamselHexField field(m_window.get());
+        field.setGeometry(10, 10, 85, 24);
+        field.setText(u"#8A1C2B"_s);
+        field.show();
+        field.setFocus();
+        field.selectAll();
+        QGuiApplication::clipboard()->setText(pasted);
+        QTest::keySequence(&field, QKeySequence::Paste);
+        QVERIFY(!field.text().isEmpty());
+        QVERIFY(!field.grab().isNull());
+        QTest::keySequence(&field, QKeySequence::Undo);
+        QCOMPARE(field.text(), u"#8A1C2B"_s);
+        QTest::keySequence(&field, QKeySequence::Redo);
+        QVERIFY(field.text() != u"#8A1C2B"_s || pasted == field.text());
+    }
+
+    void hexFieldComposes()
+    {
+        TamselHexField field(m_window.get());
+        field.setGeometry(10, 10, 85, 24);
+        field.show();
+        field.setFocus();
+        const QSignalSpy finished(&field, &QLineEdit::editingFinished);
+        QInputMethodEvent composing(u"ｆｆ"_s, {});
+        QCoreApplication::sendEvent(&field, &composing);
+        QVERIFY2(field.text().isEmpty(), "composed text is not text yet");
+        QVERIFY(!field.grab().isNull());
+        QInputMethodEvent done;
+        done.setCommitString(u"#FF8800"_s);
+        QCoreApplication::sendEvent(&field, &done);
+        QCOMPARE(field.text(), u"#FF8800"_s);
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(finished.size(), 1);
+    }
+
+    void timePickerTypesAndSteps()
+    {
+        TimePicker picker(m_window.get());
+        picker.setDisplayFormat(u"HH:mm"_s);
+        picker.resize(picker.sizeHint());
+        picker.setTime({7, 30});
+        picker.show();
+        picker.setFocus();
+        picker.setSelectedSection(QDateTimeEdit::HourSection);
+        QTest::keyClick(&picker, Qt::Key_Up);
+        QCOMPARE(picker.time(), QTime(8, 30));
+        QTest::keyClicks(&picker, u"21"_s);
+        QCOMPARE(picker.time(), QTime(21, 30));
+        QVERIFY(!picker.displayFormat().contains(u's'));
+    }
+
+    void settingsWindowMovesByItsBackground()
+    {
+        TamselSettingsWindow window;
+        window.setCornerRadius(22);
+        window.resize(400, 482);
+        window.move(50, 50);
+        window.show();
+        QVERIFY(window.canBecomeKeyWindow() && window.canBecomeMainWindow());
+        QVERIFY(!window.mask().contains(QPoint(2, 2)));
+        QVERIFY(window.mask().contains(QPoint(7, 7)));
+        QVERIFY(window.mask().contains(QPoint(393, 475)));
+        QVERIFY(!window.mask().contains(QPoint(398, 480)));
+        const auto drag = [&] {
+            QTest::mousePress(&window, Qt::LeftButton, {}, {200, 10});
+            QTest::mouseMove(&window, {230, 30});
+            QTest::mouseRelease(&window, Qt::LeftButton, {}, {200, 10});
+        };
+        drag();
+        QCOMPARE(window.pos(), QPoint(50, 50));
+        window.setMovableByWindowBackground(true);
+        drag();
+        QCOMPARE(window.pos(), QPoint(80, 70));
+    }
+
+private:
+    std::unique_ptr<QWidget> m_window;
+};
+
+QTEST_MAIN(TestControlInput)
+#include "test_ControlInput.moc"

@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+#include "controls/Popover.h"
+#include "controls/PushButton.h"
+#include "controls/TamselColorPopover.h"
+#include "controls/TamselGradientSlider.h"
+#include "controls/TamselSwatchButton.h"
+
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A sheet with a swatch whose popover is open, and the count of what it reports.
+struct Sheet
+{
+    std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+    QPointer<TamselSwatchButton> swatch = new TamselSwatchButton(window.get());
+    std::unique_ptr<TamselColorPopover> editor = std::make_unique<TamselColorPopover>();
+    QList<QColor> colors;
+    int dismissed = 0;
+    int panels = 0;
+
+    Sheet()
+    {
+        window->setGeometry(250, 250, 400, 300);
+        swatch->setGeometry(310, 200, 28, 28);
+        swatch->setAccessibleName(u"Day primary color"_s);
+        window->show();
+        window->activateWindow();
+        editor->colorChanged = [this](const QColor &color) { colors.append(color); };
+        editor->dismissed = [this] { ++dismissed; };
+        editor->openPanel = [this] { ++panels; };
+        editor->showFor(swatch, Qt::red);
+    }
+
+    PushButton *panelButton() const { return editor->view()->findChild<PushButton *>(); }
+};
+
+using Way = void (*)(Sheet &);
+
+} // namespace
+
+Q_DECLARE_METATYPE(Way)
+
+class TestTamselColorPopover : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void closesOnceAndReportsOnce_data()
+    {
+        QTest::addColumn<Way>("close");
+        QTest::addColumn<bool>("forPanel");
+        const auto add = [](const char *name, Way way, bool forPanel = false) {
+            QTest::newRow(name) << way << forPanel;
+        };
+        add("press outside", [](Sheet &it) {
+            QTest::mousePress(it.editor->popover(), Qt::LeftButton, {}, QPoint(-50, -50));
+        });
+        add("press on the anchor", [](Sheet &it) {
+            QWidget *popover = it.editor->popover();
+            const QPoint anchor = it.swatch->mapToGlobal(QPoint(14, 14));
+            QTest::mousePress(popover, Qt::LeftButton, {}, popover->mapFromGlobal(anchor));
+        });
+        add("escape", [](Sheet &it) { QTest::keyClick(it.editor->hueSlider(), Qt::Key_Escape); });
+        add(
+            "panel button", [](Sheet &it) { QTest::mouseClick(it.panelButton(), Qt::LeftButton); },
+            true);
+        add(
+            "panel button by key",
+            [](Sheet &it) { QTest::keyClick(it.panelButton(), Qt::Key_Space); }, true);
+        add("owner", [](Sheet &it) { it.editor->popover()->close(); });
+        add("owner, twice", [](Sheet &it) {
+            it.editor->popover()->close();
+            it.editor->popover()->close();
+        });
+        add("window moved", [](Sheet &it) { it.window->move(10, 10); });
+        add("window hidden", [](Sheet &it) { it.window->hide(); });
+        add("window closed", [](Sheet &it) { it.window->close(); });
+        add("window minimised", [](Sheet &it) { it.window->showMinimized(); });
+        add("window destroyed", [](Sheet &it) { it.window.reset(); });
+        add("focus lost", [](Sheet &it) {
+            QWidget other;
+            other.show();
+            other.activateWindow();
+            QTRY_VERIFY(!it.editor->popover() || !it.editor->popover()->isVisible());
+        });
+        add("anchor hidden", [](Sheet &it) { it.swatch->hide(); });
+        add("anchor moved", [](Sheet &it) { it.swatch->move(0, 0); });
+        add("anchor destroyed", [](Sheet &it) { delete it.swatch; });
+        add("next popover", [](Sheet &it) {
+            it.editor->popover()->close();
+            it.editor = std::make_unique<TamselColorPopover>();
+        });
+    }
+
+    void closesOnceAndReportsOnce()
+    {
+        QFETCH(Way, close);
+        QFETCH(bool, forPanel);
+        Sheet sheet;
+        const QPointer<Popover> popover = sheet.editor->popover();
+        QVERIFY(popover->isVisible());
+        close(sheet);
+        QVERIFY(!popover || !popover->isVisible());
+        QCOMPARE(sheet.dismissed, forPanel ? 0 : 1);
+        QCOMPARE(sheet.panels, forPanel ? 1 : 0);
+        QCOMPARE(sheet.editor->openingFullPanel(), forPanel);
+        sheet.window.reset();
+        sheet.editor.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!popover);
+        QCOMPARE(sheet.dismissed + sheet.panels, 1);
+    }
+
+    void staysOpenWhileItsOwnWindowsHaveTheFocus()
+    {
+        Sheet sheet;
+        sheet.window->activateWindow();
+        QCoreApplication::processEvents();
+        QTest::mouseClick(sheet.editor->popover(), Qt::LeftButton, {}, QPoint(150, 150));
+        sheet.window->update();
+        QCoreApplication::processEvents();
+        QVERIFY(sheet.editor->popover()->isVisible());
+    }
+
+    void mayBeDestroyedFromItsCallbacks_data()
+    {
+        QTest::addColumn<int>("callback");
+        QTest::newRow("colour changed") << 0;
+        QTest::newRow("dismissed") << 1;
+        QTest::newRow("open panel") << 2;
+    }
+
+    void mayBeDestroyedFromItsCallbacks()
+    {
+        QFETCH(int, callback);
+        Sheet sheet;
+        const QPointer<Popover> popover = sheet.editor->popover();
+        const auto drop = [&] {
+            sheet.editor->dismissed = nullptr;
+            sheet.editor.reset();
+        };
+        sheet.editor->colorChanged = [&](const QColor &) { drop(); };
+        sheet.editor->dismissed = drop;
+        sheet.editor->openPanel = drop;
+        QWidget *view = sheet.editor->view();
+        if (callback == 0)
+            QTest::mousePress(sheet.editor->hueSlider(), Qt::LeftButton, {}, {100, 14});
+        else if (callback == 1)
+            QTest::keyClick(view, Qt::Key_Escape);
+        else
+            QTest::mouseClick(sheet.panelButton(), Qt::LeftButton);
+        QVERIFY(!sheet.editor);
+        QVERIFY(!popover || !popover->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!popover);
+    }
+
+    void callbacksMayBeUnset()
+    {
+        Sheet sheet;
+        sheet.editor->colorChanged = nullptr;
+        sheet.editor->dismissed = nullptr;
+        sheet.editor->openPanel = nullptr;
+        sheet.editor->hueSlider()->edit(0.5);
+        QTest::mouseClick(sheet.panelButton(), Qt::LeftButton);
+        QVERIFY(!sheet.editor->popover()->isVisible());
+    }
+
+    void opensOnAColor_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QList<double>>("expected");
+        QTest::newRow("red") << QColor(Qt::red) << QList<double>{0, 1, 1};
+        QTest::newRow("grey has no hue")
+            << QColor(0x80, 0x80, 0x80) << QList<double>{0, 0, 0x80 / 255.0};
+        QTest::newRow("none is black") << QColor() << QList<double>{0, 0, 0};
+        QTest::newRow("transparency is dropped")
+            << QColor(0, 0, 255, 10) << QList<double>{2 / 3.0, 1, 1};
+        QTest::newRow("other models are converted")
+            << QColor::fromCmyk(255, 0, 255, 0) << QList<double>{1 / 3.0, 1, 1};
+    }
+
+    void opensOnAColor()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QList<double>, expected);
+        TamselColorPopover editor;
+        editor.setColor(color);
+        const QList<double> found{editor.hueSlider()->doubleValue(),
+                                  editor.saturationSlider()->doubleValue(),
+                                  editor.brightnessSlider()->doubleValue()};
+        for (int i = 0; i < 3; ++i)
+            QVERIFY2(qAbs(found[i] - expected[i]) < 1e-4, qPrintable(QString::number(found[i])));
+    }
+
+    void colorsComeBackAsTheyWent()
+    {
+        Sheet sheet;
+        sheet.editor->hueSlider()->edit(0.37);
+        sheet.editor->saturationSlider()->edit(0.61);
+        sheet.editor->brightnessSlider()->edit(0.83);
+        QCOMPARE(sheet.colors.size(), 3);
+        QCOMPARE(sheet.colors.last().spec(), QColor::Rgb);
+        QCOMPARE(sheet.colors.last().alpha(), 255);
+        TamselColorPopover again;
+        again.setColor(sheet.colors.last());
+        QVERIFY(qAbs(again.hueSlider()->doubleValue() - 0.37) < 1e-3);
+        QVERIFY(qAbs(again.saturationSlider()->doubleValue() - 0.61) < 1e-3);
+        QVERIFY(qAbs(again.brightnessSlider()->doubleValue() - 0.83) < 1e-3);
+        QCOMPARE(sheet.editor->brightnessSlider()->colorAtValue(0.83), sheet.colors.last());
+    }
+
+    void contentIsLaidOut()
+    {
+        TamselColorPopover editor;
+        QWidget *view = editor.view();
+        QCOMPARE(view->size(), QSize(300, 158));
+        editor.setColor(Qt::red);
+        QCOMPARE(editor.hueSlider()->geometry(), QRect(10, 10, 280, 28));
+        QCOMPARE(editor.saturationSlider()->geometry(), QRect(10, 48, 280, 28));
+        QCOMPARE(editor.brightnessSlider()->geometry(), QRect(10, 86, 280, 28));
+        QCOMPARE(view->findChild<PushButton *>()->geometry(), QRect(10, 127, 280, 24));
+        QCOMPARE(editor.brightnessSlider()->toolTip(), u"Brightness"_s);
+    }
+
+    void tabGoesRound()
+    {
+        Sheet sheet;
+        QTRY_VERIFY(sheet.editor->hueSlider()->hasFocus());
+        QWidget *popover = sheet.editor->popover();
+        QList<QWidget *> order;
+        for (int i = 0; i < 4; ++i) {
+            QTest::keyClick(popover->window()->focusWidget(), Qt::Key_Tab);
+            order.append(popover->focusWidget());
+        }
+        QCOMPARE(order, (QList<QWidget *>{sheet.editor->saturationSlider(),
+                                          sheet.editor->brightnessSlider(), sheet.panelButton(),
+                                          sheet.editor->hueSlider()}));
+    }
+
+    void staysOnTheScreen_data()
+    {
+        QTest::addColumn<QRect>("anchor");
+        QTest::addColumn<QPoint>("expected");
+        QTest::newRow("above, centred") << QRect(500, 500, 28, 28) << QPoint(364, 338);
+        QTest::newRow("no room above") << QRect(500, 130, 28, 28) << QPoint(364, 162);
+        QTest::newRow("left edge") << QRect(110, 500, 28, 28) << QPoint(100, 338);
+        QTest::newRow("right edge") << QRect(1080, 500, 28, 28) << QPoint(800, 338);
+        QTest::newRow("lower edge") << QRect(500, 690, 28, 28) << QPoint(364, 528);
+        QTest::newRow("off to the left") << QRect(-900, 500, 28, 28) << QPoint(100, 338);
+        QTest::newRow("below everything") << QRect(500, 5000, 28, 28) << QPoint(364, 542);
+    }
+
+    void staysOnTheScreen()
+    {
+        QFETCH(QRect, anchor);
+        const QRect bounds(100, 100, 1000, 600); // a second screen: its origin is not 0
+        QTEST(popoverPosition(anchor, {300, 158}, bounds), "expected");
+    }
+};
+
+QTEST_MAIN(TestTamselColorPopover)
+#include "test_TamselColorPopover.moc"

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "location/ZoneCities.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using location::ZoneCities;
+using location::ZoneCity;
+
+namespace {
+
+constexpr char kZones[] = "# comment\n"
+                          "FI\t+6010+02458\tEurope/Helsinki\n"
+                          "BR\t-2332-04637\tAmerica/Sao_Paulo\tBrazil (southeast)\n"
+                          "CI\t+0519-00402\tAfrica/Abidjan\n"
+                          "AQ\t-690022+0393524\tAntarctica/Syowa\tSyowa\n"
+                          "XX\t+0000+00000\tNowhere/Null_Island\n"
+                          "FI\t+9110+02458\tBroken/Latitude\n"
+                          "FI\t+6060+02458\tBroken/Minutes\n"
+                          "FI\t+60+024\tBroken/Digits\n"
+                          "FI\t+6010+02458\n"
+                          "\t\t\t\n"
+                          "cut sho";
+constexpr char kCountries[] =
+    "#code\tname\nFI\tFinland\nBR\tBrazil\nCI\tCôte d'Ivoire\nAQ\tAntarctica\n";
+constexpr char kLinks[] = "# version test\nR F 1970 o - Ap 4 2 1 S\n"
+                          "L Europe/Helsinki Europe/Mariehamn\nL Europe/Mariehamn Old/Name\n"
+                          "L Loop/B Loop/A\nL Loop/A Loop/B\nL Etc/UTC UTC\n";
+
+QStringList zonesOf(const QList<ZoneCity> &cities)
+{
+    QStringList zones;
+    for (const ZoneCity &city : cities)
+        zones.append(city.zone);
+    return zones;
+}
+
+} // namespace
+
+class test_ZoneCities : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsWhatMakesSense();
+    void searches_data();
+    void searches();
+    void findsTheCityOfAZone_data();
+    void findsTheCityOfAZone();
+    void namesPlaces_data();
+    void namesPlaces();
+    void readsTheSystemsDatabase();
+
+private:
+    ZoneCities m_cities{kZones, kCountries, kLinks};
+};
+
+void test_ZoneCities::readsWhatMakesSense()
+{
+    QCOMPARE(zonesOf(m_cities.all()),
+             (QStringList{u"Africa/Abidjan"_s, u"Europe/Helsinki"_s, u"Nowhere/Null_Island"_s,
+                          u"America/Sao_Paulo"_s, u"Antarctica/Syowa"_s}));
+    QCOMPARE(m_cities.all()[2].fullName(), u"Null Island, XX"_s);
+    QCOMPARE(m_cities.all()[3].location, (SolarLocation{-(23 + 32 / 60.0), -(46 + 37 / 60.0)}));
+    const SolarLocation syowa{-(69 + 22 / 3600.0), 39 + 35 / 60.0 + 24 / 3600.0};
+    QCOMPARE(m_cities.all()[4].location, syowa);
+    QVERIFY(ZoneCities({}, {}, {}).all().isEmpty());
+    QVERIFY(!ZoneCities({}, {}, {}).nearestTo(syowa));
+}
+
+void test_ZoneCities::searches_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QStringList>("zones");
+    QTest::newRow("beginning") << u"hel"_s << QStringList{u"Europe/Helsinki"_s};
+    QTest::newRow("within a word") << u"sinki"_s << QStringList{};
+    QTest::newRow("second word, any case") << u"PAULO"_s << QStringList{u"America/Sao_Paulo"_s};
+    QTest::newRow("without accents") << u"cote d'i"_s << QStringList{u"Africa/Abidjan"_s};
+    QTest::newRow("accents too many") << u"são"_s << QStringList{u"America/Sao_Paulo"_s};
+    QTest::newRow("city and country") << u" fin  helsinki"_s << QStringList{u"Europe/Helsinki"_s};
+    QTest::newRow("both must match") << u"helsinki bra"_s << QStringList{};
+    QTest::newRow("signs alone find all") << u" ,-"_s << zonesOf(m_cities.all());
+}
+
+void test_ZoneCities::searches()
+{
+    QFETCH(QString, query);
+    QTEST(zonesOf(m_cities.matching(query)), "zones");
+}
+
+void test_ZoneCities::findsTheCityOfAZone_data()
+{
+    QTest::addColumn<QString>("zone");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("its own") << u"America/Sao_Paulo"_s << u"Sao Paulo"_s;
+    QTest::newRow("another name") << u"Europe/Mariehamn"_s << u"Helsinki"_s;
+    QTest::newRow("another name's name") << u"Old/Name"_s << u"Helsinki"_s;
+    QTest::newRow("names in a circle") << u"Loop/A"_s << QString();
+    QTest::newRow("no place") << u"UTC"_s << QString();
+    QTest::newRow("none") << QString() << QString();
+}
+
+void test_ZoneCities::findsTheCityOfAZone()
+{
+    QFETCH(QString, zone);
+    QTEST(m_cities.ofZone(zone).value_or(ZoneCity()).name, "name");
+}
+
+void test_ZoneCities::namesPlaces_data()
+{
+    QTest::addColumn<SolarLocation>("place");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the city") << SolarLocation{60 + 10 / 60.0, 24 + 58 / 60.0}
+                              << u"Helsinki, Finland"_s;
+    QTest::newRow("Turku") << SolarLocation{60.45, 22.27} << u"Near Helsinki, Finland"_s;
+    QTest::newRow("mid-Atlantic") << SolarLocation{30, -40} << QString();
+    QTest::newRow("on the date line") << SolarLocation{0, 180} << QString();
+}
+
+void test_ZoneCities::namesPlaces()
+{
+    QFETCH(SolarLocation, place);
+    QTEST(m_cities.placeName(place), "name");
+}
+
+void test_ZoneCities::readsTheSystemsDatabase()
+{
+    const ZoneCities cities = ZoneCities::ofSystem();
+    QVERIFY(cities.all().size() > 300);
+    QCOMPARE(cities.ofZone(u"Asia/Calcutta"_s).value_or(ZoneCity()).fullName(),
+             u"Kolkata, India"_s);
+    QVERIFY(!cities.ofZone(u"Etc/UTC"_s));
+}
+
+QTEST_GUILESS_MAIN(test_ZoneCities)
+#include "test_ZoneCities.moc"
