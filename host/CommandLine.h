@@ -16,6 +16,7 @@ enum class Mode {
     HostWindow, ///< inside a window that a host names
     Window,     ///< an ordinary window
     Snapshot,   ///< one frame as a picture
+    Idle,       ///< wait for the user to be idle, then every screen
     Register,   ///< enter the clock in XScreenSaver's list of programs
     Unregister, ///< and take it out again
     Help,
@@ -37,6 +38,8 @@ struct Options
     double scale = 1.0;
     /// The wall clock of a picture; none means now.
     std::optional<QDateTime> at;
+    /// How long the user has to be idle.
+    double idleMinutes = 0.0;
 };
 
 /// A wrong use of the command line, in one line without a final full stop.
