@@ -6,7 +6,7 @@
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -45,6 +45,14 @@ void TamselHexField::changeEvent(QEvent *event)
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         placeText();
+}
+
+void TamselHexField::keyPressEvent(QKeyEvent *event)
+{
+    QLineEdit::keyPressEvent(event);
+    // It has been reported and is not for the window's default button as well.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
 }
 
 void TamselHexField::resizeEvent(QResizeEvent *event)

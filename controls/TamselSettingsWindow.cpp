@@ -6,6 +6,7 @@
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
+#include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
@@ -37,6 +38,27 @@ void TamselSettingsWindow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     takeShape();
+}
+
+void TamselSettingsWindow::closeEvent(QCloseEvent *event)
+{
+    Q_EMIT cancelRequested();
+    event->setAccepted(isHidden());
+}
+
+void TamselSettingsWindow::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        Q_EMIT cancelRequested();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT defaultRequested();
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void TamselSettingsWindow::mousePressEvent(QMouseEvent *event)

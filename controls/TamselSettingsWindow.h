@@ -24,7 +24,16 @@ public:
     bool movableByWindowBackground() const { return m_movable; }
     void setMovableByWindowBackground(bool movable) { m_movable = movable; }
 
+Q_SIGNALS:
+    /// Return was pressed where no control takes it.
+    void defaultRequested();
+    /// Escape was pressed where no control takes it, or the desktop was told to close the window;
+    /// it stays unless whoever hears of it hides it.
+    void cancelRequested();
+
 protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

@@ -28,6 +28,9 @@ struct OptionNames
     QString idle = u"idle"_s;
     QString registering = u"register-xscreensaver"_s;
     QString unregistering = u"unregister-xscreensaver"_s;
+    QString configure = u"configure"_s;
+    QString sheetSnapshot = u"sheet-snapshot"_s;
+    QString dark = u"dark"_s;
     QString help = u"help"_s;
     QString version = u"version"_s;
 };
@@ -54,6 +57,10 @@ void addOptions(QCommandLineParser &parser)
         {n.idle, u"Wait, and show the clock when the user is idle for so long."_s, u"MINUTES"_s},
         {n.registering, u"Enter the clock in the list of savers in ~/.xscreensaver."_s},
         {n.unregistering, u"Take the clock out of that list."_s},
+        {n.configure, u"Show the options; ends with 0 after OK, with 3 after Cancel."_s},
+        {n.sheetSnapshot, u"Write the options sheet to FILE as a PNG; needs no display."_s,
+         u"FILE"_s},
+        {n.dark, u"Draw the options sheet in its dark appearance."_s},
         {n.help, u"Print this help."_s},
         {n.version, u"Print the version."_s},
     });
@@ -100,6 +107,11 @@ std::optional<QDateTime> localTimeFrom(const QString &text)
     return time.isValid() && time.timeSpec() == Qt::LocalTime ? std::optional(time) : std::nullopt;
 }
 
+std::optional<QString> fileFrom(const QString &text)
+{
+    return text.isEmpty() ? std::nullopt : std::optional(text);
+}
+
 /// Takes an option's value through \p read; a value it refuses becomes \p error.
 template <typename Read, typename Target>
 void take(const QCommandLineParser &parser, const QString &name, Read read, Target &target,
@@ -132,6 +144,8 @@ QList<std::pair<QString, Mode>> modes()
     const OptionNames &n = names();
     return {{n.snapshot, Mode::Snapshot},
             {n.window, Mode::Window},
+            {n.configure, Mode::Configure},
+            {n.sheetSnapshot, Mode::SheetSnapshot},
             {n.idle, Mode::Idle},
             {n.registering, Mode::Register},
             {n.unregistering, Mode::Unregister},
@@ -178,10 +192,16 @@ QString usageFault(const QCommandLineParser &parser)
         return u"unexpected argument '%1'"_s.arg(parser.positionalArguments().first());
     if (QString error = conflict(parser); !error.isEmpty())
         return error;
-    if (QString error = missingCompanion(parser, {n.scale, n.at, n.preview}, {n.snapshot});
-        !error.isEmpty())
-        return error;
-    return missingCompanion(parser, {n.size}, {n.window, n.snapshot});
+    const std::pair<QStringList, QStringList> companions[] = {
+        {{n.at, n.preview}, {n.snapshot}},
+        {{n.scale}, {n.snapshot, n.sheetSnapshot}},
+        {{n.dark}, {n.sheetSnapshot}},
+        {{n.size}, {n.window, n.snapshot}},
+    };
+    for (const auto &[dependent, wanted] : companions)
+        if (QString error = missingCompanion(parser, dependent, wanted); !error.isEmpty())
+            return error;
+    return {};
 }
 
 } // namespace
@@ -207,9 +227,8 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
     take(parser, n.scale, scaleFrom, options.scale, error);
     take(parser, n.idle, idleMinutesFrom, options.idleMinutes, error);
     take(parser, n.at, localTimeFrom, options.at, error);
-    options.pictureFile = parser.value(n.snapshot);
-    if (error.isEmpty() && parser.isSet(n.snapshot) && options.pictureFile.isEmpty())
-        error = u"bad value for --snapshot: ''"_s;
+    for (const QString &name : {n.snapshot, n.sheetSnapshot})
+        take(parser, name, fileFrom, options.pictureFile, error);
     const double longSide = std::max(options.size.width(), options.size.height());
     if (error.isEmpty() && longSide * options.scale > kLargestSide)
         error =
@@ -218,6 +237,7 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
         return UsageError{error};
 
     options.mode = modeFrom(parser, options.hostWindow.has_value());
+    options.dark = parser.isSet(n.dark);
     options.preview = parser.isSet(n.preview) || parser.isSet(n.windowId);
     return options;
 }

@@ -12,13 +12,15 @@
 namespace host {
 
 enum class Mode {
-    FullScreen, ///< every screen, until the user comes back
-    HostWindow, ///< inside a window that a host names
-    Window,     ///< an ordinary window
-    Snapshot,   ///< one frame as a picture
-    Idle,       ///< wait for the user to be idle, then every screen
-    Register,   ///< enter the clock in XScreenSaver's list of programs
-    Unregister, ///< and take it out again
+    FullScreen,    ///< every screen, until the user comes back
+    HostWindow,    ///< inside a window that a host names
+    Window,        ///< an ordinary window
+    Snapshot,      ///< one frame as a picture
+    Configure,     ///< the options sheet
+    SheetSnapshot, ///< the options sheet as a picture
+    Idle,          ///< wait for the user to be idle, then every screen
+    Register,      ///< enter the clock in XScreenSaver's list of programs
+    Unregister,    ///< and take it out again
     Help,
     Version,
 };
@@ -34,6 +36,8 @@ struct Options
     /// In points; of a window or a picture.
     QSize size{960, 540};
     QString pictureFile;
+    /// The picture of the sheet in its dark appearance.
+    bool dark = false;
     /// Device pixels per point of a picture.
     double scale = 1.0;
     /// The wall clock of a picture; none means now.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/Program.h"
 
+#include "host/Configuration.h"
 #include "host/Display.h"
 #include "host/DisplayLifeline.h"
 #include "host/HostWindow.h"
@@ -10,6 +11,7 @@
 #include "host/TerminationSignals.h"
 #include "host/XScreenSaverRegistration.h"
 #include "night/TamselScheduledSaverView.h"
+#include "platform/Appearance.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 #include "platform/DisplayServer.h"
@@ -89,7 +91,7 @@ public:
     {
         platform::Desktop desktop = m_desktop;
         desktop.clocks = &clocks;
-        return std::make_unique<TamselClockSaverView>(desktop, isPreview);
+        return std::make_unique<TamselScheduledSaverView>(desktop, isPreview);
     }
 
     int exec() { return QApplication::exec(); }
@@ -114,17 +116,40 @@ int failWithoutResources(const Application &application)
         application.desktop().bundle.resourcesPath()));
 }
 
-int runSnapshot(const Options &options, const Application &application)
+int savePicture(const QImage &picture, const Options &options)
 {
-    const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
-    const auto view = application.makeViewAt(clocks, options.preview);
-    const QImage picture = pictureOfFrame(*view, options.size, options.scale);
     if (picture.isNull())
         return complainAndFail(u"not enough memory for the picture"_s);
     const QString fault = writePicture(picture, options.pictureFile);
     return fault.isNull()
                ? kSuccess
                : complainAndFail(u"cannot write %1: %2"_s.arg(options.pictureFile, fault));
+}
+
+int runSnapshot(const Options &options, const Application &application)
+{
+    const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
+    const auto view = application.makeViewAt(clocks, options.preview);
+    return savePicture(pictureOfFrame(*view, options.size, options.scale), options);
+}
+
+int runSheetSnapshot(const Options &options, const Application &application)
+{
+    using Scheme = platform::Appearance::Scheme;
+    platform::Appearance::shared().setForcedScheme(options.dark ? Scheme::Dark : Scheme::Light);
+    const auto view = application.makeView(false);
+    return savePicture(pictureOfSheet(*view, options.scale), options);
+}
+
+int runConfigure(const Application &application)
+{
+    const Configuration configuration(application.desktop());
+    if (!configuration.isOnlyOne()) {
+        configuration.bringOtherToFront();
+        return kSuccess;
+    }
+    const auto view = application.makeView(false);
+    return configuration.run(*view) ? kSuccess : kCancelled;
 }
 
 int runHostWindow(const Options &options, Application &application, quint32 window)
@@ -179,6 +204,8 @@ int onDisplay(const Options &options, int argc, char **argv)
     Application application(argc, argv, *qtPlatform);
     if (!application.hasResources())
         return failWithoutResources(application);
+    if (options.mode == Mode::Configure)
+        return runConfigure(application);
     return options.mode == Mode::Window ? runWindow(options, application)
                                         : runFullScreen(application);
 }
@@ -186,8 +213,10 @@ int onDisplay(const Options &options, int argc, char **argv)
 int asPicture(const Options &options, int argc, char **argv)
 {
     Application application(argc, argv, "offscreen");
-    return application.hasResources() ? runSnapshot(options, application)
-                                      : failWithoutResources(application);
+    if (!application.hasResources())
+        return failWithoutResources(application);
+    return options.mode == Mode::Snapshot ? runSnapshot(options, application)
+                                          : runSheetSnapshot(options, application);
 }
 
 int print(const QString &text)
@@ -257,6 +286,7 @@ int run(const Options &options, int argc, char **argv)
         return print(
             QStringLiteral("%1 " TAMSEL_VERSION "\n").arg(QLatin1StringView(kProgramName)));
     case Mode::Snapshot:
+    case Mode::SheetSnapshot:
         return asPicture(options, argc, argv);
     case Mode::Idle:
         return waitForIdleUser(options, argc, argv);
@@ -267,6 +297,7 @@ int run(const Options &options, int argc, char **argv)
     case Mode::HostWindow:
         return inHostWindow(options, argc, argv);
     case Mode::Window:
+    case Mode::Configure:
     case Mode::FullScreen:
         break;
     }

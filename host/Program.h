@@ -9,6 +9,7 @@ namespace host {
 inline constexpr int kSuccess = 0;
 inline constexpr int kCouldNotRun = 1;
 inline constexpr int kWrongUsage = 2;
+inline constexpr int kCancelled = 3;
 
 /// Prints "tamsel-clock: \p text" as one line to stderr.
 void complain(const QString &text);

@@ -15,6 +15,8 @@ namespace host {
 
 namespace {
 
+constexpr std::chrono::milliseconds kSettlingTime(500);
+
 /// The screens to cover. Of screens that show the same picture the first is enough.
 QList<QScreen *> distinctScreens()
 {
@@ -43,21 +45,34 @@ SaverHost::~SaverHost() = default;
 void SaverHost::start()
 {
     qGuiApp->installEventFilter(this);
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, &SaverHost::addScreen);
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(kSettlingTime);
+    connect(&m_settled, &QTimer::timeout, this, &SaverHost::syncViews);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen *screen) {
+        followScreen(screen);
+        screensChanged();
+    });
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](QScreen *screen) {
         m_views.erase(screen);
-        syncViews();
+        screensChanged();
     });
     const QList<QScreen *> screens = QGuiApplication::screens();
     for (QScreen *screen : screens)
-        connect(screen, &QScreen::geometryChanged, this, &SaverHost::syncViews);
+        followScreen(screen);
     syncViews();
 }
 
-void SaverHost::addScreen(QScreen *screen)
+void SaverHost::followScreen(QScreen *screen) const
 {
-    connect(screen, &QScreen::geometryChanged, this, &SaverHost::syncViews);
+    connect(screen, &QScreen::geometryChanged, this, &SaverHost::screensChanged);
+}
+
+/// Screens change in several steps, and windows are moved meanwhile: what is right now may not be
+/// when all is quiet.
+void SaverHost::screensChanged()
+{
     syncViews();
+    m_settled.start();
 }
 
 void SaverHost::syncViews()

@@ -4,6 +4,7 @@
 #include "host/PointerGuard.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <map>
@@ -37,7 +38,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void addScreen(QScreen *screen);
+    void followScreen(QScreen *screen) const;
+    void screensChanged();
     void syncViews();
     void cover(QScreen *screen);
     bool isUserComingBack(QEvent *event);
@@ -46,6 +48,7 @@ private:
     const platform::Clocks &m_clocks;
     std::map<QScreen *, std::unique_ptr<platform::ScreenSaverView>> m_views;
     PointerGuard m_pointer;
+    QTimer m_settled;
 };
 
 } // namespace host

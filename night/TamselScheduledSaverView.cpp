@@ -4,6 +4,7 @@
 #include "night/NightSchedule.h"
 #include "night/NightSettings.h"
 #include "night/TamselSolarTimes.h"
+#include "night/TimeRows.h"
 #include "platform/DistributedNotifications.h"
 
 #include <array>
@@ -61,6 +62,7 @@ TamselSolarTimes &TamselScheduledSaverView::solarTimes()
 void TamselScheduledSaverView::solarLocationChanged()
 {
     solarTimes();
+    refreshTimeRows();
     loadSelectedVariant();
 }
 

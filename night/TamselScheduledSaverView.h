@@ -7,7 +7,11 @@
 
 #include <memory>
 
+class QAction;
+class QMenu;
 class TamselSolarTimes;
+class TamselTimeMenu;
+struct TimeRows;
 
 /// The saver that hosts make: its night may begin with today's sunset and end with today's sunrise
 /// instead of at fixed times.
@@ -32,11 +36,37 @@ public:
     /// Stores \p record with the modes chosen in the options sheet.
     void storeNightSettings(const QVariantMap &record) override;
 
-public Q_SLOTS:
+    // The From and To rows of the options sheet: night/SaverTimeRows.cpp
+
+    QWidget *configureSheet() override;
+    void resetSettingsDraft() override;
+    /// Shows in both rows what their modes and the location make of them.
+    void refreshTimeRows();
+    /// With an end that follows the sun no times are invalid.
+    bool validateSchedule() override;
+    /// How the start and the end are chosen in the sheet; empty while there is none.
+    const QStringList &timeModes() const { return m_timeModes; }
+    /// The controls of the rows; null before configureSheet().
+    const TimeRows *timeRows() const { return m_timeRows.get(); }
+
+    /// Another process saved a location: the colours and an open sheet follow at once.
     void solarLocationChanged();
+    void showTimeMenu(TamselTimeMenu *sender);
+    /// \p mode for the row \p row: 0 the start, 1 the end.
+    void selectTimeMode(const QString &mode, int row);
+    /// Opens the companion program that saves the location.
+    void requestSolarLocation();
+    /// Asks for a location instead of saving when the schedule needs one.
+    void saveConfiguration() override;
 
 private:
+    bool hasTimeRows() const;
+    void addTimeRow(int row);
+    void refreshTimeRow(int row);
+    QString timeRowToolTip(int row);
+    void askForLocation();
+
     std::unique_ptr<TamselSolarTimes> m_solar;
-    /// How the start and the end are chosen in the open sheet; empty while there is none.
     QStringList m_timeModes;
+    std::unique_ptr<TimeRows> m_timeRows;
 };

@@ -76,10 +76,9 @@ public:
     /// Takes leave of the service; nothing is reported afterwards.
     void end();
 
-private Q_SLOTS:
-    void locationUpdated(const QDBusObjectPath &before, const QDBusObjectPath &after);
-
 private:
+    Q_SLOT void locationUpdated(const QDBusObjectPath &before, const QDBusObjectPath &after);
+
     using ReplyHandler = std::function<void(const QDBusMessage &reply)>;
 
     QDBusMessage clientCall(QLatin1StringView interface, const QString &method) const;

@@ -127,6 +127,14 @@ ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio)
     return next;
 }
 
+QRegion secondHandArea(const ClockFrame &frame, double ratio)
+{
+    const QRectF clock = QTransform::fromScale(ratio, ratio).mapRect(frame.clockRect);
+    Strips strips;
+    addHand(strips, frame.artwork.secondImage, clock, frame.angles.second);
+    return strips.region() & wholeView(frame, ratio);
+}
+
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio)
 {
     const QRect whole = wholeView(next, ratio);

@@ -17,3 +17,7 @@ ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio)
 /// of two frames: the outlines of the hands that moved, where they were and where they are, or the
 /// whole view. \p ratio is device pixels per point.
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio);
+
+/// The device pixels that the second hand of \p frame covers, and some around them; otherwise as
+/// frameDamage().
+QRegion secondHandArea(const ClockFrame &frame, double ratio);

@@ -1,33 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "saver/ClockFrame.h"
+#include "saver/FrameSurface.h"
 
-#include <QTransform>
+#include <QImage>
 
-#include <optional>
-
-class QRegion;
-
-/// Draws frames to the same pixels as drawFrame(), but only where asked and mostly by copying: all
-/// that stands still for a minute is kept as one picture, and only the second hand is drawn anew.
-/// While a fade runs no picture is kept.
+/// Paints frames to the same pixels as drawFrame(), but by copying from a picture of its own that
+/// is only mended from frame to frame. While a fade runs there is no such picture.
 class FramePainter
 {
 public:
-    /// Draws \p frame inside \p region, which is in the painter's coordinates.
+    /// Paints \p frame inside \p region, which is in the painter's coordinates.
     void paint(QPainter &painter, const ClockFrame &frame, const QRegion &region);
 
 private:
-    /// Makes m_still show what stands still in \p frame. False when no picture is kept: in a fade,
-    /// in a turned painter, without memory.
-    bool keepStill(const ClockFrame &frame, const QTransform &toDevice);
+    bool keepPicture(const ClockFrame &frame, const QTransform &toDevice);
 
-    /// All but the second hand of m_stillFrame as drawn with m_toDevice; its pixels are those of
-    /// the device from m_origin on.
-    QImage m_still;
+    /// The device pixels of the frame, from m_origin on; null while none is kept.
+    QImage m_picture;
     QPoint m_origin;
-    std::optional<ClockFrame> m_stillFrame;
-    QTransform m_toDevice;
+    FrameSurface m_surface;
     FrameScratch m_scratch;
 };

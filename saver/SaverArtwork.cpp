@@ -76,8 +76,7 @@ void TamselClockSaverView::loadNightPalette()
     const QVariantMap &night = m_settings.lastStoredNightSettings;
     const QColor mark = colorFromHexString(night.value(kNightMarkKey).toString());
     m_palette.backgroundColor = colorFromHexString(night.value(kNightBaseKey).toString());
-    m_palette.artwork =
-        artworkFrom([&](const QString &name) { return customImageNamed(name, mark); });
+    m_palette.artwork = customArtwork(mark);
 }
 
 void TamselClockSaverView::loadDayPalette()
@@ -106,8 +105,22 @@ void TamselClockSaverView::loadDayPalette()
 
 void TamselClockSaverView::loadArtworkForVariant(const QString &variant)
 {
-    m_palette.artwork =
-        artworkFrom([&](const QString &name) { return imageForVariant(variant, name); });
+    m_palette.artwork = artworkForVariant(variant);
+}
+
+Artwork TamselClockSaverView::artworkForVariant(const QString &variant) const
+{
+    return artworkFrom([&](const QString &name) { return imageForVariant(variant, name); });
+}
+
+Artwork TamselClockSaverView::customArtwork(const QColor &color) const
+{
+    return artworkFrom([&](const QString &name) { return customImageNamed(name, color); });
+}
+
+QColor TamselClockSaverView::markColorOf(const QString &variant)
+{
+    return variant == "blue"_L1 || variant == "nero"_L1 ? Qt::white : Qt::black;
 }
 
 platform::SvgImage TamselClockSaverView::imageForVariant(const QString &variant,
@@ -119,9 +132,7 @@ platform::SvgImage TamselClockSaverView::imageForVariant(const QString &variant,
 
 void TamselClockSaverView::loadCustomArtwork()
 {
-    const QColor mark = customMarkColor();
-    m_palette.artwork =
-        artworkFrom([&](const QString &name) { return customImageNamed(name, mark); });
+    m_palette.artwork = customArtwork(customMarkColor());
 }
 
 platform::SvgImage TamselClockSaverView::customImageNamed(const QString &name,

@@ -23,7 +23,7 @@ QColor TamselClockSaverView::activeMarkColor()
             m_settings.lastStoredNightSettings.value(kNightMarkKey).toString());
     if (variant == "custom"_L1)
         return customMarkColor();
-    return variant == "blue"_L1 || variant == "nero"_L1 ? Qt::white : Qt::black;
+    return markColorOf(variant);
 }
 
 double TamselClockSaverView::paletteTransitionTime() const

@@ -7,6 +7,7 @@
 #include "platform/DistributedNotifications.h"
 #include "platform/LoginSession.h"
 #include "saver/FrameDamage.h"
+#include "settings/SettingsSheet.h"
 
 #include <QCoreApplication>
 #include <QPaintEvent>
@@ -52,7 +53,12 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
     loadSelectedVariant();
 }
 
-TamselClockSaverView::~TamselClockSaverView() = default;
+TamselClockSaverView::~TamselClockSaverView()
+{
+    if (m_sheet)
+        closeColorPanel();
+    m_sheet.reset();
+}
 
 void TamselClockSaverView::startAnimation()
 {
@@ -67,7 +73,7 @@ void TamselClockSaverView::animateOneFrame()
     if (!isVisible())
         return;
     const double ratio = devicePixelRatioF();
-    ClockFrame next = withDriftHeld(m_shown, nextFrame(), ratio);
+    ClockFrame next = nextFrame();
     update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
     m_shown = std::move(next);
 }
@@ -88,7 +94,7 @@ ClockFrame TamselClockSaverView::nextFrame()
     if (m_settings.calendarEnabled)
         frame.calendar = {calendarRect(),
                           {now.date(), calendarIsPortrait(frame.bounds.size()), QLocale::system()}};
-    return frame;
+    return withDriftHeld(m_shown, std::move(frame), devicePixelRatioF());
 }
 
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)

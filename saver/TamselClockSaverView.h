@@ -13,6 +13,15 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <memory>
+
+class QTimeEdit;
+class TamselHexField;
+class TamselSettingsView;
+class TamselSwatchButton;
+struct SettingsSheet;
+struct SheetState;
+
 /// The palette now loaded.
 struct LoadedPalette
 {
@@ -62,7 +71,8 @@ public:
     void animateOneFrame() override;
     /// Paints the whole view from its state; the reference for what is on screen.
     void drawRect(QPainter &painter, const QRectF &dirtyRect) override;
-    /// All that the frame at this moment shows. Ends a cross-fade that has run its time.
+    /// All that the frame at this moment shows, the drift held as on screen. Ends a cross-fade that
+    /// has run its time.
     ClockFrame nextFrame();
 
     // Variants and artwork: saver/SaverArtwork.cpp
@@ -83,6 +93,12 @@ public:
     /// already loaded.
     void loadSelectedVariant();
     void loadArtworkForVariant(const QString &variant);
+    /// The four layers of a variant's artwork.
+    Artwork artworkForVariant(const QString &variant) const;
+    /// The four layers of the recolourable artwork in \p color.
+    Artwork customArtwork(const QColor &color) const;
+    /// The marks' colour in the artwork of \p variant; black for a variant without artwork.
+    static QColor markColorOf(const QString &variant);
     /// One layer of a variant's artwork; null when the file is missing or unreadable.
     platform::SvgImage imageForVariant(const QString &variant, const QString &name) const;
     void loadCustomArtwork();
@@ -136,6 +152,53 @@ public:
     /// The moment the schedule is evaluated for: now.
     QDateTime scheduleDate() const;
 
+    // The options sheet, built and laid out: settings/SheetConstruction.cpp, SheetVisibility.cpp
+
+    bool hasConfigureSheet() const override { return true; }
+    /// The sheet, owned by this view, built with the first call. A sheet that is not on screen is
+    /// filled from the stored settings first, one that is stays as the user left it. The caller
+    /// shows it and hears by configurationEnded() that it was dismissed.
+    QWidget *configureSheet() override;
+    /// The sheet as it was built; null before configureSheet().
+    const SettingsSheet *settingsSheet() const { return m_sheet.get(); }
+    /// Shows and hides the rows that variant and night mode bring up, moving if the user sees it.
+    void updateCustomControlsVisibility();
+    /// Places the groups and gives the window the height they need.
+    void layoutSettingsDayHeight(double dayHeight, double nightHeight);
+
+    // The draft that the sheet's controls hold: settings/SheetDraft.cpp
+
+    /// Fills the draft from the stored settings.
+    virtual void resetSettingsDraft();
+    QString selectedVariantFromRadioButtons() const;
+    void updateSettingsPreview();
+    /// Whether the schedule may be saved. Marks the end time and disables OK when it may not.
+    virtual bool validateSchedule();
+    void storeCurrentCustomColors();
+    /// Hides the sheet and ends all that runs for it. Its draft is lost with the next opening.
+    void dismissConfiguration();
+
+    // The colours of the draft: settings/ColorEditing.cpp
+
+    /// Null for an unknown key, as is the field.
+    TamselSwatchButton *buttonForColorKey(const QString &key) const;
+    TamselHexField *fieldForColorKey(const QString &key) const;
+    QColor draftColorForKey(const QString &key) const;
+    /// Sets a colour of the draft, rounded to what its hex text can say.
+    void setDraftColor(const QColor &color, const QString &key);
+    QColor currentCustomBaseColor() const;
+    QColor currentCustomMarkColor() const;
+    void setCustomBaseColor(const QColor &color);
+    void setCustomMarkColor(const QColor &color);
+    void setHexField(TamselHexField *field, const QColor &color);
+    /// Moves the mark of the swatch whose editor is open; null for none.
+    void setActiveColorPanelKey(const QString &key);
+    void openFullColorPanel();
+    /// Takes over the field's text, or beeps and restores it when it is no colour.
+    void applyHexField(TamselHexField *field);
+    /// Closes whatever colour editor is open.
+    void closeColorPanel();
+
     const platform::Desktop &desktop() const { return m_desktop; }
     const LoadedPalette &loadedPalette() const { return m_palette; }
     const AppliedSettings &appliedSettings() const { return m_settings; }
@@ -143,15 +206,47 @@ public:
     /// Somebody changed a setting, or the session came back: checks at once.
     void screenSaverPreferencesMayHaveChanged();
 
+    // What the sheet's controls do.
+
+    void variantRadioChanged(TamselSwatchButton *sender);
+    void calendarCheckboxChanged();
+    void nightModeChanged();
+    void previewModeChanged();
+    void scheduleChanged();
+    /// \p palette is "night" or "day".
+    void swapColors(const QString &palette);
+    /// Stores the draft and dismisses the sheet; beeps when the schedule is not valid.
+    virtual void saveConfiguration();
+    void cancelConfiguration();
+    void colorSwatchClicked(TamselSwatchButton *sender);
+    void colorPanelChanged(const QColor &color);
+    void customHexFieldChanged(TamselHexField *field);
+    void controlTextDidEndEditing(QObject *control);
+
+Q_SIGNALS:
+    /// The sheet was dismissed: by OK, the settings stored, or by Cancel.
+    void configurationEnded(bool saved);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    /// Hears of the end of editing in the sheet's text fields.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// The sheet's controls; null while there is no sheet.
+    SettingsSheet *sheet() const;
+    /// Takes the keyboard from a text field of the sheet, which applies what was typed.
+    void endEditing();
 
 private:
     void loadNightPalette();
     void loadDayPalette();
     void reloadPalette(bool nightFlip);
     void postVariantChanged(const QVariantMap &userInfo) const;
+
+    void moveSheet();
+    void applySheetState(const SheetState &state);
+    void applyColor(const QColor &color, const QString &key);
 
     platform::Desktop m_desktop;
     SettingsReader m_stored;
@@ -162,4 +257,5 @@ private:
     /// The frame on screen.
     ClockFrame m_shown;
     FramePainter m_painter;
+    std::unique_ptr<SettingsSheet> m_sheet;
 };

@@ -12,3 +12,5 @@ tamsel_script_test(night_change_check saver/change_check.sh HOME ARGS $<TARGET_F
 tamsel_test(night/test_TamselScheduledSaverView.cpp BUS LIBS tamsel_clock_core)
 tamsel_test(night/test_LocationRequest.cpp BUS LIBS tamsel_clock_core)
 target_compile_definitions(test_LocationRequest PRIVATE TAMSEL_TEST_SOURCES="${CMAKE_CURRENT_SOURCE_DIR}")
+tamsel_script_test(night_sun_snapshot night/sun_snapshot.sh HOME LABELS host
+    ARGS $<TARGET_FILE:tamsel-clock> ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/pelko-location)

@@ -8,3 +8,4 @@ tamsel_test(platform/test_PropertyList.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_PreferenceDomain.cpp LIBS tamsel_platform)
 # Thousands of writes that each reach the disk.
 set_tests_properties(test_PreferenceDomain PROPERTIES TIMEOUT 240)
+tamsel_test(platform/test_PolygonFill.cpp LIBS tamsel_platform)

@@ -1,5 +1,6 @@
 tamsel_test(saver/test_ClockFrame.cpp LIBS tamsel_clock_core)
 tamsel_test(saver/test_TamselClockSaverView.cpp LIBS tamsel_clock_core)
+tamsel_test(saver/test_TamselClockPreviewView.cpp LIBS tamsel_clock_core)
 add_executable(change_check saver/change_check.cpp)
 set_target_properties(change_check PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
 target_compile_definitions(change_check PRIVATE TAMSEL_TEST_BUNDLE="${CMAKE_BINARY_DIR}/${TAMSEL_BUNDLE_DIR}")

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "controls/PopUpMenu.h"
+
+#include "controls/RoundedShape.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include <cmath>
+
+namespace {
+
+constexpr double kFontSize = 13.0;
+constexpr double kRadius = 9.0;
+constexpr double kBorderAlpha = 0.12;
+constexpr double kSeparatorAlpha = 0.1;
+constexpr double kItemRadius = 5.0;
+constexpr double kItemHeight = 24.0;
+constexpr double kSeparatorHeight = 11.0;
+constexpr int kPadding = 5;
+/// Before the title, where the check mark stands, and after it.
+constexpr double kTitleInset = 24.0;
+constexpr double kTitleMargin = 14.0;
+constexpr double kCheckLeft = 8.0;
+
+/// The measures of the menu, whatever the desktop's own style has.
+class MenuStyle final : public QProxyStyle
+{
+public:
+    MenuStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+        if (type != CT_MenuItem || !item)
+            return QProxyStyle::sizeFromContents(type, option, size, widget);
+        if (item->menuItemType == QStyleOptionMenuItem::Separator)
+            return {0, int(kSeparatorHeight)};
+        const double title = QFontMetricsF(item->font).horizontalAdvance(item->text);
+        return {int(std::ceil(kTitleInset + title + kTitleMargin)), int(kItemHeight)};
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        switch (metric) {
+        case PM_MenuPanelWidth:
+            return 0;
+        case PM_MenuHMargin:
+        case PM_MenuVMargin:
+            return kPadding;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+} // namespace
+
+PopUpMenu::PopUpMenu(QWidget *parent) : QMenu(parent)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setWindowFlag(Qt::FramelessWindowHint);
+    setWindowFlag(Qt::NoDropShadowWindowHint);
+    auto *style = new MenuStyle;
+    style->setParent(this);
+    setStyle(style);
+    setFont(platform::systemFont(kFontSize, QFont::Normal));
+    redrawWithAppearance(this);
+}
+
+void PopUpMenu::popUpWithTitleAt(QAction *action, const QPoint &position)
+{
+    sizeHint(); // lays the items out
+    const QRectF item = actionGeometry(action);
+    popup(position - QPointF(item.left() + kTitleInset, item.center().y()).toPoint());
+    setActiveAction(action);
+}
+
+void PopUpMenu::resizeEvent(QResizeEvent *event)
+{
+    QMenu::resizeEvent(event);
+    setMask(roundedShape(size(), kRadius));
+}
+
+void PopUpMenu::paintEvent(QPaintEvent *)
+{
+    const platform::Appearance &appearance = appearanceOf(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(rect(), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setBrush(appearance.windowBackgroundColor());
+    painter.setPen(QPen(withAlpha(appearance.labelColor(), kBorderAlpha), 1.0));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius - 0.5,
+                            kRadius - 0.5);
+    for (const QAction *action : actions())
+        drawItem(painter, *action, actionGeometry(const_cast<QAction *>(action)));
+}
+
+void PopUpMenu::drawItem(QPainter &painter, const QAction &action, const QRectF &item) const
+{
+    const platform::Appearance &appearance = appearanceOf(this);
+    if (action.isSeparator()) {
+        const QRectF line(item.left() + kCheckLeft, item.center().y(),
+                          item.width() - 2.0 * kCheckLeft, 1.0);
+        painter.fillRect(line, withAlpha(appearance.labelColor(), kSeparatorAlpha));
+        return;
+    }
+    const bool active = activeAction() == &action;
+    const QColor ink = active ? appearance.palette().color(QPalette::HighlightedText)
+                              : appearance.controlTextColor();
+    if (active) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(appearance.controlAccentColor());
+        painter.drawRoundedRect(item, kItemRadius, kItemRadius);
+    }
+    painter.setPen(ink);
+    painter.setFont(font());
+    painter.drawText(item.adjusted(kTitleInset, 0.0, 0.0, 0.0),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, action.text());
+    if (!action.isChecked())
+        return;
+    const QPointF corner(item.left() + kCheckLeft, item.center().y());
+    painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(QPolygonF{corner + QPointF(0.0, 0.5), corner + QPointF(3.0, 3.5),
+                                   corner + QPointF(8.5, -3.5)});
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/FileLock.h"
+
+#include <QImage>
+
+class TamselClockSaverView;
+
+namespace platform {
+struct Desktop;
+}
+
+namespace host {
+
+/// The one options sheet that may be on screen for the user's settings.
+class Configuration
+{
+public:
+    /// The objects that \p desktop points to must outlive it.
+    explicit Configuration(const platform::Desktop &desktop);
+
+    /// Whether no other process shows the sheet; none will while this object lives.
+    bool isOnlyOne() const { return m_lock.isHeld(); }
+    /// Asks the process that shows the sheet to bring it to the front.
+    void bringOtherToFront() const;
+
+    /// Shows the sheet of \p view until it is dismissed or the program is told to end. Whether the
+    /// settings were saved.
+    bool run(TamselClockSaverView &view) const;
+
+private:
+    const platform::Desktop &m_desktop;
+    platform::FileLock m_lock;
+};
+
+/// The whole options sheet of \p view, however high the screen is, at \p scale device pixels per
+/// point; a null image when there is not enough memory.
+QImage pictureOfSheet(TamselClockSaverView &view, double scale);
+
+} // namespace host

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include "saver/TamselClockPreviewView.h"
+
+#include "calendar/TamselCalendarLayout.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+#include "platform/Clocks.h"
+#include "saver/PreviewLayout.h"
+
+#include <QAccessibleWidget>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double kFrameInterval = 1.0 / 60.0;
+constexpr double kColorFadeSeconds = 0.28;
+/// Longer than the slide, so that a toggle moved back by this much is over already.
+constexpr double kReducedMotionShift = 2.0;
+constexpr QRgb kOrange = 0xffff9500;
+
+QColor colorOr(const QColor &color, const QColor &fallback)
+{
+    return color.isValid() ? color : fallback;
+}
+
+/// What \p draw paints on an area of \p size points, for a device of \p scale pixels per point.
+template <typename Draw>
+QPixmap pictureOf(const QSize &size, double scale, Draw draw)
+{
+    QPixmap picture((QSizeF(size) * scale).toSize());
+    picture.setDevicePixelRatio(scale);
+    QPainter painter(&picture);
+    draw(painter);
+    return picture;
+}
+
+/// A picture whose controls are found only while they are shown.
+class AccessiblePreview final : public QAccessibleWidget
+{
+public:
+    explicit AccessiblePreview(TamselClockPreviewView *preview)
+        : QAccessibleWidget(preview, QAccessible::Graphic), m_preview(preview)
+    {
+    }
+
+    int childCount() const override
+    {
+        return m_preview->showsModeSelector() ? QAccessibleWidget::childCount() : 0;
+    }
+
+    QAccessibleInterface *child(int index) const override
+    {
+        return m_preview->showsModeSelector() ? QAccessibleWidget::child(index) : nullptr;
+    }
+
+private:
+    TamselClockPreviewView *m_preview;
+};
+
+QAccessibleInterface *accessiblePreview(const QString &, QObject *object)
+{
+    auto *preview = qobject_cast<TamselClockPreviewView *>(object);
+    return preview ? new AccessiblePreview(preview) : nullptr;
+}
+
+void installPreviewAccessibility()
+{
+    static const bool installed = (QAccessible::installFactory(accessiblePreview), true);
+    Q_UNUSED(installed)
+}
+
+} // namespace
+
+TamselClockPreviewView::TamselClockPreviewView(const platform::Clocks &clocks, QWidget *parent)
+    : QWidget(parent), m_clocks(clocks), m_pacer(0.0, kFrameInterval)
+{
+    setAccessibleName(QStringLiteral("Clock preview"));
+    installPreviewAccessibility();
+    m_animationTimer.setSingleShot(true);
+    m_animationTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_animationTimer, &QTimer::timeout, this, &TamselClockPreviewView::tick);
+}
+
+void TamselClockPreviewView::setCornerRadius(double radius)
+{
+    m_cornerRadius = radius;
+    update();
+}
+
+void TamselClockPreviewView::startAnimation()
+{
+    if (m_animating)
+        return;
+    m_animating = true;
+    if (isVisible())
+        beginTicking();
+}
+
+void TamselClockPreviewView::stopAnimation()
+{
+    m_animating = false;
+    m_animationTimer.stop();
+}
+
+void TamselClockPreviewView::beginTicking()
+{
+    m_pacer = platform::FramePacer(m_clocks.monotonicSeconds(), kFrameInterval);
+    tick();
+}
+
+void TamselClockPreviewView::tick()
+{
+    m_animationTimer.start(m_pacer.untilNextFrame(m_clocks.monotonicSeconds()));
+    update();
+}
+
+void TamselClockPreviewView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_animating)
+        beginTicking();
+}
+
+void TamselClockPreviewView::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_animationTimer.stop();
+}
+
+void TamselClockPreviewView::setCalendarEnabled(bool enabled)
+{
+    if (enabled == m_calendarEnabled)
+        return;
+    m_calendarStart = calendarProgress();
+    m_calendarTransitionStart = m_clocks.monotonicSeconds();
+    if (!isVisible() || appearanceOf(this).reducedMotion())
+        m_calendarTransitionStart -= kReducedMotionShift;
+    m_calendarEnabled = enabled;
+}
+
+double TamselClockPreviewView::calendarProgress() const
+{
+    const double passed = m_clocks.monotonicSeconds() - m_calendarTransitionStart;
+    const double target = m_calendarEnabled ? 1.0 : 0.0;
+    return m_calendarStart +
+           (target - m_calendarStart) * calendarEase(passed / kCalendarSlideSeconds);
+}
+
+void TamselClockPreviewView::beginColorTransition()
+{
+    if (!isVisible() || m_artwork.faceImage.isNull())
+        return;
+    m_transitionImage =
+        pictureOf(size(), devicePixelRatioF(), [this](QPainter &painter) { drawRect(painter); });
+    m_transitionStart = m_clocks.monotonicSeconds();
+}
+
+ClockFrame TamselClockPreviewView::frame() const
+{
+    const double progress = calendarProgress();
+    const QDateTime now = m_clocks.now();
+    const QRectF area = displayRect();
+    const PreviewLayout layout = previewLayout(area.size(), progress);
+    ClockFrame frame;
+    frame.bounds = area;
+    frame.background = colorOr(m_backgroundColor, QColor::fromRgb(kOrange));
+    frame.mark = colorOr(m_markColor, Qt::black);
+    frame.clockRect = layout.clockRect;
+    frame.angles = TamselClockAnglesForDate(now);
+    frame.artwork = m_artwork;
+    if (progress > 0.0)
+        frame.calendar = {layout.calendarRect,
+                          {now.date(), calendarIsPortrait(area.size()), QLocale::system()}};
+    return frame;
+}
+
+void TamselClockPreviewView::drawRect(QPainter &painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.paint(painter, frame(), rect());
+    if (isFading())
+        drawTransition(painter);
+}
+
+void TamselClockPreviewView::drawTransition(QPainter &painter)
+{
+    const double passed = m_clocks.monotonicSeconds() - m_transitionStart;
+    const double faded = std::min(passed / kColorFadeSeconds, 1.0);
+    painter.setOpacity(1.0 - faded);
+    painter.drawPixmap(rect(), m_transitionImage);
+    painter.setOpacity(1.0);
+    if (faded >= 1.0)
+        m_transitionImage = {};
+}
+
+void TamselClockPreviewView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    if (m_cornerRadius <= 0.0) {
+        drawRect(painter);
+        return;
+    }
+    // A clip would leave the corners ragged; a filled shape has smooth ones.
+    const double scale = painter.deviceTransform().m11();
+    QPixmap picture = pictureOf(size(), scale, [this](QPainter &inside) { drawRect(inside); });
+    picture.setDevicePixelRatio(1.0);
+    QBrush brush(picture);
+    brush.setTransform(QTransform::fromScale(1.0 / scale, 1.0 / scale));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawRoundedRect(rect(), m_cornerRadius, m_cornerRadius);
+}

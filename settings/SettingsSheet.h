@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/TamselColorPopover.h"
+#include "controls/TamselSettingsWindow.h"
+#include "settings/SheetTransition.h"
+
+#include <QHash>
+#include <QPointer>
+#include <QString>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+class PushButton;
+class QLabel;
+class QScrollArea;
+class TamselClockPreviewView;
+class TamselHexField;
+class TamselModeControl;
+class TamselSettingsView;
+class TamselSwatchButton;
+class TamselToggle;
+class TimePicker;
+
+/// The options sheet once it was built. The window owns the controls; the values the user edits are
+/// the controls' own and kept nowhere else.
+struct SettingsSheet
+{
+    /// Takes \p window, unless somebody else destroys it.
+    explicit SettingsSheet(TamselSettingsWindow *window)
+        : configurationSheet(window), m_owned(window)
+    {
+    }
+    SettingsSheet(const SettingsSheet &) = delete;
+    SettingsSheet &operator=(const SettingsSheet &) = delete;
+    ~SettingsSheet() { delete m_owned; }
+
+    /// False once the window is being destroyed, and every control with it.
+    bool isAlive() const { return !m_owned.isNull(); }
+
+    TamselSettingsWindow *configurationSheet;
+    QScrollArea *settingsScroll = nullptr;
+
+    TamselClockPreviewView *customPreviewView = nullptr;
+    TamselModeControl *previewMode = nullptr;
+
+    TamselSettingsView *themeGroup = nullptr;
+    QLabel *themeName = nullptr;
+    /// By variant; exactly one is checked, and that is the draft's variant.
+    QHash<QString, TamselSwatchButton *> variantRadioButtons;
+    TamselSettingsView *dayColorControls = nullptr;
+    QLabel *customBaseLabel = nullptr;
+    QLabel *customMarkLabel = nullptr;
+    TamselSwatchButton *customBaseColorButton = nullptr;
+    TamselSwatchButton *customMarkColorButton = nullptr;
+    TamselHexField *customBaseHexField = nullptr;
+    TamselHexField *customMarkHexField = nullptr;
+
+    TamselSettingsView *calendarGroup = nullptr;
+    TamselToggle *calendarCheckbox = nullptr;
+
+    TamselSettingsView *nightGroup = nullptr;
+    TamselToggle *nightSwitch = nullptr;
+    TamselSettingsView *nightControls = nullptr;
+    TamselSwatchButton *nightBaseColorButton = nullptr;
+    TamselSwatchButton *nightMarkColorButton = nullptr;
+    TamselHexField *nightBaseHexField = nullptr;
+    TamselHexField *nightMarkHexField = nullptr;
+    TimePicker *nightFromPicker = nullptr;
+    TimePicker *nightToPicker = nullptr;
+
+    TamselSettingsView *settingsActions = nullptr;
+    PushButton *saveButton = nullptr;
+
+    /// False until the first layout after the sheet was built or dismissed, which does not move.
+    bool settingsLayoutInitialized = false;
+    /// Runs while the groups grow or shrink, from the first tick on.
+    QTimer settingsLayoutTimer;
+    std::optional<SheetTransition> settingsTransition;
+    std::optional<double> settingsTransitionStart;
+
+    /// The colour key whose editor is open; null when none is.
+    QString activeColorPanelKey;
+    std::unique_ptr<TamselColorPopover> colorPopover;
+    /// To the full colour panel while it works for this sheet.
+    QMetaObject::Connection colorPanelTarget;
+    QMetaObject::Connection colorPanelCloseObserver;
+
+private:
+    QPointer<TamselSettingsWindow> m_owned;
+};

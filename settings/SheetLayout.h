@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRectF>
+
+/// The sheet's design: lengths in points, from the top-left corner.
+inline constexpr double kSheetWidth = 400.0;
+inline constexpr double kSheetCornerRadius = 22.0;
+inline constexpr QRectF kPreviewFrame(28.0, 28.0, 344.0, 196.0);
+inline constexpr double kGroupLeft = 28.0;
+inline constexpr double kGroupWidth = 344.0;
+inline constexpr double kRowHeight = 42.0;
+
+/// A group shows its first row only, or what the first row's control brings up as well.
+inline constexpr double kCollapsedHeight = kRowHeight;
+inline constexpr double kExpandedThemeHeight = 138.0;
+inline constexpr double kExpandedNightHeight = 222.0;
+
+/// Where everything below the preview stands, in the document's coordinates.
+struct SheetLayout
+{
+    QRectF themeGroup;
+    QRectF calendarGroup;
+    QRectF nightGroup;
+    QRectF settingsActions;
+    double contentHeight = 0.0;
+};
+
+/// The layout for a theme group and a night group of these heights.
+SheetLayout sheetLayout(double dayHeight, double nightHeight);
+
+/// The frame of a sheet that stands at \p frame and shall show \p contentHeight: as high as that,
+/// but lower by 70 than \p screen (the part of it that windows may cover), with its top edge where
+/// it was, unless it would reach below the screen.
+QRectF sheetFrame(const QRectF &frame, double contentHeight, const QRectF &screen);

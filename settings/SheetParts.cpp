@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "settings/SheetParts.h"
+
+#include "controls/Symbol.h"
+#include "controls/TamselInputFill.h"
+#include "controls/TamselSeparator.h"
+#include "controls/TamselSettingsView.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+#include "settings/SheetLayout.h"
+
+#include <QLabel>
+#include <QPainter>
+
+namespace {
+
+constexpr double kFontSize = 13.0;
+constexpr double kGroupRadius = 12.0;
+constexpr double kGroupContrast = 0.03;
+constexpr int kDividerLeft = 10;
+constexpr int kDividerWidth = 324;
+
+} // namespace
+
+QFont settingsFont()
+{
+    return platform::systemFont(kFontSize, QFont::Normal);
+}
+
+QLabel *labelWithString(const QString &text, const QRect &frame, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setGeometry(frame);
+    label->setFont(settingsFont());
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label->setTextFormat(Qt::PlainText);
+    setLabelColor(label, &platform::Appearance::labelColor);
+    return label;
+}
+
+void setLabelColor(QLabel *label, QColor (platform::Appearance::*color)() const)
+{
+    followAppearance(label, [label, color] {
+        QPalette colors = label->palette();
+        colors.setColor(QPalette::WindowText, (appearanceOf(label).*color)());
+        label->setPalette(colors);
+    });
+}
+
+TamselSettingsView *settingsGroupIn(QWidget *parent)
+{
+    auto *group = new TamselSettingsView(parent);
+    group->setGeometry(int(kGroupLeft), 0, int(kGroupWidth), int(kCollapsedHeight));
+    group->setGroup(true);
+    group->setGroupRadius(kGroupRadius);
+    group->setGroupContrast(kGroupContrast);
+    return group;
+}
+
+void addSettingsDividerAt(int y, QWidget *view)
+{
+    auto *divider = new TamselSeparator(view);
+    divider->setGeometry(kDividerLeft, y, kDividerWidth, 1);
+}
+
+ConnectorView::ConnectorView(const platform::SvgImage &image, QWidget *parent)
+    : QWidget(parent), m_image(image)
+{
+    redrawWithAppearance(this);
+}
+
+void ConnectorView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    drawTinted(painter, m_image, rect(), TamselInputFill(this));
+}
