@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kLargestSide = 16384; // in device pixels
 constexpr double kLargestScale = 8.0;
+constexpr double kMostIdleMinutes = 24 * 60;
 
 /// The program's options by name; one table for parsing and for the help text.
 struct OptionNames
@@ -24,6 +25,7 @@ struct OptionNames
     QString scale = u"scale"_s;
     QString at = u"at"_s;
     QString preview = u"preview"_s;
+    QString idle = u"idle"_s;
     QString registering = u"register-xscreensaver"_s;
     QString unregistering = u"unregister-xscreensaver"_s;
     QString configure = u"configure"_s;
@@ -52,6 +54,7 @@ void addOptions(QCommandLineParser &parser)
         {n.scale, u"Device pixels per point of the picture."_s, u"N"_s},
         {n.at, u"Local time of the picture, as 2026-03-14T22:08:30.5."_s, u"TIME"_s},
         {n.preview, u"Draw the picture as a settings thumbnail."_s},
+        {n.idle, u"Wait, and show the clock when the user is idle for so long."_s, u"MINUTES"_s},
         {n.registering, u"Enter the clock in the list of savers in ~/.xscreensaver."_s},
         {n.unregistering, u"Take the clock out of that list."_s},
         {n.configure, u"Show the options; ends with 0 after OK, with 3 after Cancel."_s},
@@ -88,6 +91,14 @@ std::optional<double> scaleFrom(const QString &text)
     bool ok = false;
     const double scale = text.toDouble(&ok);
     return ok && scale > 0.0 && scale <= kLargestScale ? std::optional(scale) : std::nullopt;
+}
+
+std::optional<double> idleMinutesFrom(const QString &text)
+{
+    bool ok = false;
+    const double minutes = text.toDouble(&ok);
+    return ok && minutes > 0.0 && minutes <= kMostIdleMinutes ? std::optional(minutes)
+                                                              : std::nullopt;
 }
 
 std::optional<QDateTime> localTimeFrom(const QString &text)
@@ -131,10 +142,15 @@ QString missingCompanion(const QCommandLineParser &parser, const QStringList &de
 QList<std::pair<QString, Mode>> modes()
 {
     const OptionNames &n = names();
-    return {{n.snapshot, Mode::Snapshot},    {n.window, Mode::Window},
-            {n.configure, Mode::Configure},  {n.sheetSnapshot, Mode::SheetSnapshot},
-            {n.registering, Mode::Register}, {n.unregistering, Mode::Unregister},
-            {n.root, Mode::HostWindow},      {n.windowId, Mode::HostWindow}};
+    return {{n.snapshot, Mode::Snapshot},
+            {n.window, Mode::Window},
+            {n.configure, Mode::Configure},
+            {n.sheetSnapshot, Mode::SheetSnapshot},
+            {n.idle, Mode::Idle},
+            {n.registering, Mode::Register},
+            {n.unregistering, Mode::Unregister},
+            {n.root, Mode::HostWindow},
+            {n.windowId, Mode::HostWindow}};
 }
 
 /// Two of them that cannot stand together, as an error text.
@@ -209,6 +225,7 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
     take(parser, n.windowId, windowIdFrom, options.hostWindow, error);
     take(parser, n.size, sizeFrom, options.size, error);
     take(parser, n.scale, scaleFrom, options.scale, error);
+    take(parser, n.idle, idleMinutesFrom, options.idleMinutes, error);
     take(parser, n.at, localTimeFrom, options.at, error);
     for (const QString &name : {n.snapshot, n.sheetSnapshot})
         take(parser, name, fileFrom, options.pictureFile, error);

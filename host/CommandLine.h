@@ -18,6 +18,7 @@ enum class Mode {
     Snapshot,      ///< one frame as a picture
     Configure,     ///< the options sheet
     SheetSnapshot, ///< the options sheet as a picture
+    Idle,          ///< wait for the user to be idle, then every screen
     Register,      ///< enter the clock in XScreenSaver's list of programs
     Unregister,    ///< and take it out again
     Help,
@@ -41,6 +42,8 @@ struct Options
     double scale = 1.0;
     /// The wall clock of a picture; none means now.
     std::optional<QDateTime> at;
+    /// How long the user has to be idle.
+    double idleMinutes = 0.0;
 };
 
 /// A wrong use of the command line, in one line without a final full stop.

@@ -3,7 +3,9 @@
 
 #include "host/Configuration.h"
 #include "host/Display.h"
+#include "host/DisplayLifeline.h"
 #include "host/HostWindow.h"
+#include "host/IdleService.h"
 #include "host/SaverHost.h"
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
@@ -14,11 +16,14 @@
 #include "platform/Desktop.h"
 #include "platform/DisplayServer.h"
 #include "platform/DistributedNotifications.h"
+#include "platform/FileLock.h"
 #include "platform/LoginSession.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QStandardPaths>
 
+#include <chrono>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +33,7 @@ namespace host {
 namespace {
 
 constexpr char kProgramName[] = "tamsel-clock";
+constexpr double kSecondsPerMinute = 60.0;
 
 /// Hosts read our stderr through a pipe and wake up for each line: what Qt has to tell about the
 /// desktop is not for them.
@@ -185,12 +191,16 @@ int inHostWindow(const Options &options, int argc, char **argv)
                                       : failWithoutResources(application);
 }
 
+int failWithoutDisplay()
+{
+    return complainAndFail(u"no display: neither a Wayland compositor nor an X server answers"_s);
+}
+
 int onDisplay(const Options &options, int argc, char **argv)
 {
     const auto qtPlatform = platform::reachablePlatform();
     if (!qtPlatform)
-        return complainAndFail(
-            u"no display: neither a Wayland compositor nor an X server answers"_s);
+        return failWithoutDisplay();
     Application application(argc, argv, *qtPlatform);
     if (!application.hasResources())
         return failWithoutResources(application);
@@ -213,6 +223,42 @@ int print(const QString &text)
 {
     std::fputs(text.toLocal8Bit().constData(), stdout);
     return kSuccess;
+}
+
+/// One waits per session, and a session is known by its display.
+QString idleLockPath()
+{
+    const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
+    QString display = wayland.isEmpty() ? qEnvironmentVariable("DISPLAY") : wayland;
+    display.replace(u'/', u'_');
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+           "/tamsel-clock-idle-%1.lock"_L1.arg(display);
+}
+
+int waitForIdleUser(const Options &options, int argc, char **argv)
+{
+    prepareEnvironment(qgetenv("QT_QPA_PLATFORM"));
+    QCoreApplication application(argc, argv);
+    const TerminationSignals signalsEndIt;
+    const DisplayLifeline display;
+    if (!display.isConnected() || !platform::reachablePlatform())
+        return failWithoutDisplay();
+    const platform::FileLock only(idleLockPath(), std::chrono::milliseconds(0));
+    if (!only.isHeld())
+        return complainAndFail(u"already waiting in this session"_s);
+
+    const platform::Clocks &clocks = platform::systemClocks();
+    const double seconds = options.idleMinutes * kSecondsPerMinute;
+    IdleService service(seconds, idleSources(seconds, clocks),
+                        QCoreApplication::applicationFilePath(), clocks);
+    QObject::connect(&display, &DisplayLifeline::ended, &application,
+                     [] { QCoreApplication::exit(kSuccess); });
+    QObject::connect(&service, &IdleService::helpless, &application, [] {
+        QCoreApplication::exit(
+            complainAndFail(u"nothing in this session tells when the user is idle"_s));
+    });
+    QMetaObject::invokeMethod(&service, &IdleService::start, Qt::QueuedConnection);
+    return QCoreApplication::exec();
 }
 
 int runRegistration(Registration wanted, int argc, char **argv)
@@ -242,6 +288,8 @@ int run(const Options &options, int argc, char **argv)
     case Mode::Snapshot:
     case Mode::SheetSnapshot:
         return asPicture(options, argc, argv);
+    case Mode::Idle:
+        return waitForIdleUser(options, argc, argv);
     case Mode::Register:
         return runRegistration(Registration::Listed, argc, argv);
     case Mode::Unregister:

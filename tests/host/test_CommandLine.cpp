@@ -88,6 +88,9 @@ private Q_SLOTS:
         QTest::newRow("huge picture") << u"--snapshot a --size 9000x10 --scale 2"_s << u"16384"_s;
         QTest::newRow("scale zero") << u"--snapshot a --scale 0"_s << u"'0'"_s;
         QTest::newRow("scale nan") << u"--snapshot a --scale nan"_s << u"nan"_s;
+        QTest::newRow("idle for no time") << u"--idle 0"_s << u"'0'"_s;
+        QTest::newRow("idle for days") << u"--idle 1441"_s << u"1441"_s;
+        QTest::newRow("idle in a window") << u"--idle 5 --window"_s << u"exclude"_s;
         QTest::newRow("no such day") << u"--snapshot a --at 2026-02-30T10:00"_s << u"2026-02-30"_s;
         QTest::newRow("not local time") << u"--snapshot a --at 2026-02-03T10:00Z"_s << u"10:00Z"_s;
         QTest::newRow("time without picture") << u"--at 2026-02-03T10:00"_s << u"--snapshot"_s;

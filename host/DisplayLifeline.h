@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QSocketNotifier>
+
+#include <functional>
+#include <memory>
+
+namespace host {
+
+/// A connection to the session's display that only waits for its end, and so for the session's.
+class DisplayLifeline : public QObject
+{
+    Q_OBJECT
+
+public:
+    DisplayLifeline();
+    ~DisplayLifeline() override;
+
+    bool isConnected() const { return m_end != nullptr; }
+
+Q_SIGNALS:
+    void ended();
+
+private:
+    template <typename Connection>
+    void hold(const std::shared_ptr<Connection> &connection, int descriptor,
+              bool (*isAlive)(Connection *));
+
+    /// Owns the connection through what it is connected to.
+    std::unique_ptr<QSocketNotifier> m_end;
+};
+
+} // namespace host

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "host/GnomeIdleSource.h"
+
+#include <QDBusMessage>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+namespace {
+
+const QString kService = u"org.gnome.Mutter.IdleMonitor"_s;
+const QString kPath = u"/org/gnome/Mutter/IdleMonitor/Core"_s;
+constexpr double kMilliseconds = 1000.0;
+
+} // namespace
+
+GnomeIdleSource::GnomeIdleSource(double idleSeconds) : m_idleSeconds(idleSeconds)
+{
+}
+
+void GnomeIdleSource::start()
+{
+    m_bus.subscribe({kPath, kService, u"WatchFired"_s}, this, [this](const QDBusMessage &signal) {
+        fired(signal.arguments().value(0).toUInt());
+    });
+    // A compositor that starts again knows nothing of the old watches.
+    m_bus.subscribe({u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s},
+                    this, [this](const QDBusMessage &signal) {
+                        const QVariantList names = signal.arguments();
+                        if (names.value(0) == kService && !names.value(2).toString().isEmpty())
+                            watch();
+                    });
+    connect(&m_bus, &platform::MessageBus::connected, this, &GnomeIdleSource::watch);
+}
+
+void GnomeIdleSource::watch()
+{
+    m_activeWatch.reset();
+    if (std::exchange(m_isIdle, false))
+        Q_EMIT becameActive();
+    addWatch(u"AddIdleWatch"_s, {quint64(m_idleSeconds * kMilliseconds)}, m_idleWatch,
+             [this] { Q_EMIT unavailable(); });
+}
+
+void GnomeIdleSource::addWatch(const QString &method, const QVariantList &arguments, Watch &watch,
+                               const std::function<void()> &failed)
+{
+    auto call = QDBusMessage::createMethodCall(kService, kPath, kService, method);
+    call.setAutoStartService(false);
+    call.setArguments(arguments);
+    watch.reset();
+    m_bus.call(call, [this, &watch, failed](const QDBusMessage &reply) {
+        if (reply.type() != QDBusMessage::ReplyMessage) {
+            failed();
+            return;
+        }
+        watch = reply.arguments().value(0).toUInt();
+        Q_EMIT available();
+    });
+}
+
+void GnomeIdleSource::fired(quint32 watch)
+{
+    if (watch == m_idleWatch && !m_isIdle) {
+        m_isIdle = true;
+        // This kind of watch fires once.
+        addWatch(u"AddUserActiveWatch"_s, {}, m_activeWatch, [] {});
+        Q_EMIT becameIdle();
+    } else if (watch == m_activeWatch && m_isIdle) {
+        m_isIdle = false;
+        m_activeWatch.reset();
+        Q_EMIT becameActive();
+    }
+}
+
+} // namespace host

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/IdleSource.h"
+#include "platform/MessageBus.h"
+
+#include <optional>
+
+namespace host {
+
+/// GNOME's compositor, which tells when it has seen no input for a while. Nothing is polled.
+class GnomeIdleSource final : public IdleSource
+{
+    Q_OBJECT
+
+public:
+    explicit GnomeIdleSource(double idleSeconds);
+    void start() override;
+
+private:
+    using Watch = std::optional<quint32>;
+
+    void watch();
+    void addWatch(const QString &method, const QVariantList &arguments, Watch &watch,
+                  const std::function<void()> &failed);
+    void fired(quint32 watch);
+
+    double m_idleSeconds;
+    bool m_isIdle = false;
+    Watch m_idleWatch;
+    Watch m_activeWatch;
+    platform::MessageBus m_bus{platform::MessageBus::Kind::Session};
+};
+
+} // namespace host

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/PolledIdleSource.h"
+#include "platform/MessageBus.h"
+
+namespace host {
+
+/// The desktop's screen saver service, as KDE and others have it on the session bus.
+class ServiceIdleSource final : public PolledIdleSource
+{
+    Q_OBJECT
+
+public:
+    ServiceIdleSource(double idleSeconds, const platform::Clocks &clocks);
+    void start() override;
+
+private:
+    void look() override;
+
+    const platform::Clocks &m_clocks;
+    IdleTimeUnit m_unit;
+    platform::MessageBus m_bus{platform::MessageBus::Kind::Session};
+};
+
+} // namespace host

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/IdleSource.h"
+
+#include <QSocketNotifier>
+
+struct wl_display;
+
+namespace host {
+
+/// The idle notification of Wayland compositors (ext-idle-notify-v1), which heeds what keeps the
+/// screen on by itself. Watches the first seat.
+class WaylandIdleSource final : public IdleSource
+{
+    Q_OBJECT
+
+public:
+    explicit WaylandIdleSource(double idleSeconds);
+    ~WaylandIdleSource() override;
+    void start() override;
+
+private:
+    struct Protocol;
+
+    void dispatch();
+
+    std::unique_ptr<Protocol> m_protocol;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace host

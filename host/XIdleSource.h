@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/PolledIdleSource.h"
+
+struct xcb_connection_t;
+
+namespace host {
+
+/// The screen-saver extension of the X server.
+class XIdleSource final : public PolledIdleSource
+{
+    Q_OBJECT
+
+public:
+    explicit XIdleSource(double idleSeconds);
+    ~XIdleSource() override;
+    void start() override;
+
+private:
+    void look() override;
+
+    xcb_connection_t *m_connection;
+};
+
+} // namespace host
