@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 constexpr double kFontSize = 13.0;
@@ -63,8 +65,8 @@ void addSettingsDividerAt(int y, QWidget *view)
     divider->setGeometry(kDividerLeft, y, kDividerWidth, 1);
 }
 
-ConnectorView::ConnectorView(const platform::SvgImage &image, QWidget *parent)
-    : QWidget(parent), m_image(image)
+ConnectorView::ConnectorView(platform::SvgImage image, QWidget *parent)
+    : QWidget(parent), m_image(std::move(image))
 {
     redrawWithAppearance(this);
 }

@@ -34,7 +34,7 @@ void addSettingsDividerAt(int y, QWidget *view);
 class ConnectorView : public QWidget
 {
 public:
-    ConnectorView(const platform::SvgImage &image, QWidget *parent);
+    ConnectorView(platform::SvgImage image, QWidget *parent);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
