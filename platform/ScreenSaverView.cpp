@@ -3,8 +3,11 @@
 
 #include "platform/Clocks.h"
 
+#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -47,6 +50,11 @@ void ScreenSaverView::tick()
 void ScreenSaverView::drawRect(QPainter &painter, const QRectF &dirtyRect)
 {
     painter.fillRect(dirtyRect, Qt::black);
+}
+
+bool ScreenSaverView::keepsPixels()
+{
+    return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
 void ScreenSaverView::paintEvent(QPaintEvent *event)

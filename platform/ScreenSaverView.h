@@ -44,6 +44,10 @@ public:
     virtual QWidget *configureSheet() { return nullptr; }
 
 protected:
+    /// Whether what was painted stays on the screen where nothing is painted anew. Not so on
+    /// Wayland, where a change of scale starts with an empty buffer that nobody announces.
+    static bool keepsPixels();
+
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -74,7 +74,10 @@ void TamselClockSaverView::animateOneFrame()
         return;
     const double ratio = devicePixelRatioF();
     ClockFrame next = nextFrame();
-    update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
+    if (keepsPixels())
+        update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
+    else
+        update();
     m_shown = std::move(next);
 }
 
