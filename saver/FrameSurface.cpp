@@ -69,7 +69,7 @@ void SecondHand::draw(QImage &image, const ClockFrame &frame, const QTransform &
 QRegion FrameSurface::show(QImage &image, const ClockFrame &frame, const QTransform &toDevice)
 {
     const double ratio = toDevice.m11();
-    const QRegion whole(image.rect());
+    QRegion whole(image.rect());
     QRegion damage = m_shown ? frameDamage(*m_shown, frame, ratio) & whole : whole;
     if (frame.tinted || !canMend(image, frame, toDevice)) {
         const bool isKnown = m_shown && m_size == image.size() && m_toDevice == toDevice;
