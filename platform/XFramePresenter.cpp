@@ -60,8 +60,8 @@ private:
 /// Whether the window's pixels are those of a QImage in RGB32.
 bool hasPlainPixels(const xcb_setup_t &setup, xcb_visualid_t visualId)
 {
-    const auto native = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? XCB_IMAGE_ORDER_LSB_FIRST
-                                                        : XCB_IMAGE_ORDER_MSB_FIRST;
+    const auto native =
+        Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? XCB_IMAGE_ORDER_LSB_FIRST : XCB_IMAGE_ORDER_MSB_FIRST;
     if (setup.image_byte_order != native)
         return false;
     for (auto screen = xcb_setup_roots_iterator(&setup); screen.rem; xcb_screen_next(&screen)) {
@@ -261,8 +261,8 @@ std::unique_ptr<FramePresenter> makeFramePresenter(QWindow &window)
     if (!x || !x->connection())
         return nullptr;
     // The window is known to other connections only when the server has heard of it on Qt's.
-    std::free(xcb_get_input_focus_reply(x->connection(), xcb_get_input_focus(x->connection()),
-                                        nullptr));
+    std::free(
+        xcb_get_input_focus_reply(x->connection(), xcb_get_input_focus(x->connection()), nullptr));
     auto presenter = std::make_unique<XFramePresenter>(xcb_window_t(window.winId()));
     if (!presenter->start())
         return nullptr;

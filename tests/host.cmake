@@ -12,3 +12,7 @@ tamsel_script_test(host_idle host/idle.py BUS ARGS $<TARGET_FILE:tamsel-clock> L
 tamsel_script_test(host_xscreensaver host/xscreensaver.sh ARGS $<TARGET_FILE:tamsel-clock> LABELS host)
 tamsel_script_test(host_follow_settings host/follow_settings.py ARGS $<TARGET_FILE:tamsel-clock> LABELS host)
 tamsel_script_test(host_configure host/configure.py ARGS $<TARGET_FILE:tamsel-clock> LABELS host)
+add_library(display_power MODULE host/display_power.cpp)
+set_target_properties(display_power PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+target_link_libraries(display_power PRIVATE PkgConfig::XCB ${CMAKE_DL_LIBS})
+tamsel_script_test(host_resting host/resting.py ARGS $<TARGET_FILE:tamsel-clock> $<TARGET_FILE:display_power> LABELS host)

@@ -44,36 +44,6 @@ def ways_to_name_the_window():
     window.destroy()
 
 
-def switches(program):
-    """How often the program has waited for something so far."""
-    status = open(f"/proc/{program.pid}/status").read()
-    return int(status.split("\nvoluntary_ctxt_switches:")[1].split()[0])
-
-
-def a_covered_clock_rests():
-    window = host.window(100, 50, 480, 270)
-    program = start("--root", XSCREENSAVER_WINDOW=hex(window.id))
-    wait_for("a picture", lambda: fills(100, 50, 480, 270))
-
-    def waits_per_second():
-        before = switches(program)
-        time.sleep(1)
-        return switches(program) - before
-
-    check(waits_per_second() > 20, "a clock that is seen moves")
-    cover = host.window(90, 40, 600, 400)
-    time.sleep(0.5)
-    check(waits_per_second() < 12, "a covered clock rests")
-    cover.destroy()
-    host.display.sync()
-    wait_for("the picture again", lambda: fills(100, 50, 480, 270), 0.5)
-    shown = window.get_image(0, 0, 480, 270, X.ZPixmap, 0xFFFFFFFF).data
-    wait_for("the hand moving", lambda: window.get_image(0, 0, 480, 270, X.ZPixmap, 0xFFFFFFFF).data != shown, 0.5)
-    check(waits_per_second() > 20, "a clock that is seen again moves")
-    stop(program, signal.SIGTERM)
-    window.destroy()
-
-
 def sizes_follow_the_window():
     window = host.window()
     program = start("--root", XSCREENSAVER_WINDOW=hex(window.id))
@@ -151,7 +121,6 @@ def the_root_window_is_drawn_when_no_other_is_named():
 
 
 ways_to_name_the_window()
-a_covered_clock_rests()
 sizes_follow_the_window()
 fractional_density_leaves_no_strip()
 the_host_keeps_pointer_and_clicks()
