@@ -17,6 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Of the second hand, at 30 frames a second.
+constexpr double kDegreesPerFrame = 0.2;
+
 Artwork orangeArtwork()
 {
     const platform::Bundle bundle(QStringLiteral(TAMSEL_TEST_BUNDLE));
@@ -70,13 +73,19 @@ void paint(benchmark::State &state, bool whole)
     ClockFrame shown = frameOf(surface.size());
     FramePainter framePainter;
     framePainter.paint(painter, shown, surface.rect());
+    qsizetype pixels = 0;
     for (auto _ : state) {
         ClockFrame next = shown;
-        next.angles.second += 0.2;
+        next.angles.second += kDegreesPerFrame;
         const QRegion damage = whole ? QRegion(surface.rect()) : frameDamage(shown, next, 1.0);
         framePainter.paint(painter, next, damage);
         shown = next;
+        for (const QRect &rect : damage)
+            pixels += qsizetype(rect.width()) * rect.height();
     }
+    // What a presenter has to bring to the screen.
+    state.counters["pixels"] =
+        benchmark::Counter(double(pixels), benchmark::Counter::kAvgIterations);
 }
 
 void artworkLoad(benchmark::State &state)

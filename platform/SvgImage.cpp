@@ -17,7 +17,7 @@ namespace {
 /// Rows and columns of the picture in which ink is looked for.
 constexpr int kInkGrid = 512;
 /// Cells by which a box may be wider than the narrowest of its rows.
-constexpr int kInkSlack = 2;
+constexpr int kInkSlack = 10;
 
 /// Cells left to right, the right one exclusive; empty when the row has no ink.
 struct InkRow

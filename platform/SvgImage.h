@@ -28,7 +28,7 @@ public:
     /// Draws the whole picture into \p rect, source-over. A null image draws nothing.
     void draw(QPainter &painter, const QRectF &rect) const;
 
-    /// Boxes that together cover all ink of the picture, tight to about 1/500 of its side, in a
+    /// Boxes that together cover all ink of the picture, tight to about 1/50 of its side, in a
     /// unit square. Meant for a slender picture whose ink stands upright. Found when first asked
     /// for.
     const std::vector<QRectF> &inkBoxes() const;

@@ -79,7 +79,8 @@ void TamselClockSaverView::postVariantChanged(const QVariantMap &userInfo) const
 void TamselClockSaverView::reloadVariantIfNeeded()
 {
     const StoredSettings &stored = m_stored.current();
-    const bool nightNow = nightActiveAtDate(scheduleDate(), stored.nightSettings);
+    const bool nightNow =
+        stored.nightEnabled && nightActiveAtDate(scheduleDate(), stored.nightSettings);
     const bool nightShown = m_palette.activeVariant == "night"_L1;
     const bool nightFlip = nightNow != nightShown;
     const bool nightChanged =

@@ -52,10 +52,13 @@ std::optional<QVariantMap> nightFrom(const StoreContents &contents)
 
 StoredSettings settingsFrom(const StoreContents &contents)
 {
-    return {variantFrom(contents), calendarFrom(contents),
+    const QVariantMap night = normalizedNightSettings(nightFrom(contents));
+    return {variantFrom(contents),
+            calendarFrom(contents),
             colorFromHexString(firstText(contents, kCustomBaseColorKey)),
             colorFromHexString(firstText(contents, kCustomMarkColorKey)),
-            normalizedNightSettings(nightFrom(contents))};
+            night,
+            booleanSetting(night.value(kNightEnabledKey))};
 }
 
 SettingsReader::SettingsReader(PreferenceStores stores) : m_stores(std::move(stores))

@@ -29,6 +29,8 @@ struct StoredSettings
     QColor customMarkColor;
     /// A night record with all its keys.
     QVariantMap nightSettings;
+    /// What the record says of it.
+    bool nightEnabled = false;
 };
 
 /// Reads the settings out of \p contents. A text that is empty, and a value of another type than a

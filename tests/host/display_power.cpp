@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Loaded into the program before the X library: tells it that the display is off as long as the file
-// named by DISPLAY_IS_OFF exists.
+// Loaded into the program before the X library: tells it that the display is off as long as the
+// file named by DISPLAY_IS_OFF exists.
 #include <dlfcn.h>
 #include <unistd.h>
 #include <xcb/dpms.h>
@@ -12,7 +12,8 @@ namespace {
 
 unsigned powerQuestion = 0;
 
-template <typename Function> Function *original(const char *name)
+template <typename Function>
+Function *original(const char *name)
 {
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }

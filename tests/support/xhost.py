@@ -28,8 +28,8 @@ def check(condition, what):
         sys.exit(f"FAILED: {what}")
 
 
-def start_x_server(*arguments):
-    """Starts Xvfb on a free display, points DISPLAY to it and returns the display's name."""
+def launch_x_server(*arguments):
+    """Starts Xvfb on a free display, points DISPLAY to it and returns its process."""
     read_end, write_end = os.pipe()
     server = subprocess.Popen(
         ["Xvfb", "-displayfd", str(write_end), "-noreset", "-nolisten", "tcp", *arguments],
@@ -40,7 +40,13 @@ def start_x_server(*arguments):
     atexit.register(server.wait)
     atexit.register(server.terminate)
     os.environ["DISPLAY"] = f":{number}"
-    return f":{number}"
+    return server
+
+
+def start_x_server(*arguments):
+    """As launch_x_server, but returns the display's name."""
+    launch_x_server(*arguments)
+    return os.environ["DISPLAY"]
 
 
 class Host:

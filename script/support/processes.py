@@ -1,0 +1,164 @@
+# SPDX-License-Identifier: MIT
+"""What whole programs cost on an X server: CPU of client and server, wake-ups, start, memory."""
+import contextlib
+import os
+import pathlib
+import plistlib
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+from dataclasses import dataclass
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent.parent / "tests" / "support"))
+import xhost  # noqa: E402
+
+NO_COLOUR = (255, 0, 255)
+SETTLING_SECONDS = 2.0
+FADE_SECONDS = 3.0
+HACKS = pathlib.Path("/usr/libexec/xscreensaver")
+NIGHT = {"from": 0, "to": 1439, "fromMode": "custom", "toMode": "custom"}
+
+
+@dataclass
+class Usage:
+    """Per cent of one core, and how often the client wakes up in a second."""
+    client: float
+    server: float
+    wakes: float
+
+    @property
+    def total(self):
+        return self.client + self.server
+
+
+@dataclass
+class Start:
+    """Seconds to the first frame, and peak memory in MiB."""
+    clock: float
+    empty: float
+    clock_peak: float
+    empty_peak: float
+
+
+def on_display():
+    return {k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"}
+
+
+def consumed(pid):
+    """CPU seconds and wake-ups of all threads of a process so far."""
+    seconds = wakes = 0
+    for task in pathlib.Path(f"/proc/{pid}/task").iterdir():
+        seconds += int((task / "schedstat").read_text().split()[0]) / 1e9
+        wakes += int(re.search(r"\nvoluntary_ctxt_switches:\s*(\d+)", (task / "status").read_text())[1])
+    return seconds, wakes
+
+
+def usage(command, server, seconds):
+    program = subprocess.Popen(command, env=on_display(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    time.sleep(SETTLING_SECONDS)
+    begin = time.monotonic()
+    (client_before, wakes_before), (server_before, _) = consumed(program.pid), consumed(server)
+    time.sleep(seconds)
+    (client, wakes), (served, _) = consumed(program.pid), consumed(server)
+    passed = time.monotonic() - begin
+    program.terminate()
+    program.wait()
+    return Usage(100 * (client - client_before) / passed, 100 * (served - server_before) / passed,
+                 (wakes - wakes_before) / passed)
+
+
+def store(settings):
+    """Stores settings as another process would."""
+    folder = pathlib.Path(os.environ["XDG_CONFIG_HOME"]) / "tamsel-clock"
+    folder.mkdir(exist_ok=True)
+    with tempfile.NamedTemporaryFile(dir=folder, delete=False) as file:
+        plistlib.dump(settings, file)
+    os.replace(file.name, folder / "org.tamsel.VornakClockSaver.plist")
+
+
+@contextlib.contextmanager
+def stored(settings):
+    store(settings)
+    yield
+    store({})
+
+
+@contextlib.contextmanager
+def fading():
+    """Night and day in turns, each as soon as the fade to the last one is over."""
+    end = threading.Event()
+
+    def flip():
+        enabled = True
+        while not end.wait(FADE_SECONDS):
+            store({"NightSettings": {**NIGHT, "enabled": enabled}})
+            enabled = not enabled
+    flipping = threading.Thread(target=flip)
+    flipping.start()
+    yield
+    end.set()
+    flipping.join()
+    store({})
+
+
+def usages(build, width, height, pixels, rounds, seconds):
+    """The least usage of each program by name, measured in turns."""
+    size = f"{width}x{height}"
+    floor = build / "benchmarks" / "floor"
+    clock = [build / "bin" / "tamsel-clock"]
+    cases = {
+        "floor": ([floor, size, str(pixels)], contextlib.nullcontext),
+        "floor: 420 x 420 pixels": ([floor, size, str(420 * 420)], contextlib.nullcontext),
+        "the clock": (clock, contextlib.nullcontext),
+        "the clock with calendar": (clock, lambda: stored({"CalendarEnabled": True})),
+        "the clock in a fade": (clock, fading),
+        "the clock as a thumbnail": ([*clock, "--window", "--size", "240x135"], contextlib.nullcontext),
+        "xclock -render": (["xclock", "-analog", "-render", "-update", "0.033", "-geometry", f"{size}+0+0"],
+                           contextlib.nullcontext),
+        "swisswatch": (["swisswatch", "-tick", "0.033", "-geometry", f"{size}+0+0"], contextlib.nullcontext),
+        "fuzzyflakes": ([HACKS / "fuzzyflakes", "-root"], contextlib.nullcontext),
+    }
+    server = xhost.launch_x_server("-screen", "0", f"{size}x24").pid
+    least = {}
+    for _ in range(rounds):
+        for name, (command, around) in cases.items():
+            if not shutil.which(command[0]):
+                sys.exit(f"{command[0]} is not installed")
+            with around():
+                measured = usage(command, server, seconds)
+            least[name] = min(least.get(name, measured), measured, key=lambda u: u.total)
+    return least
+
+
+def first_frame(command, host):
+    """Seconds from starting a program to its first picture in a host's window, and its peak memory in MiB."""
+    window = host.window(0, 0, 1920, 1080)
+    start = time.monotonic()
+    program = subprocess.Popen(command, env={**on_display(), "XSCREENSAVER_WINDOW": hex(window.id)})
+    while host.pixel(5, 5) == NO_COLOUR:
+        time.sleep(0.001)
+    seconds = time.monotonic() - start
+    time.sleep(0.5)
+    status = pathlib.Path(f"/proc/{program.pid}/status").read_text()
+    peak = int(status.split("VmHWM:")[1].split()[0]) / 1024
+    program.send_signal(signal.SIGTERM)
+    program.wait()
+    window.destroy()
+    host.display.sync()
+    return seconds, peak
+
+
+def starts(build, times):
+    xhost.start_x_server("-screen", "0", "1920x1080x24")
+    host = xhost.Host()
+    # In turns, so that a busy moment of the machine meets both.
+    pairs = [(first_frame([build / "bin" / "tamsel-clock", "--root"], host),
+              first_frame([build / "benchmarks" / "empty_window"], host)) for _ in range(times)]
+    clocks, empties = zip(*pairs)
+    return Start(min(s for s, _ in clocks), min(s for s, _ in empties),
+                 min(m for _, m in clocks), min(m for _, m in empties))
