@@ -135,6 +135,9 @@ bool SaverHost::isUserComingBack(QEvent *event)
         return true;
     case QEvent::Enter:
     case QEvent::MouseMove:
+        // Where screens and windows come and go under the pointer it is not a person that moves it.
+        if (event->type() == QEvent::Enter || m_settled.isActive())
+            m_pointer = PointerGuard();
         return m_pointer.movedOnPurpose(static_cast<QSinglePointEvent *>(event)->globalPosition(),
                                         m_clocks.monotonicSeconds());
     default:
