@@ -35,8 +35,8 @@ QList<QScreen *> distinctScreens()
     return distinct;
 }
 
-/// A pointer without a picture. Qt's blank cursor will not do: on Wayland one that is set before the
-/// pointer enters is taken for set already when it enters, and the compositor's arrow stays.
+/// A pointer without a picture. Qt's blank cursor will not do: on Wayland one that is set before
+/// the pointer enters is taken for set already when it enters, and the compositor's arrow stays.
 QCursor invisiblePointer()
 {
     QPixmap nothing(1, 1);
