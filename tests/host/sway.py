@@ -74,11 +74,11 @@ def plug_in(x):
 
 def is_covered(window):
     """Whether the output's pixels are paper up to its corners, with the marks of XII and III where they belong."""
-    place = window.get_geometry()
-    width, height = place.width, place.height
+    area = window.get_geometry()
+    width, height = area.width, area.height
 
     def at(colour, x, y):
-        return host.shows(colour, place.x + int(x), place.y + int(y))
+        return host.shows(colour, area.x + int(x), area.y + int(y))
     return (at(ORANGE, 1, 1) and at(ORANGE, width - 2, height - 2)
             and at(BLACK, width / 2, 0.145 * height) and at(ORANGE, width / 2, 0.05 * height)
             and at(BLACK, width / 2 + 0.355 * height, height / 2)
