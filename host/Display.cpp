@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/Display.h"
 
-#include "host/XcbReply.h"
+#include "platform/XcbReply.h"
 
 #include <xcb/xcb.h>
 
@@ -37,7 +37,7 @@ private:
 std::optional<xcb_window_t> windowProperty(xcb_connection_t *connection, xcb_window_t window,
                                            xcb_atom_t name)
 {
-    const XcbReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+    const platform::XcbReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
         connection, xcb_get_property(connection, 0, window, name, XCB_ATOM_WINDOW, 0, 1), nullptr));
     if (!reply || xcb_get_property_value_length(reply.get()) != int(sizeof(xcb_window_t)))
         return std::nullopt;
@@ -53,9 +53,9 @@ std::optional<quint32> xRootWindow()
         return std::nullopt;
     const xcb_window_t root = x.root();
     constexpr char kVirtualRoot[] = "__SWM_VROOT";
-    const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
+    const platform::XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
         x.get(), xcb_intern_atom(x.get(), 1, sizeof kVirtualRoot - 1, kVirtualRoot), nullptr));
-    const XcbReply<xcb_query_tree_reply_t> tree(
+    const platform::XcbReply<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(x.get(), xcb_query_tree(x.get(), root), nullptr));
     if (!atom || atom->atom == XCB_ATOM_NONE || !tree)
         return root;
@@ -72,7 +72,7 @@ bool xWindowExists(quint32 id)
     const XConnection x;
     if (!x.answers())
         return false;
-    const XcbReply<xcb_get_window_attributes_reply_t> attributes(
+    const platform::XcbReply<xcb_get_window_attributes_reply_t> attributes(
         xcb_get_window_attributes_reply(x.get(), xcb_get_window_attributes(x.get(), id), nullptr));
     return attributes && attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
 }

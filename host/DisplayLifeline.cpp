@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/DisplayLifeline.h"
 
-#include "host/XcbReply.h"
+#include "platform/XcbReply.h"
 
 #include <wayland-client-core.h>
 #include <xcb/xcb.h>
@@ -17,7 +17,7 @@ bool waylandIsAlive(wl_display *display)
 
 bool xIsAlive(xcb_connection_t *connection)
 {
-    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection)})
+    while (const platform::XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection)})
         continue;
     return xcb_connection_has_error(connection) == 0;
 }

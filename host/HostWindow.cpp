@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/HostWindow.h"
 
-#include "host/XcbReply.h"
 #include "platform/ScreenSaverView.h"
+#include "platform/XcbReply.h"
 
 #include <QGuiApplication>
 #include <QWindow>
@@ -24,12 +24,13 @@ xcb_connection_t *connection()
 /// is gone.
 bool selectStructureEvents(xcb_window_t window)
 {
-    const XcbReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-        connection(), xcb_get_window_attributes(connection(), window), nullptr));
+    const platform::XcbReply<xcb_get_window_attributes_reply_t> attributes(
+        xcb_get_window_attributes_reply(connection(),
+                                        xcb_get_window_attributes(connection(), window), nullptr));
     if (!attributes)
         return false;
     const uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    const XcbReply<xcb_generic_error_t> error(xcb_request_check(
+    const platform::XcbReply<xcb_generic_error_t> error(xcb_request_check(
         connection(),
         xcb_change_window_attributes_checked(connection(), window, XCB_CW_EVENT_MASK, &mask)));
     return !error;
@@ -38,7 +39,7 @@ bool selectStructureEvents(xcb_window_t window)
 /// The window's size in device pixels; empty when it is gone.
 QSize windowSize(xcb_window_t window)
 {
-    const XcbReply<xcb_get_geometry_reply_t> geometry(
+    const platform::XcbReply<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(connection(), xcb_get_geometry(connection(), window), nullptr));
     return geometry ? QSize(geometry->width, geometry->height) : QSize();
 }

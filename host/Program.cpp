@@ -47,6 +47,8 @@ void prepareEnvironment(const QByteArray &qtPlatform)
 {
     qputenv("QT_QPA_PLATFORM", qtPlatform);
     qunsetenv("SESSION_MANAGER");
+    // The plain event loop wakes up and runs at less cost.
+    qputenv("QT_NO_GLIB", "1");
     // Without a bus the D-Bus library would launch a daemon of its own that stays behind for ever.
     const bool hasRuntimeBus =
         QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);

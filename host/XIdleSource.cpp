@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/XIdleSource.h"
 
-#include "host/XcbReply.h"
+#include "platform/XcbReply.h"
 
 #include <xcb/screensaver.h>
 
@@ -39,8 +39,9 @@ void XIdleSource::start()
 void XIdleSource::look()
 {
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-    const XcbReply<xcb_screensaver_query_info_reply_t> info(xcb_screensaver_query_info_reply(
-        m_connection, xcb_screensaver_query_info(m_connection, root), nullptr));
+    const platform::XcbReply<xcb_screensaver_query_info_reply_t> info(
+        xcb_screensaver_query_info_reply(m_connection,
+                                         xcb_screensaver_query_info(m_connection, root), nullptr));
     if (info)
         taken(info->ms_since_user_input * kMillisecond);
     else

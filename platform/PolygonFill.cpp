@@ -3,7 +3,7 @@
 
 #include <QImage>
 #include <QPolygonF>
-#include <QRegion>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -19,13 +19,16 @@ QPointF onCornerGrid(const QPointF &corner)
     return {std::round(corner.x() * kGrid) / kGrid, std::round(corner.y() * kGrid) / kGrid};
 }
 
-/// Coverage 0 to 255 of a pixel around which the outline winds \p winding times on average, rounded
-/// down before the sign is dropped, as Qt does. What arithmetic leaves behind of a zero is none.
-int coverage(float winding, Qt::FillRule rule)
+/// A whole pixel in the numbers of covered area.
+constexpr int kWhole = 1 << 16;
+
+/// Coverage 0 to 255 of a pixel around which the outline winds \p winding / kWhole times on
+/// average, rounded down before the sign is dropped, as Qt does. What rounding leaves behind of a
+/// zero is none.
+int coverage(int winding, Qt::FillRule rule)
 {
-    constexpr int kAboveZero = 1 << 14;
-    constexpr float kResidue = 1.0F / 64.0F;
-    int covered = std::abs(int(winding * 256.0F + kResidue + kAboveZero) - kAboveZero);
+    constexpr int kResidue = 8;
+    int covered = std::abs((winding + kResidue) >> 8);
     if (rule == Qt::OddEvenFill) {
         covered &= 511;
         if (covered > 256)
@@ -51,96 +54,166 @@ QRgb blended(QRgb below, QRgb color, int coverage)
 
 } // namespace
 
-void PolygonFill::fill(QImage &image, const QRegion &area, const QList<QPolygonF> &outlines,
-                       Qt::FillRule rule, QRgb color)
+void CoveredPixels::keep(const QImage &image, int x, int y, int count)
 {
-    takeEdges(outlines);
-    for (const QRect &rect : area) {
-        accumulate(rect);
-        const float *growth = m_growth.data();
-        for (int y = rect.top(); y <= rect.bottom(); ++y, growth += rect.width() + 2) {
-            auto *pixels = reinterpret_cast<QRgb *>(image.scanLine(y)) + rect.x();
-            float winding = 0.0F;
-            for (int x = 0; x < rect.width(); ++x) {
-                winding += growth[x];
-                const int covered = coverage(winding, rule);
-                if (covered == 255)
-                    pixels[x] = color;
-                else if (covered > 0)
-                    pixels[x] = blended(pixels[x], color, covered);
-            }
+    const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y)) + x;
+    m_runs.push_back({x, y, count});
+    m_pixels.insert(m_pixels.end(), row, row + count);
+}
+
+void CoveredPixels::restore(QImage &image)
+{
+    uchar *const bits = image.bits();
+    const QRgb *pixels = m_pixels.data() + m_pixels.size();
+    for (auto run = m_runs.rbegin(); run != m_runs.rend(); ++run) {
+        pixels -= run->count;
+        auto *row = reinterpret_cast<QRgb *>(bits + run->y * image.bytesPerLine());
+        std::copy_n(pixels, run->count, row + run->x);
+    }
+    clear();
+}
+
+void CoveredPixels::clear()
+{
+    m_runs.clear();
+    m_pixels.clear();
+}
+
+void PolygonFill::fill(QImage &image, const QList<QPolygonF> &outlines, const QTransform &place,
+                       Qt::FillRule rule, QRgb color, CoveredPixels &covered)
+{
+    takeEdges(outlines, place);
+    m_growth.resize(size_t(image.width()) + 2, 0);
+    m_active.clear();
+    uchar *const bits = image.bits();
+    auto next = m_edges.cbegin();
+    int y = next == m_edges.cend() ? image.height() : std::max(int(next->top), 0);
+    for (; y < image.height(); ++y) {
+        for (; next != m_edges.cend() && next->top < y + 1; ++next) {
+            if (next->bottom > y)
+                m_active.push_back(*next);
         }
+        if (m_active.empty() && next == m_edges.cend())
+            break;
+        accumulateRow(y, image.width());
+        const int end = std::min(m_last + 1, image.width());
+        if (m_first < end)
+            covered.keep(image, m_first, y, end - m_first);
+        auto *pixels = reinterpret_cast<QRgb *>(bits + y * image.bytesPerLine());
+        int winding = 0;
+        for (int x = m_first; x < end; ++x) {
+            winding += m_growth[size_t(x)];
+            const int coveredPart = coverage(winding, rule);
+            if (coveredPart == 255)
+                pixels[x] = color;
+            else if (coveredPart > 0)
+                pixels[x] = blended(pixels[x], color, coveredPart);
+        }
+        if (m_first <= m_last)
+            std::fill(m_growth.begin() + m_first, m_growth.begin() + m_last + 1, 0);
     }
 }
 
 /// Level edges bound no area.
-void PolygonFill::takeEdges(const QList<QPolygonF> &outlines)
+void PolygonFill::takeEdges(const QList<QPolygonF> &outlines, const QTransform &place)
 {
     m_edges.clear();
     for (const QPolygonF &outline : outlines) {
         if (outline.isEmpty())
             continue;
-        QPointF from = onCornerGrid(outline.last());
+        QPointF from = onCornerGrid(place.map(outline.last()));
         for (const QPointF &corner : outline) {
-            const QPointF to = onCornerGrid(corner);
-            if (from.y() != to.y())
-                m_edges.push_back({from, to});
+            const QPointF to = onCornerGrid(place.map(corner));
+            if (from.y() != to.y()) {
+                const bool goesDown = from.y() < to.y();
+                const QPointF upper = goesDown ? from : to;
+                const QPointF lower = goesDown ? to : from;
+                const double slope = (lower.x() - upper.x()) / (lower.y() - upper.y());
+                m_edges.push_back(
+                    {upper.y(), lower.y(), upper.x(), slope, goesDown ? kWhole : -kWhole});
+            }
             from = to;
         }
     }
+    std::sort(m_edges.begin(), m_edges.end(),
+              [](const Edge &a, const Edge &b) { return a.top < b.top; });
 }
 
-/// Sums up what the edges bound to their right in each pixel of \p area; an edge that goes up takes
-/// away what one that goes down adds.
-void PolygonFill::accumulate(const QRect &area)
+/// Sums up what the active edges bound to their right in each pixel of row \p y; an edge that goes
+/// up takes away what one that goes down adds. Edges that end here are no longer active.
+void PolygonFill::accumulateRow(int y, int width)
 {
-    const int stride = area.width() + 2;
-    m_growth.assign(size_t(stride) * size_t(area.height()), 0.0F);
-    for (const Edge &edge : m_edges) {
-        const bool goesDown = edge.from.y() < edge.to.y();
-        const QPointF upper = (goesDown ? edge.from : edge.to) - area.topLeft();
-        const QPointF lower = (goesDown ? edge.to : edge.from) - area.topLeft();
-        const double top = std::max(upper.y(), 0.0);
-        const double bottom = std::min(lower.y(), double(area.height()));
-        const double slope = (lower.x() - upper.x()) / (lower.y() - upper.y());
-        const auto xAt = [&](double y) {
-            const double x = upper.x() + (y - upper.y()) * slope;
-            return float(std::clamp(x, 0.0, double(area.width())));
-        };
-        const int end = int(std::ceil(bottom));
-        for (int y = int(top); y < end; ++y) {
-            const double begin = std::max(top, double(y));
-            const double stop = std::min(bottom, y + 1.0);
-            const double height = goesDown ? stop - begin : begin - stop;
-            accumulateRow(&m_growth[size_t(y) * size_t(stride)], xAt(begin), xAt(stop),
-                          float(height));
-        }
+    m_first = width + 1;
+    m_last = -1;
+    const auto right = float(width);
+    size_t kept = 0;
+    for (Edge &edge : m_active) {
+        const double from = std::max(edge.top, double(y));
+        const double to = std::min(edge.bottom, y + 1.0);
+        const auto enters = float(edge.xAtTop + (from - edge.top) * edge.slope);
+        const auto leaves = float(edge.xAtTop + (to - edge.top) * edge.slope);
+        const int area = int((to - from) * edge.area);
+        if (std::min(enters, leaves) >= 0.0F && std::max(enters, leaves) <= right)
+            accumulate(enters, leaves, area);
+        else
+            accumulateClipped(enters, leaves, area, right);
+        if (edge.bottom > y + 1)
+            m_active[kept++] = edge;
     }
+    m_active.resize(kept);
 }
 
-/// One row's part of an edge. In each pixel it crosses, part of a trapezium lies to its right.
-void PolygonFill::accumulateRow(float *row, float from, float to, float height) const
+/// As accumulate(), for an edge that leaves the picture at its sides.
+void PolygonFill::accumulateClipped(float from, float to, int area, float width)
 {
     const float left = std::min(from, to);
     const float right = std::max(from, to);
+    const float inLeft = std::clamp(left, 0.0F, width);
+    const float inRight = std::clamp(right, 0.0F, width);
+    const auto partOf = [&](float length) {
+        return right > left ? int(float(area) * (length / (right - left))) : 0;
+    };
+    const int atLeft = right <= 0.0F ? area : partOf(std::max(0.0F, -left));
+    const int inside = left >= width || right <= 0.0F ? 0 : partOf(inRight - inLeft);
+    accumulate(0.0F, 0.0F, atLeft);
+    accumulate(inLeft, inRight, inside);
+    accumulate(width, width, area - atLeft - inside);
+}
+
+/// One row's part of an edge, with \p area to its right in a whole pixel. In each pixel it crosses,
+/// part of a trapezium lies to its right.
+void PolygonFill::accumulate(float from, float to, int area)
+{
+    int *row = m_growth.data();
+    const float left = std::min(from, to);
+    const float right = std::max(from, to);
     int x = int(left);
-    if (right <= float(x + 1)) {
-        const float rest = 0.5F * (left + right) - float(x);
-        row[x] += height * (1.0F - rest);
-        row[x + 1] += height * rest;
+    const int last = int(right);
+    m_first = std::min(m_first, x);
+    m_last = std::max(m_last, last + 1);
+    if (x == last) {
+        const int rest = int(float(area) * (0.5F * (left + right) - float(x)));
+        row[x] += area - rest;
+        row[x + 1] += rest;
         return;
     }
-    const float perPixel = height / (right - left);
-    float carried = 0.0F;
-    for (float enters = left; enters < right; ++x) {
-        const float leaves = std::min(float(x + 1), right);
-        const float part = perPixel * (leaves - enters);
-        const float rest = 0.5F * (enters + leaves) - float(x);
-        row[x] += carried + part * (1.0F - rest);
-        carried = part * rest;
-        enters = leaves;
+    const float perPixel = float(area) / (right - left);
+    // Of a pixel wholly crossed, one half lies to the right of the edge in it, the other in the
+    // next.
+    const float inFirst = float(x + 1) - left;
+    int grown = int(0.5F * perPixel * inFirst * inFirst);
+    row[x] += grown;
+    float crossed = perPixel * inFirst;
+    for (++x; x < last; ++x) {
+        const int soFar = int(crossed + 0.5F * perPixel);
+        row[x] += soFar - grown;
+        grown = soFar;
+        crossed += perPixel;
     }
-    row[x] += carried;
+    const float inLast = right - float(last);
+    const int soFar = int(crossed + perPixel * inLast * (1.0F - 0.5F * inLast));
+    row[last] += soFar - grown;
+    row[last + 1] += area - soFar;
 }
 
 } // namespace platform

@@ -2,14 +2,22 @@
 #include "platform/ScreenSaverView.h"
 
 #include "platform/Clocks.h"
+#include "platform/FramePresenter.h"
 
 #include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimerEvent>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
+
+namespace {
+/// Between two looks whether somebody can see the view again.
+constexpr std::chrono::milliseconds kUnseenInterval(250);
+} // namespace
 
 ScreenSaverView::ScreenSaverView(const Clocks &clocks, bool isPreview, QWidget *parent)
     : QWidget(parent), m_clocks(clocks), m_isPreview(isPreview), m_pacer(0.0, m_interval)
@@ -17,10 +25,9 @@ ScreenSaverView::ScreenSaverView(const Clocks &clocks, bool isPreview, QWidget *
     // Every frame covers the whole view, so erasing it first would be work for nothing.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
-    m_timer.setSingleShot(true);
-    m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, &ScreenSaverView::tick);
 }
+
+ScreenSaverView::~ScreenSaverView() = default;
 
 void ScreenSaverView::setAnimationTimeInterval(double seconds)
 {
@@ -31,9 +38,9 @@ void ScreenSaverView::setAnimationTimeInterval(double seconds)
 
 void ScreenSaverView::startAnimation()
 {
-    const double now = m_clocks.monotonicSeconds();
-    m_pacer = FramePacer(now, m_interval);
-    m_timer.start(m_pacer.untilNextFrame(now));
+    m_pacer = FramePacer(m_clocks.monotonicSeconds(), m_interval);
+    m_rests = false;
+    waitForFrame();
 }
 
 void ScreenSaverView::stopAnimation()
@@ -43,8 +50,32 @@ void ScreenSaverView::stopAnimation()
 
 void ScreenSaverView::tick()
 {
-    m_timer.start(m_pacer.untilNextFrame(m_clocks.monotonicSeconds()));
+    if (m_presenter)
+        m_presenter->poll();
+    m_rests = !isSeen();
+    waitForFrame();
     animateOneFrame();
+}
+
+void ScreenSaverView::waitForFrame()
+{
+    const auto wait =
+        m_rests ? kUnseenInterval : m_pacer.untilNextFrame(m_clocks.monotonicSeconds());
+    m_timer.start(int(wait.count()), Qt::PreciseTimer, this);
+}
+
+void ScreenSaverView::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() == m_timer.timerId())
+        tick();
+    else
+        QWidget::timerEvent(event);
+}
+
+bool ScreenSaverView::isSeen() const
+{
+    const QWindow *handle = window()->windowHandle();
+    return isVisible() && handle && handle->isExposed() && (!m_presenter || m_presenter->isSeen());
 }
 
 void ScreenSaverView::drawRect(QPainter &painter, const QRectF &dirtyRect)
@@ -55,6 +86,38 @@ void ScreenSaverView::drawRect(QPainter &painter, const QRectF &dirtyRect)
 bool ScreenSaverView::keepsPixels()
 {
     return !QGuiApplication::platformName().startsWith("wayland"_L1);
+}
+
+void ScreenSaverView::dropPresenter()
+{
+    m_presenter.reset();
+    setAttribute(Qt::WA_PaintOnScreen, false);
+    update();
+}
+
+bool ScreenSaverView::event(QEvent *event)
+{
+    // The window that was presented to is gone.
+    if (event->type() == QEvent::WinIdChange && m_presenter)
+        dropPresenter();
+    // What is to be painted may be seen.
+    if (event->type() == QEvent::Paint && m_rests && isAnimating())
+        ScreenSaverView::startAnimation();
+    return QWidget::event(event);
+}
+
+void ScreenSaverView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (isWindow() && !m_presenter)
+        m_presenter = makeFramePresenter(*windowHandle());
+    setAttribute(Qt::WA_PaintOnScreen, m_presenter != nullptr);
+}
+
+/// Of a presented view nothing is left for Qt to paint.
+QPaintEngine *ScreenSaverView::paintEngine() const
+{
+    return m_presenter ? nullptr : QWidget::paintEngine();
 }
 
 void ScreenSaverView::paintEvent(QPaintEvent *event)

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "saver/FrameDamage.h"
 
-#include <QPolygonF>
 #include <QTransform>
+#include <QVarLengthArray>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <map>
+#include <limits>
+#include <vector>
 
 namespace {
 
@@ -15,7 +17,7 @@ constexpr double kDriftStep = 1.0 / 64.0;
 
 /// Rows of the strips that a hand is covered with. Lower strips follow a slanting hand more
 /// closely, fewer are quicker to present.
-constexpr int kStripRows = 32;
+constexpr int kStripRows = 64;
 
 /// An antialiased edge colours the pixels it touches; one more absorbs rounding.
 constexpr double kInkMargin = 1.0;
@@ -33,22 +35,34 @@ bool staysPut(const QRectF &a, const QRectF &b, double ratio)
 class Strips
 {
 public:
-    /// \p shape is convex.
-    void add(const QPolygonF &shape)
+    explicit Strips(const QRect &view)
+        : m_view(view), m_firstStrip(stripAt(view.top())),
+          m_boxes(size_t(stripAt(view.bottom()) - m_firstStrip + 1))
     {
-        const QRectF box = shape.boundingRect();
-        const int last = stripAt(box.bottom() + kInkMargin);
-        for (int strip = stripAt(box.top() - kInkMargin); strip <= last; ++strip)
-            addPart(shape, strip);
+    }
+
+    /// \p corners are those of a convex shape, in turn.
+    void add(const std::array<QPointF, 4> &corners)
+    {
+        const auto [highest, lowest] =
+            std::minmax_element(corners.begin(), corners.end(),
+                                [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
+        const int last =
+            std::min(stripAt(lowest->y() + kInkMargin), m_firstStrip + int(m_boxes.size()) - 1);
+        for (int strip = std::max(stripAt(highest->y() - kInkMargin), m_firstStrip); strip <= last;
+             ++strip)
+            addPart(corners, strip);
     }
 
     QRegion region() const
     {
-        QList<QRect> rects;
-        for (const auto &[strip, box] : m_boxes) {
-            const QRect rows(box.toAlignedRect().x(), strip * kStripRows,
-                             box.toAlignedRect().width(), kStripRows);
-            rects.append(box.toAlignedRect() & rows);
+        QVarLengthArray<QRect, 128> rects;
+        int strip = m_firstStrip;
+        for (const Box &box : m_boxes) {
+            const QRect rows(m_view.x(), strip++ * kStripRows, m_view.width(), kStripRows);
+            const QRect pixels = box.pixels() & rows & m_view;
+            if (!pixels.isEmpty())
+                rects.append(pixels);
         }
         QRegion region;
         region.setRects(rects.constData(), int(rects.size()));
@@ -56,33 +70,61 @@ public:
     }
 
 private:
+    struct Box
+    {
+        double left = std::numeric_limits<double>::max();
+        double top = std::numeric_limits<double>::max();
+        double right = std::numeric_limits<double>::lowest();
+        double bottom = std::numeric_limits<double>::lowest();
+
+        void add(double x, double y)
+        {
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
+        }
+
+        QRect pixels() const
+        {
+            if (left > right)
+                return {};
+            return QRectF(QPointF(left, top), QPointF(right, bottom))
+                .adjusted(-kInkMargin, -kInkMargin, kInkMargin, kInkMargin)
+                .toAlignedRect();
+        }
+    };
+
     static int stripAt(double y) { return int(std::floor(y / kStripRows)); }
 
-    /// Adds what of \p shape colours pixels of the strip.
-    void addPart(const QPolygonF &shape, int strip)
+    /// Adds what of the shape colours pixels of the strip.
+    void addPart(const std::array<QPointF, 4> &corners, int strip)
     {
         const double top = strip * kStripRows - kInkMargin;
         const double bottom = (strip + 1) * kStripRows + kInkMargin;
-        QPolygonF part;
-        for (qsizetype i = 0; i < shape.size(); ++i) {
-            QPointF upper = shape[i];
-            QPointF lower = shape[(i + 1) % shape.size()];
+        Box &box = m_boxes[size_t(strip - m_firstStrip)];
+        for (size_t i = 0; i < corners.size(); ++i) {
+            QPointF upper = corners[i];
+            QPointF lower = corners[(i + 1) % corners.size()];
             if (upper.y() > lower.y())
                 std::swap(upper, lower);
             if (lower.y() < top || upper.y() > bottom)
                 continue;
             const double height = lower.y() - upper.y();
-            const auto at = [&](double y) {
-                return height > 0.0 ? upper + (y - upper.y()) / height * (lower - upper) : upper;
+            const auto addAt = [&](double y) {
+                const double along = height > 0.0 ? (y - upper.y()) / height : 0.0;
+                box.add(upper.x() + along * (lower.x() - upper.x()), y);
             };
-            part << at(std::max(top, upper.y()));
-            part << (height > 0.0 ? at(std::min(bottom, lower.y())) : lower);
+            addAt(std::max(top, upper.y()));
+            addAt(std::min(bottom, lower.y()));
+            if (height == 0.0)
+                box.add(lower.x(), lower.y());
         }
-        m_boxes[strip] |=
-            part.boundingRect().adjusted(-kInkMargin, -kInkMargin, kInkMargin, kInkMargin);
     }
 
-    std::map<int, QRectF> m_boxes;
+    QRect m_view;
+    int m_firstStrip;
+    std::vector<Box> m_boxes;
 };
 
 /// The outline of \p hand turned by \p degrees in a clock at \p clock (device pixels).
@@ -93,8 +135,10 @@ void addHand(Strips &strips, const platform::SvgImage &hand, const QRectF &clock
     place.rotate(degrees);
     place.scale(clock.width(), clock.height());
     place.translate(-0.5, -0.5);
-    for (const QRectF &box : hand.inkBoxes())
-        strips.add(place.map(QPolygonF(box)));
+    for (const QRectF &box : hand.inkBoxes()) {
+        strips.add({place.map(box.topLeft()), place.map(box.topRight()),
+                    place.map(box.bottomRight()), place.map(box.bottomLeft())});
+    }
 }
 
 /// Pixels that are not wholly inside the view count as well.
@@ -103,13 +147,32 @@ QRect wholeView(const ClockFrame &frame, double ratio)
     return QTransform::fromScale(ratio, ratio).mapRect(frame.bounds).toAlignedRect();
 }
 
+bool sameApartFromPlaces(const ClockFrame &a, const ClockFrame &b)
+{
+    return a.bounds == b.bounds && a.background == b.background && a.mark == b.mark &&
+           a.artwork == b.artwork && a.tinted == b.tinted &&
+           a.calendar.has_value() == b.calendar.has_value() &&
+           (!a.calendar || a.calendar->month == b.calendar->month);
+}
+
+/// Where clock and calendar of \p frame are, as far as they stand still.
+QRegion places(const ClockFrame &frame, double ratio)
+{
+    const auto pixels = [ratio](const QRectF &rect) {
+        return QTransform::fromScale(ratio, ratio)
+            .mapRect(rect)
+            .adjusted(-kInkMargin, -kInkMargin, kInkMargin, kInkMargin)
+            .toAlignedRect();
+    };
+    const QRegion clock = pixels(frame.clockRect);
+    return frame.calendar ? clock + pixels(frame.calendar->rect) : clock;
+}
+
 } // namespace
 
 bool sameApartFromHands(const ClockFrame &a, const ClockFrame &b)
 {
-    return a.bounds == b.bounds && a.background == b.background && a.mark == b.mark &&
-           a.clockRect == b.clockRect && a.artwork == b.artwork && a.tinted == b.tinted &&
-           a.calendar == b.calendar;
+    return sameApartFromPlaces(a, b) && a.clockRect == b.clockRect && a.calendar == b.calendar;
 }
 
 ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio)
@@ -127,21 +190,33 @@ ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio)
     return next;
 }
 
+QRegion pixelsTouched(const QRegion &points, const QTransform &toDevice)
+{
+    if (toDevice.isIdentity())
+        return points;
+    QRegion pixels;
+    for (const QRect &rect : points)
+        pixels += toDevice.mapRect(QRectF(rect)).toAlignedRect();
+    return pixels;
+}
+
 QRegion secondHandArea(const ClockFrame &frame, double ratio)
 {
     const QRectF clock = QTransform::fromScale(ratio, ratio).mapRect(frame.clockRect);
-    Strips strips;
+    Strips strips(wholeView(frame, ratio));
     addHand(strips, frame.artwork.secondImage, clock, frame.angles.second);
-    return strips.region() & wholeView(frame, ratio);
+    return strips.region();
 }
 
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio)
 {
     const QRect whole = wholeView(next, ratio);
-    if (next.tinted || !sameApartFromHands(shown, next))
+    if (next.tinted || !sameApartFromPlaces(shown, next))
         return whole;
+    if (!sameApartFromHands(shown, next))
+        return (places(shown, ratio) + places(next, ratio)) & whole;
     const QRectF clock = QTransform::fromScale(ratio, ratio).mapRect(next.clockRect);
-    Strips strips;
+    Strips strips(whole);
     const auto addMoved = [&](const platform::SvgImage &hand, double from, double to) {
         if (from == to)
             return;
@@ -151,5 +226,5 @@ QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double rati
     addMoved(next.artwork.hourImage, shown.angles.hour, next.angles.hour);
     addMoved(next.artwork.minuteImage, shown.angles.minute, next.angles.minute);
     addMoved(next.artwork.secondImage, shown.angles.second, next.angles.second);
-    return strips.region() & whole;
+    return strips.region();
 }

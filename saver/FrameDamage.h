@@ -14,9 +14,13 @@ bool sameApartFromHands(const ClockFrame &a, const ClockFrame &b);
 ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio);
 
 /// The device pixels, counted from the view's top-left corner, that may differ between the pictures
-/// of two frames: the outlines of the hands that moved, where they were and where they are, or the
-/// whole view. \p ratio is device pixels per point.
+/// of two frames: the outlines of the hands that moved, where they were and where they are, the
+/// squares of clock and calendar where these moved, or the whole view. \p ratio is device pixels
+/// per point.
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio);
+
+/// Every pixel of a device that \p points touch.
+QRegion pixelsTouched(const QRegion &points, const QTransform &toDevice);
 
 /// The device pixels that the second hand of \p frame covers, and some around them; otherwise as
 /// frameDamage().

@@ -1,23 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "saver/FramePainter.h"
 
+#include "saver/FrameDamage.h"
+
 #include <QPainter>
 #include <QRegion>
-
-namespace {
-
-/// Every pixel that \p region touches.
-QRegion alignedRegion(const QTransform &toDevice, const QRegion &region)
-{
-    if (toDevice.isIdentity())
-        return region;
-    QRegion aligned;
-    for (const QRect &rect : region)
-        aligned += toDevice.mapRect(QRectF(rect)).toAlignedRect();
-    return aligned;
-}
-
-} // namespace
 
 void FramePainter::paint(QPainter &painter, const ClockFrame &frame, const QRegion &region)
 {
@@ -26,7 +13,7 @@ void FramePainter::paint(QPainter &painter, const ClockFrame &frame, const QRegi
     if (keepPicture(frame, toDevice)) {
         // Pixel by pixel, whatever the density: that is the fastest copy and an exact one.
         painter.setWorldTransform(toDevice.inverted(), true);
-        for (const QRect &rect : alignedRegion(toDevice, region))
+        for (const QRect &rect : pixelsTouched(region, toDevice))
             painter.drawImage(rect.topLeft(), m_picture, rect.translated(-m_origin));
     } else {
         painter.setClipRegion(region, Qt::IntersectClip);

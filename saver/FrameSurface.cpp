@@ -5,19 +5,12 @@
 
 #include <QPainter>
 
-#include <algorithm>
-
 namespace {
 
 bool sameStill(const ClockFrame &a, const ClockFrame &b)
 {
-    return sameApartFromHands(a, b) && a.angles.hour == b.angles.hour &&
+    return !a.tinted && sameApartFromHands(a, b) && a.angles.hour == b.angles.hour &&
            a.angles.minute == b.angles.minute;
-}
-
-QRgb *pixelsAt(QImage &image, int x, int y)
-{
-    return reinterpret_cast<QRgb *>(image.scanLine(y)) + x;
 }
 
 } // namespace
@@ -45,12 +38,15 @@ void SecondHand::prepare(const platform::SvgImage &hand, double side)
     }
 }
 
-void SecondHand::draw(QImage &image, const ClockFrame &frame, const QTransform &toDevice,
-                      const QRegion &area)
+void SecondHand::draw(QImage &image, const ClockFrame &frame, const QTransform &toDevice)
 {
     const QRectF clock = toDevice.mapRect(frame.clockRect);
     prepare(frame.artwork.secondImage, clock.width());
     if (!m_shapes) {
+        for (const QRect &rect : secondHandArea(frame, toDevice.m11()) & image.rect()) {
+            for (int y = rect.top(); y <= rect.bottom(); ++y)
+                m_covered.keep(image, rect.x(), y, rect.width());
+        }
         QPainter painter(&image);
         painter.setTransform(toDevice);
         drawImage(painter, frame.artwork.secondImage, frame.clockRect, frame.angles.second);
@@ -58,39 +54,33 @@ void SecondHand::draw(QImage &image, const ClockFrame &frame, const QTransform &
     }
     QTransform place = QTransform::fromTranslate(clock.center().x(), clock.center().y());
     place.rotate(frame.angles.second);
-    for (const Shape &shape : *m_shapes) {
-        QList<QPolygonF> outlines;
-        for (const QPolygonF &outline : shape.outlines)
-            outlines.append(place.map(outline));
-        m_fill.fill(image, area, outlines, shape.rule, shape.color);
-    }
+    for (const Shape &shape : *m_shapes)
+        m_fill.fill(image, shape.outlines, place, shape.rule, shape.color, m_covered);
 }
 
 QRegion FrameSurface::show(QImage &image, const ClockFrame &frame, const QTransform &toDevice)
 {
-    const double ratio = toDevice.m11();
-    QRegion whole(image.rect());
-    QRegion damage = m_shown ? frameDamage(*m_shown, frame, ratio) & whole : whole;
-    if (frame.tinted || !canMend(image, frame, toDevice)) {
-        const bool isKnown = m_shown && m_size == image.size() && m_toDevice == toDevice;
-        forget();
+    QRegion damage(image.rect());
+    const bool isKnown = m_shown && m_size == image.size() && m_toDevice == toDevice;
+    if (isKnown)
+        damage &= frameDamage(*m_shown, frame, toDevice.m11());
+    if (damage.isEmpty())
+        return damage;
+    if (isKnown)
+        m_secondHand.takeOff(image);
+    else
+        m_secondHand.forget();
+    if (!isKnown || !sameStill(*m_shown, frame)) {
         ClockFrame still = frame;
         if (!frame.tinted)
             still.artwork.secondImage = {};
         QPainter painter(&image);
+        painter.setClipRect(damage.boundingRect());
         painter.setTransform(toDevice);
         drawFrame(painter, still, m_scratch);
-        painter.end();
-        if (frame.tinted)
-            return whole;
-        if (!isKnown)
-            damage = whole;
-        keepCovered(image, secondHandArea(frame, ratio) & whole);
-    } else {
-        uncover(image);
-        keepCovered(image, damage);
     }
-    m_secondHand.draw(image, frame, toDevice, m_covered);
+    if (!frame.tinted)
+        m_secondHand.draw(image, frame, toDevice);
     m_shown = frame;
     m_toDevice = toDevice;
     m_size = image.size();
@@ -100,34 +90,4 @@ QRegion FrameSurface::show(QImage &image, const ClockFrame &frame, const QTransf
 void FrameSurface::forget()
 {
     m_shown.reset();
-}
-
-bool FrameSurface::canMend(const QImage &image, const ClockFrame &frame,
-                           const QTransform &toDevice) const
-{
-    return m_shown && m_size == image.size() && m_toDevice == toDevice &&
-           sameStill(*m_shown, frame);
-}
-
-void FrameSurface::keepCovered(const QImage &image, const QRegion &area)
-{
-    m_covered = area;
-    m_under.clear();
-    for (const QRect &rect : area) {
-        for (int y = rect.top(); y <= rect.bottom(); ++y) {
-            const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y)) + rect.x();
-            m_under.insert(m_under.end(), row, row + rect.width());
-        }
-    }
-}
-
-void FrameSurface::uncover(QImage &image) const
-{
-    const QRgb *under = m_under.data();
-    for (const QRect &rect : m_covered) {
-        for (int y = rect.top(); y <= rect.bottom(); ++y) {
-            std::copy_n(under, rect.width(), pixelsAt(image, rect.x(), y));
-            under += rect.width();
-        }
-    }
 }

@@ -12,13 +12,16 @@
 #include <optional>
 #include <vector>
 
-/// A second hand ready to be drawn at any angle.
+/// A second hand ready to be drawn at any angle, and to be taken off again.
 class SecondHand
 {
 public:
-    /// Draws the hand of \p frame, all of which lies in \p area (image pixels).
-    void draw(QImage &image, const ClockFrame &frame, const QTransform &toDevice,
-              const QRegion &area);
+    /// Draws the hand of \p frame. What it covers is put aside.
+    void draw(QImage &image, const ClockFrame &frame, const QTransform &toDevice);
+    /// Takes what was drawn since the last call off again.
+    void takeOff(QImage &image) { m_covered.restore(image); }
+    /// Leaves what was drawn where it is.
+    void forget() { m_covered.clear(); }
 
 private:
     struct Shape
@@ -36,6 +39,7 @@ private:
     /// In pixels about the clock's centre; none when the picture is more than plain shapes.
     std::optional<std::vector<Shape>> m_shapes;
     platform::PolygonFill m_fill;
+    platform::CoveredPixels m_covered;
 };
 
 /// Keeps a picture showing one frame after the other, to the same pixels as drawFrame(). From frame
@@ -51,16 +55,9 @@ public:
     void forget();
 
 private:
-    bool canMend(const QImage &image, const ClockFrame &frame, const QTransform &toDevice) const;
-    void keepCovered(const QImage &image, const QRegion &area);
-    void uncover(QImage &image) const;
-
     std::optional<ClockFrame> m_shown;
     QTransform m_toDevice;
     QSize m_size;
-    /// What the second hand covers and the pixels without it, row by row.
-    QRegion m_covered;
-    std::vector<QRgb> m_under;
     SecondHand m_secondHand;
     FrameScratch m_scratch;
 };

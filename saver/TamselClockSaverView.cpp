@@ -5,6 +5,7 @@
 #include "calendar/TamselCalendarLayout.h"
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
+#include "platform/FramePresenter.h"
 #include "platform/LoginSession.h"
 #include "saver/FrameDamage.h"
 #include "settings/SettingsSheet.h"
@@ -43,8 +44,11 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
     TamselRegisterCalendarFonts(m_desktop.bundle);
     setAnimationTimeInterval(kFrameInterval);
     if (desktop.session) {
-        connect(desktop.session, &platform::LoginSession::becameActive, this,
-                &TamselClockSaverView::screenSaverPreferencesMayHaveChanged);
+        connect(desktop.session, &platform::LoginSession::becameActive, this, [this] {
+            screenSaverPreferencesMayHaveChanged();
+            if (isAnimating())
+                startAnimation();
+        });
     }
     if (desktop.notifications) {
         desktop.notifications->observe(kVariantChangedNotification, this,
@@ -70,8 +74,13 @@ void TamselClockSaverView::startAnimation()
 void TamselClockSaverView::animateOneFrame()
 {
     reloadVariantIfNeeded();
-    if (!isVisible())
+    if (!isSeen())
         return;
+    if (presenter()) {
+        if (presenter()->isReady())
+            presentFrame({});
+        return;
+    }
     const double ratio = devicePixelRatioF();
     ClockFrame next = nextFrame();
     if (keepsPixels())
@@ -79,6 +88,25 @@ void TamselClockSaverView::animateOneFrame()
     else
         update();
     m_shown = std::move(next);
+}
+
+/// Makes the presented picture show this moment; \p exposed (points) is put anew as well.
+void TamselClockSaverView::presentFrame(const QRegion &exposed)
+{
+    const QTransform toDevice = QTransform::fromScale(devicePixelRatioF(), devicePixelRatioF());
+    QImage &picture = presenter()->picture(toDevice.mapRect(QRectF(rect())).toAlignedRect().size());
+    if (picture.isNull()) {
+        dropPresenter();
+        return;
+    }
+    m_shown = nextFrame();
+    const QRegion changed = m_surface.show(picture, m_shown, toDevice);
+    presenter()->present((changed + pixelsTouched(exposed, toDevice)) & picture.rect());
+}
+
+bool TamselClockSaverView::isSeen() const
+{
+    return ScreenSaverView::isSeen() && (!m_desktop.session || m_desktop.session->isActive());
 }
 
 ClockFrame TamselClockSaverView::nextFrame()
@@ -105,9 +133,19 @@ void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
     drawFrame(painter, nextFrame(), m_scratch);
 }
 
+void TamselClockSaverView::showEvent(QShowEvent *event)
+{
+    ScreenSaverView::showEvent(event);
+    m_surface.forget();
+}
+
 /// A part that is painted belongs to the frame on screen, which began with painting the whole.
 void TamselClockSaverView::paintEvent(QPaintEvent *event)
 {
+    if (presenter()) {
+        presentFrame(event->region());
+        return;
+    }
     const bool isWhole = QRegion(rect()).subtracted(event->region()).isEmpty();
     if (isWhole || m_shown.bounds != QRectF(rect()))
         m_shown = nextFrame();

@@ -74,6 +74,8 @@ public:
     /// All that the frame at this moment shows, the drift held as on screen. Ends a cross-fade that
     /// has run its time.
     ClockFrame nextFrame();
+    /// Not so while another session has the screens.
+    bool isSeen() const override;
 
     // Variants and artwork: saver/SaverArtwork.cpp
 
@@ -228,6 +230,7 @@ Q_SIGNALS:
     void configurationEnded(bool saved);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     /// Hears of the end of editing in the sheet's text fields.
@@ -239,6 +242,8 @@ protected:
     void endEditing();
 
 private:
+    void presentFrame(const QRegion &exposed);
+
     void loadNightPalette();
     void loadDayPalette();
     void reloadPalette(bool nightFlip);
@@ -257,6 +262,8 @@ private:
     FrameScratch m_scratch;
     /// The frame on screen.
     ClockFrame m_shown;
+    /// Draws it, through Qt or for the presenter.
     FramePainter m_painter;
+    FrameSurface m_surface;
     std::unique_ptr<SettingsSheet> m_sheet;
 };

@@ -6,8 +6,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRandomGenerator>
-#include <QRegion>
 #include <QTest>
+#include <QTransform>
 
 class TestPolygonFill : public QObject
 {
@@ -31,6 +31,8 @@ private Q_SLOTS:
         QFETCH(int, outlines);
         QFETCH(Qt::FillRule, rule);
         constexpr int kSide = 60;
+        // Reaches beyond every side of the picture.
+        const QTransform place = QTransform::fromTranslate(-15.0, -15.0).scale(1.5, 1.5);
         QRandomGenerator random(1);
         platform::PolygonFill filler;
         for (int i = 0; i < 300; ++i) {
@@ -50,15 +52,18 @@ private Q_SLOTS:
             QImage actual = expected;
             QPainter painter(&expected);
             painter.setRenderHint(QPainter::Antialiasing);
-            painter.fillPath(path, Qt::black);
+            painter.fillPath(place.map(path), Qt::black);
             painter.end();
-            // In two halves, as strips are filled one by one.
-            QRegion halves;
-            const QRect rects[] = {{0, 0, kSide, kSide / 2}, {0, kSide / 2, kSide, kSide / 2}};
-            halves.setRects(rects, 2);
-            filler.fill(actual, halves, shape, rule, qRgb(0, 0, 0));
+            const QImage blank = actual.copy();
+            platform::CoveredPixels covered;
+            filler.fill(actual, shape, place, rule, qRgb(0, 0, 0), covered);
             const int difference = pixels::largestDifference(actual, expected);
             QVERIFY2(difference <= 3, qPrintable(QString::number(difference)));
+            // Another on top, and both taken off again.
+            filler.fill(actual, shape, QTransform::fromScale(0.5, 1.0), rule, qRgb(255, 0, 0),
+                        covered);
+            covered.restore(actual);
+            QCOMPARE(actual, blank);
         }
     }
 };

@@ -16,6 +16,9 @@ namespace {
 /// An edge drawn inside a clip may differ from one drawn whole by this much of 255.
 constexpr int kEdgeTolerance = 4;
 
+/// A window system may be behind, so that a frame is left out.
+constexpr int kLooks = 200;
+
 const QDateTime kShortlyBeforeMidnight(QDate(2026, 3, 31), QTime(23, 59, 40));
 
 QVariantMap night(bool enabled)
@@ -49,18 +52,24 @@ public:
         view->resize(160, 100);
         view->show();
         QVERIFY(QTest::qWaitForWindowExposed(view.get()));
+        view->setAnimationTimeInterval(0.001);
+        view->startAnimation();
     }
 
-    /// Shows the next frame; whether the screen is the reference then.
+    /// Lets the next frame be shown; whether the screen becomes the reference.
     bool next()
     {
         f.clocks.advance(1.0 / 30.0);
-        view->animateOneFrame();
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-        const QImage screen = view->screen()->grabWindow(view->winId()).toImage();
-        return isSamePicture(screen.convertToFormat(QImage::Format_RGB32),
-                             SaverFixture::picture(*view));
+        int difference = kEdgeTolerance + 1;
+        for (int look = 0; look < kLooks && difference > kEdgeTolerance; ++look) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            const QImage screen = view->screen()->grabWindow(view->winId()).toImage();
+            difference = pixels::largestDifference(screen.convertToFormat(QImage::Format_RGB32),
+                                                   SaverFixture::picture(*view));
+        }
+        if (difference > kEdgeTolerance)
+            qWarning("differs by %d of 255", difference);
+        return difference <= kEdgeTolerance;
     }
 
     SaverFixture f;

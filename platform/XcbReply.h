@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <memory>
 
-namespace host {
+namespace platform {
 
 struct FreedReply
 {
@@ -15,4 +15,4 @@ struct FreedReply
 template <typename T>
 using XcbReply = std::unique_ptr<T, FreedReply>;
 
-} // namespace host
+} // namespace platform

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+
+class QImage;
+class QRegion;
+class QSize;
+class QWindow;
+
+namespace platform {
+
+/// Puts pixels on a window without a toolkit in between: only those that changed, from memory that
+/// the window system reads itself. Lengths are device pixels from the window's top-left corner.
+class FramePresenter
+{
+public:
+    virtual ~FramePresenter() = default;
+
+    /// Takes in what the window system has said since the last call. Never waits.
+    virtual void poll() = 0;
+    /// Whether any of the window can be seen, as far as poll() knows: it is not wholly covered, and
+    /// its display is on.
+    virtual bool isSeen() const = 0;
+    /// Whether, as far as poll() knows, all that was presented has been taken over. A frame that
+    /// comes while it has not is better dropped than queued.
+    virtual bool isReady() const = 0;
+
+    /// The picture (RGB32) that is presented, of the given size. Its pixels stay from call to call;
+    /// at another size it is a new one. Null when there is no memory for it.
+    virtual QImage &picture(const QSize &size) = 0;
+    /// Puts the pixels of \p area, which lies in the picture, on the window.
+    virtual void present(const QRegion &area) = 0;
+};
+
+/// A presenter for \p window, which has been created and outlives it. Null where frames are better
+/// left to Qt: on Wayland, on a display that is far away or counts colours in another way.
+std::unique_ptr<FramePresenter> makeFramePresenter(QWindow &window);
+
+} // namespace platform

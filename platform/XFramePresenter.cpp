@@ -1,0 +1,272 @@
+// SPDX-License-Identifier: MIT
+#include "platform/FramePresenter.h"
+
+#include "platform/XcbReply.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QRegion>
+#include <QWindow>
+
+#include <sys/mman.h>
+#include <unistd.h>
+#include <xcb/dpms.h>
+#include <xcb/shm.h>
+#include <xcb/xcb.h>
+#include <xcb/xcbext.h>
+
+#include <cstdlib>
+#include <optional>
+
+namespace platform {
+
+namespace {
+
+/// Frames between two questions how far the X server is and whether the display is on; what it has
+/// told in between is read with the answers.
+constexpr int kFramesPerQuestion = 10;
+
+/// A connection to the X server besides Qt's. Nothing of Qt waits on it, so that what the server
+/// answers wakes nobody up; it is read with the next frame.
+class Connection
+{
+public:
+    Connection() : m_connection(xcb_connect(nullptr, nullptr))
+    {
+        xcb_prefetch_extension_data(m_connection, &xcb_shm_id);
+        xcb_prefetch_extension_data(m_connection, &xcb_dpms_id);
+    }
+    ~Connection() { xcb_disconnect(m_connection); }
+    Q_DISABLE_COPY_MOVE(Connection)
+
+    operator xcb_connection_t *() const { return m_connection; }
+
+    bool has(xcb_extension_t *extension) const
+    {
+        const xcb_query_extension_reply_t *data = xcb_get_extension_data(m_connection, extension);
+        return data && data->present;
+    }
+
+    bool succeeds(xcb_void_cookie_t request) const
+    {
+        const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_connection, request));
+        return !error && xcb_connection_has_error(m_connection) == 0;
+    }
+
+private:
+    xcb_connection_t *m_connection;
+};
+
+/// Whether the window's pixels are those of a QImage in RGB32.
+bool hasPlainPixels(const xcb_setup_t &setup, xcb_visualid_t visualId)
+{
+    const auto native =
+        Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? XCB_IMAGE_ORDER_LSB_FIRST : XCB_IMAGE_ORDER_MSB_FIRST;
+    if (setup.image_byte_order != native)
+        return false;
+    for (auto screen = xcb_setup_roots_iterator(&setup); screen.rem; xcb_screen_next(&screen)) {
+        auto depth = xcb_screen_allowed_depths_iterator(screen.data);
+        for (; depth.rem; xcb_depth_next(&depth)) {
+            auto visual = xcb_depth_visuals_iterator(depth.data);
+            for (; visual.rem; xcb_visualtype_next(&visual)) {
+                if (visual.data->visual_id == visualId)
+                    return depth.data->depth >= 24 && visual.data->red_mask == 0xff0000 &&
+                           visual.data->green_mask == 0xff00 && visual.data->blue_mask == 0xff;
+            }
+        }
+    }
+    return false;
+}
+
+/// A picture in memory that the X server reads as well. It is freed by the kernel when both have
+/// let go of it, however this process ends.
+class SharedPicture
+{
+public:
+    /// Null when there is no memory, or the X server cannot reach it.
+    SharedPicture(const Connection &connection, const QSize &size) : m_connection(connection)
+    {
+        const size_t bytes = size_t(size.width()) * size_t(size.height()) * sizeof(QRgb);
+        const int file = memfd_create("frame", MFD_CLOEXEC);
+        if (file < 0 || bytes == 0 || ftruncate(file, off_t(bytes)) != 0) {
+            ::close(file);
+            return;
+        }
+        void *memory = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+        m_segment = xcb_generate_id(connection);
+        // Takes the descriptor over.
+        const auto attached = xcb_shm_attach_fd_checked(connection, m_segment, file, 1);
+        const bool isShared = connection.succeeds(attached);
+        if (memory == MAP_FAILED)
+            return;
+        m_memory = memory;
+        m_bytes = bytes;
+        if (isShared)
+            m_image = QImage(static_cast<uchar *>(memory), size.width(), size.height(),
+                             size.width() * qsizetype(sizeof(QRgb)), QImage::Format_RGB32);
+    }
+    ~SharedPicture()
+    {
+        if (m_segment != XCB_NONE)
+            xcb_shm_detach(m_connection, m_segment);
+        if (m_memory)
+            munmap(m_memory, m_bytes);
+    }
+    Q_DISABLE_COPY_MOVE(SharedPicture)
+
+    QImage &image() { return m_image; }
+    xcb_shm_seg_t segment() const { return m_segment; }
+
+private:
+    const Connection &m_connection;
+    xcb_shm_seg_t m_segment = XCB_NONE;
+    void *m_memory = nullptr;
+    size_t m_bytes = 0;
+    QImage m_image;
+};
+
+class XFramePresenter final : public FramePresenter
+{
+public:
+    explicit XFramePresenter(xcb_window_t window) : m_window(window) {}
+
+    /// Whether this can present to the window.
+    bool start()
+    {
+        if (xcb_connection_has_error(m_connection) != 0 || !m_connection.has(&xcb_shm_id))
+            return false;
+        const auto geometryAsked = xcb_get_geometry(m_connection, m_window);
+        const auto attributesAsked = xcb_get_window_attributes(m_connection, m_window);
+        const XcbReply<xcb_get_geometry_reply_t> geometry(
+            xcb_get_geometry_reply(m_connection, geometryAsked, nullptr));
+        const XcbReply<xcb_get_window_attributes_reply_t> attributes(
+            xcb_get_window_attributes_reply(m_connection, attributesAsked, nullptr));
+        if (!geometry || !attributes ||
+            !hasPlainPixels(*xcb_get_setup(m_connection), attributes->visual))
+            return false;
+        m_depth = geometry->depth;
+        m_context = xcb_generate_id(m_connection);
+        xcb_create_gc(m_connection, m_context, m_window, 0, nullptr);
+        const uint32_t events = XCB_EVENT_MASK_VISIBILITY_CHANGE;
+        xcb_change_window_attributes(m_connection, m_window, XCB_CW_EVENT_MASK, &events);
+        m_hasPower = m_connection.has(&xcb_dpms_id);
+        // The memory is found out with the first picture: a display that is far away refuses it.
+        return !picture({geometry->width, geometry->height}).isNull();
+    }
+
+    void poll() override
+    {
+        if (m_isOpen || !isSeen())
+            readAnswers();
+        if (!m_isOpen && !isSeen())
+            ask();
+    }
+
+    bool isSeen() const override { return !m_isCovered && m_isOn; }
+    bool isReady() const override { return !m_isOpen; }
+
+    QImage &picture(const QSize &size) override
+    {
+        if (!m_picture || m_picture->image().size() != size) {
+            m_picture.reset();
+            m_picture.emplace(m_connection, size);
+        }
+        return m_picture->image();
+    }
+
+    void present(const QRegion &area) override
+    {
+        if (area.isEmpty() || !m_picture)
+            return;
+        const QSize size = m_picture->image().size();
+        for (const QRect &rect : area) {
+            xcb_shm_put_image(m_connection, m_window, m_context, uint16_t(size.width()),
+                              uint16_t(size.height()), uint16_t(rect.x()), uint16_t(rect.y()),
+                              uint16_t(rect.width()), uint16_t(rect.height()), int16_t(rect.x()),
+                              int16_t(rect.y()), m_depth, XCB_IMAGE_FORMAT_Z_PIXMAP, 0,
+                              m_picture->segment(), 0);
+        }
+        if (!m_isOpen && --m_untilQuestion <= 0)
+            ask();
+        xcb_flush(m_connection);
+    }
+
+private:
+    /// Answered when all that was put before is on the window.
+    void ask()
+    {
+        m_untilQuestion = kFramesPerQuestion;
+        if (m_hasPower)
+            m_powerQuestion = xcb_dpms_info(m_connection);
+        m_question = xcb_get_input_focus(m_connection);
+        m_isOpen = true;
+        xcb_flush(m_connection);
+    }
+
+    void readAnswers()
+    {
+        while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)})
+            take(*event);
+        void *answer = nullptr;
+        if (!m_isOpen || !poll(m_question.sequence, answer))
+            return;
+        std::free(answer);
+        m_isOpen = false;
+        if (!m_hasPower || !poll(m_powerQuestion.sequence, answer) || !answer)
+            return;
+        const XcbReply<xcb_dpms_info_reply_t> power(static_cast<xcb_dpms_info_reply_t *>(answer));
+        m_isOn = !power->state || power->power_level == XCB_DPMS_DPMS_MODE_ON;
+    }
+
+    /// Whether a request has been answered; \p answer is null after an error.
+    bool poll(unsigned sequence, void *&answer)
+    {
+        xcb_generic_error_t *fault = nullptr;
+        answer = nullptr;
+        const bool isAnswered = xcb_poll_for_reply(m_connection, sequence, &answer, &fault) != 0;
+        std::free(fault);
+        return isAnswered;
+    }
+
+    void take(const xcb_generic_event_t &event)
+    {
+        if ((event.response_type & 0x7f) == XCB_VISIBILITY_NOTIFY) {
+            const auto &notify = reinterpret_cast<const xcb_visibility_notify_event_t &>(event);
+            m_isCovered = notify.state == XCB_VISIBILITY_FULLY_OBSCURED;
+        }
+    }
+
+    const Connection m_connection;
+    const xcb_window_t m_window;
+    xcb_gcontext_t m_context = XCB_NONE;
+    uint8_t m_depth = 0;
+    std::optional<SharedPicture> m_picture;
+
+    bool m_hasPower = false;
+    bool m_isCovered = false;
+    bool m_isOn = true;
+
+    /// Whether there is a question without an answer.
+    bool m_isOpen = false;
+    int m_untilQuestion = 0;
+    xcb_get_input_focus_cookie_t m_question = {};
+    xcb_dpms_info_cookie_t m_powerQuestion = {};
+};
+
+} // namespace
+
+std::unique_ptr<FramePresenter> makeFramePresenter(QWindow &window)
+{
+    const auto *x = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!x || !x->connection())
+        return nullptr;
+    // The window is known to other connections only when the server has heard of it on Qt's.
+    std::free(
+        xcb_get_input_focus_reply(x->connection(), xcb_get_input_focus(x->connection()), nullptr));
+    auto presenter = std::make_unique<XFramePresenter>(xcb_window_t(window.winId()));
+    if (!presenter->start())
+        return nullptr;
+    return presenter;
+}
+
+} // namespace platform
