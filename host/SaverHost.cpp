@@ -4,10 +4,12 @@
 #include "platform/Clocks.h"
 #include "platform/ScreenSaverView.h"
 
+#include <QCursor>
 #include <QEnterEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QScreen>
 #include <QWindow>
 
@@ -31,6 +33,15 @@ QList<QScreen *> distinctScreens()
             distinct.append(screen);
     }
     return distinct;
+}
+
+/// A pointer without a picture. Qt's blank cursor will not do: on Wayland one that is set before
+/// the pointer enters is taken for set already when it enters, and the compositor's arrow stays.
+QCursor invisiblePointer()
+{
+    QPixmap nothing(1, 1);
+    nothing.fill(Qt::transparent);
+    return QCursor(nothing);
 }
 
 } // namespace
@@ -93,7 +104,7 @@ void SaverHost::cover(QScreen *screen)
     view = m_makeView();
     view->setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     view->setWindowTitle(QGuiApplication::applicationDisplayName());
-    view->setCursor(Qt::BlankCursor);
+    view->setCursor(invisiblePointer());
     view->setMouseTracking(true);
     view->setScreen(screen);
     view->setGeometry(screen->geometry());
@@ -124,6 +135,9 @@ bool SaverHost::isUserComingBack(QEvent *event)
         return true;
     case QEvent::Enter:
     case QEvent::MouseMove:
+        // Where screens and windows come and go under the pointer it is not a person that moves it.
+        if (event->type() == QEvent::Enter || m_settled.isActive())
+            m_pointer = PointerGuard();
         return m_pointer.movedOnPurpose(static_cast<QSinglePointEvent *>(event)->globalPosition(),
                                         m_clocks.monotonicSeconds());
     default:

@@ -2,9 +2,13 @@
 # SPDX-License-Identifier: MIT
 """The program inside windows of another process, as the screen-saver hosts make them."""
 import os
+import pathlib
+import plistlib
+import shutil
 import signal
 import subprocess
 import sys
+import tempfile
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
@@ -13,6 +17,7 @@ from xhost import ORANGE, Host, X, check, is_alive, start_x_server, stop, wait_f
 PROGRAM = sys.argv[1]
 start_x_server("-screen", "0", "1280x720x24")
 host = Host()
+HOSTS_OWN = (255, 0, 255)
 # A platform that the session prefers must not win over the host's window.
 environment = {k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"}
 
@@ -120,9 +125,39 @@ def the_root_window_is_drawn_when_no_other_is_named():
     check(stop(program, signal.SIGHUP) == 0, "SIGHUP ends with status 0")
 
 
+def resources_may_vanish():
+    """As when a package is removed under a running clock."""
+    root = pathlib.Path(tempfile.mkdtemp())
+    (root / "bin").mkdir()
+    shutil.copy(PROGRAM, root / "bin")
+    shutil.copytree(pathlib.Path(PROGRAM).parents[1] / "lib" / "tamsel-clock", root / "lib" / "tamsel-clock")
+    settings = pathlib.Path(os.environ["XDG_CONFIG_HOME"], "tamsel-clock", "org.tamsel.VornakClockSaver.plist")
+    window = host.window()
+    program = subprocess.Popen([root / "bin" / "tamsel-clock", "--root"], stderr=subprocess.PIPE, text=True,
+                               env={**environment, "XSCREENSAVER_WINDOW": hex(window.id)})
+    wait_for("a picture", lambda: fills(100, 50, 240, 135))
+    shutil.rmtree(root)
+    settings.parent.mkdir(parents=True)
+    minute = time.localtime().tm_hour * 60 + time.localtime().tm_min
+    settings.write_bytes(plistlib.dumps({
+        "SelectedVariant": "blue", "CalendarEnabled": True, "NightSettings": {
+            "enabled": True, "from": (minute + 1439) % 1440, "to": 0, "toMode": "sunrise", "base": "#123456"}}))
+    window.configure(width=640, height=360)
+    host.display.sync()
+    wait_for("the window covered", lambda: not host.shows(HOSTS_OWN, 638, 358), 3)
+    time.sleep(0.3)
+    check(is_alive(program), "a clock without resources goes on")
+    settings.unlink()
+    program.send_signal(signal.SIGKILL)
+    wait_for("the window empty", lambda: not window.query_tree().children)
+    check(program.wait(5) and program.stderr.read() == "", "the clock is silent")
+    window.destroy()
+
+
 ways_to_name_the_window()
 sizes_follow_the_window()
 fractional_density_leaves_no_strip()
 the_host_keeps_pointer_and_clicks()
 dead_windows_open_nothing()
 the_root_window_is_drawn_when_no_other_is_named()
+resources_may_vanish()
