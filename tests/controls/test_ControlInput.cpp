@@ -341,6 +341,17 @@ private Q_SLOTS:
         QCOMPARE(picker.time(), QTime(8, 30));
         QTest::keyClicks(&picker, u"21"_s);
         QCOMPARE(picker.time(), QTime(21, 30));
+        // Wherever the caret was put, digits replace a whole number.
+        auto *editor = picker.findChild<QLineEdit *>();
+        QTest::mouseClick(editor, Qt::LeftButton, {}, {editor->width() - 4, editor->height() / 2});
+        QCoreApplication::processEvents();
+        QTest::keyClicks(&picker, u"41"_s);
+        QCOMPARE(picker.time(), QTime(21, 41));
+        for (const auto key : {QKeySequence::MoveToEndOfLine, QKeySequence::SelectAll}) {
+            QTest::keySequence(&picker, QKeySequence(key));
+            QTest::keyClicks(&picker, u"05"_s);
+        }
+        QCOMPARE(picker.time(), QTime(5, 5));
         QVERIFY(!picker.displayFormat().contains(u's'));
     }
 
