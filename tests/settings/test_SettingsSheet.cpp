@@ -417,49 +417,6 @@ private Q_SLOTS:
         QVERIFY(view->hasConfigureSheet());
         QVERIFY(!view->settingsSheet());
     }
-
-    void everythingHasANameAndCanBeReachedByKeys()
-    {
-        Fixture f;
-        f.set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
-        f.setNight(night(true, 0, 60));
-        QVERIFY(f.open());
-        QStringList names;
-        QWidget *first = f.sheet().previewMode->buttons().first();
-        first->setFocus();
-        do {
-            QWidget *focused = f.window()->focusWidget();
-            names.append(f.nameOf(focused));
-            QTest::keyClick(focused, Qt::Key_Tab);
-        } while (f.window()->focusWidget() != first && names.size() < 40);
-        const QStringList expected{u"Preview day colors"_s,
-                                   u"Preview night colors"_s,
-                                   u"Cream"_s,
-                                   u"Orange"_s,
-                                   u"Blue"_s,
-                                   u"Nero"_s,
-                                   u"Custom"_s,
-                                   u"Day primary hex color"_s,
-                                   u"Day primary color"_s,
-                                   u"Day background hex color"_s,
-                                   u"Day background color"_s,
-                                   u"Swap colors"_s,
-                                   u"Monthly calendar"_s,
-                                   u"Night Mode"_s,
-                                   u"Night primary hex color"_s,
-                                   u"Night primary color"_s,
-                                   u"Night background hex color"_s,
-                                   u"Night background color"_s,
-                                   u"Swap colors"_s,
-                                   u"Night mode starts at"_s,
-                                   u"Night mode starts at"_s, // hour and minute
-
-                                   u"Night mode ends at"_s,
-                                   u"Night mode ends at"_s,
-                                   u"Cancel"_s,
-                                   u"OK"_s};
-        QCOMPARE(names, expected);
-    }
 };
 
 QTEST_MAIN(TestSettingsSheet)
