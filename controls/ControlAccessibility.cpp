@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ControlAccessibility.h"
 
+#include "controls/Alert.h"
 #include "controls/Popover.h"
 #include "controls/PushButton.h"
 #include "controls/TamselGradientSlider.h"
@@ -310,7 +311,9 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     if (auto *popover = qobject_cast<Popover *>(object))
         return new AccessiblePopover(popover);
     if (auto *window = qobject_cast<TamselSettingsWindow *>(object))
-        return new QAccessibleWidget(window, QAccessible::Dialog);
+        return new QAccessibleWidget(window, qobject_cast<Alert *>(window)
+                                                 ? QAccessible::AlertMessage
+                                                 : QAccessible::Dialog);
     if (auto *view = qobject_cast<TamselSettingsView *>(object); view && view->group())
         return new QAccessibleWidget(view, QAccessible::Grouping);
     return nullptr;

@@ -38,11 +38,11 @@ def helps():
 
 
 def expect_question():
-    wait_for("the question", lambda: options.shown("dialog", QUESTION))
+    wait_for("the question", lambda: options.shown("alert", QUESTION))
 
 
 def expect_no_question():
-    wait_for("the end of the question", lambda: not options.shown("dialog", QUESTION))
+    wait_for("the end of the question", lambda: not options.shown("alert", QUESTION))
     check(is_alive(options.process) and stored() == {}, "nothing is stored without a place")
 
 
@@ -56,7 +56,7 @@ ok = options.control("push button", "OK")
 for back in ("Escape", "Cancel"):
     options.click("push button", "OK")
     expect_question()
-    xdotool("key", "Escape") if back == "Escape" else options.click_in(QUESTION, "push button", "Cancel")
+    xdotool("key", "Escape") if back == "Escape" else options.click_in(options.control("alert", QUESTION), "Cancel")
     expect_no_question()
 check(companions() == [], "no companion is started unasked")
 

@@ -66,10 +66,10 @@ class OptionsWindow:
     def click(self, role, name):
         click(self.control(role, name))
 
-    def click_in(self, dialog, role, name):
-        """Clicks what stands in the dialog of that name."""
-        nodes = everything(self.control("dialog", dialog))
-        click(next(n for n in nodes if (n.get_role_name(), n.get_name()) == (role, name)))
+    @staticmethod
+    def click_in(node, name):
+        """Clicks the button of that name in the node."""
+        click(next(n for n in everything(node) if (n.get_role_name(), n.get_name()) == ("push button", name)))
 
     def tab_to(self, role, name):
         """Goes there by the Tab key alone."""
