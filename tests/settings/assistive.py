@@ -5,10 +5,11 @@ order in which the Tab key goes through them."""
 import os
 import plistlib
 import sys
+import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from optionswindow import FOLDER, SUITE, OptionsWindow  # noqa: E402
-from screenreader import act, has, start_desktop, until, xdotool  # noqa: E402
+from screenreader import act, actions, click, has, start_desktop, until, xdotool  # noqa: E402
 from xhost import check, wait_for  # noqa: E402
 
 EQUAL_TIMES = "Night mode start and end times must be different."
@@ -81,6 +82,26 @@ in_reading_order = [described(n) for n in window.application.nodes()
                     if has(n, "FOCUSABLE") and has(n, "SHOWING") and has(n, "ENABLED")]
 expect(in_reading_order, EXPECTED, "reading order")
 expect(tab_order(), [control[:3] for control in EXPECTED], "tab order")
+
+roles = [node.get_role_name() for node in window.application.nodes()]
+check(roles.count("separator") == 4 and "ShowMenu" in actions(window.control("push button", "Night mode end setting")),
+      "separators and menus are told")
+
+# A colour's editor is a dialog inside its swatch; whichever way it closes, the swatch tells.
+swatch = window.control("push button", "Day primary color")
+for close in (lambda: click(window.control("label", "Theme")), lambda: click(swatch), lambda: xdotool("key", "Escape")):
+    check(act(swatch, "Press"), "the swatch is pressed")
+    wait_for("an expanded swatch", lambda: has(swatch, "EXPANDED"))
+    window.control("dialog", "Day primary color")
+    hue = window.control("slider", "Hue")
+    check((hue.get_minimum_value(), hue.get_maximum_value()) == (0, 1), "the range of a slider")
+    hue.set_current_value(0.25)
+    wait_for("a value that is set", lambda: abs(hue.get_current_value() - 0.25) < 1e-6)
+    close()
+    wait_for("a collapsed swatch", lambda: not has(swatch, "EXPANDED"))
+    time.sleep(0.2)
+    check(not has(swatch, "EXPANDED"), "the click that closed it does not open it again")
+check(swatch.get_description() == window.text("Day primary hex color") == "#BBCCAA", "colour and text go together")
 
 # What it does to a control counts as the user's own doing.
 end = window.control("spin button", "Night mode ends at")

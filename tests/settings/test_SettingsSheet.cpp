@@ -6,7 +6,6 @@
 #include "controls/ViewAlpha.h"
 #include "settings/SheetRules.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QScrollArea>
 #include <QSignalSpy>
@@ -272,19 +271,6 @@ private Q_SLOTS:
         QVERIFY(!f.window()->isVisible());
     }
 
-    void cancellingWritesNothing()
-    {
-        Fixture f;
-        QVERIFY(f.open());
-        QSignalSpy ended(f.view.get(), &TamselClockSaverView::configurationEnded);
-        f.chooseVariant(u"nero"_s);
-        f.click(f.sheet().nightSwitch);
-        f.view->cancelConfiguration();
-        QCOMPARE(ended, QList<QVariantList>{{false}});
-        QVERIFY(QDir(f.folder.path()).isEmpty());
-        QCOMPARE(f.view->loadedPalette().activeVariant, u"orange"_s);
-    }
-
     void keysEndTheSheet_data()
     {
         QTest::addColumn<int>("key");
@@ -319,16 +305,6 @@ private Q_SLOTS:
         QTest::keyClick(target, Qt::Key(key));
         const QList<QVariantList> heard = ended;
         QTEST(heard, "expected");
-    }
-
-    void returnBeepsAtAnInvalidSchedule()
-    {
-        Fixture f;
-        f.setNight(night(true, 60, 60));
-        QVERIFY(f.open());
-        QTest::keyClick(f.window(), Qt::Key_Return);
-        QCOMPARE(g_beeps, 1);
-        QVERIFY(f.window()->isVisible());
     }
 
     void closingByTheDesktopCancels()
@@ -390,23 +366,6 @@ private Q_SLOTS:
         QVERIFY(!f.sheet().settingsLayoutTimer.isActive());
         QCOMPARE(heights(), QSize(42, 42));
         QCOMPARE(f.window()->height(), 482);
-    }
-
-    void theSheetGoesWithItsHostsWindow()
-    {
-        Fixture f;
-        f.view = std::make_unique<TamselClockSaverView>(f.desktop(), false);
-        auto host = std::make_unique<QWidget>();
-        QWidget *window = f.view->configureSheet();
-        window->setParent(host.get(), window->windowFlags());
-        window->show();
-        f.chooseVariant(u"custom"_s);
-        f.type(kBaseColorKey, u"12"_s);
-        f.click(f.sheet().customBaseColorButton);
-        host.reset();
-        QVERIFY(!f.view->settingsSheet());
-        QVERIFY(f.open());
-        QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"orange"_s);
     }
 
     void aViewThatIsNeverAskedBuildsNoSheet()
