@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ControlAccessibility.h"
 
+#include "controls/Alert.h"
 #include "controls/Popover.h"
 #include "controls/PushButton.h"
 #include "controls/TamselGradientSlider.h"
@@ -11,12 +12,16 @@
 #include "controls/TamselSwatchButton.h"
 #include "controls/TamselTimeMenu.h"
 #include "controls/TamselToggle.h"
+#include "controls/TimePicker.h"
 
 #include <QAccessibleWidget>
+#include <QLineEdit>
 
 namespace {
 
 constexpr double kValueStep = 0.01;
+constexpr int kSecondsPerMinute = 60;
+constexpr int kLastMinute = 24 * 60 - 1;
 
 /// Anything that is pressed or switched.
 class AccessibleButton : public QAccessibleWidget
@@ -225,6 +230,54 @@ private:
     TamselGradientSlider *slider() const { return qobject_cast<TamselGradientSlider *>(object()); }
 };
 
+/// The toolkit's own tells no value of a time and cannot change it. The text is that of the editor
+/// inside.
+class AccessibleTimePicker final : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleTimePicker(TimePicker *picker)
+        : QAccessibleWidget(picker, QAccessible::SpinBox)
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        switch (type) {
+        case QAccessible::ValueInterface:
+            return static_cast<QAccessibleValueInterface *>(this);
+        case QAccessible::TextInterface:
+        case QAccessible::EditableTextInterface:
+            return QAccessible::queryAccessibleInterface(picker()->findChild<QLineEdit *>())
+                ->interface_cast(type);
+        default:
+            return QAccessibleWidget::interface_cast(type);
+        }
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? picker()->text() : QAccessibleWidget::text(kind);
+    }
+
+    int childCount() const override { return 0; }
+
+    /// In minutes after midnight.
+    QVariant currentValue() const override
+    {
+        return QTime(0, 0).secsTo(picker()->time()) / kSecondsPerMinute;
+    }
+    void setCurrentValue(const QVariant &value) override
+    {
+        picker()->setTime(QTime(0, 0).addSecs(value.toInt() * kSecondsPerMinute));
+    }
+    QVariant minimumValue() const override { return 0; }
+    QVariant maximumValue() const override { return kLastMinute; }
+    QVariant minimumStepSize() const override { return 1; }
+
+private:
+    TimePicker *picker() const { return qobject_cast<TimePicker *>(object()); }
+};
+
 QAccessibleInterface *makeButtonInterface(QObject *object)
 {
     auto *button = qobject_cast<QAbstractButton *>(object);
@@ -249,6 +302,8 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
         return button;
     if (auto *slider = qobject_cast<TamselGradientSlider *>(object))
         return new AccessibleSlider(slider);
+    if (auto *picker = qobject_cast<TimePicker *>(object))
+        return new AccessibleTimePicker(picker);
     if (auto *control = qobject_cast<TamselModeControl *>(object))
         return new QAccessibleWidget(control, QAccessible::Grouping);
     if (auto *separator = qobject_cast<TamselSeparator *>(object))
@@ -256,7 +311,9 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     if (auto *popover = qobject_cast<Popover *>(object))
         return new AccessiblePopover(popover);
     if (auto *window = qobject_cast<TamselSettingsWindow *>(object))
-        return new QAccessibleWidget(window, QAccessible::Dialog);
+        return new QAccessibleWidget(window, qobject_cast<Alert *>(window)
+                                                 ? QAccessible::AlertMessage
+                                                 : QAccessible::Dialog);
     if (auto *view = qobject_cast<TamselSettingsView *>(object); view && view->group())
         return new QAccessibleWidget(view, QAccessible::Grouping);
     return nullptr;

@@ -79,16 +79,22 @@ QRectF PushButton::bezel() const
     return {0.0, (height() - kBezelHeight) / 2.0, static_cast<double>(width()), kBezelHeight};
 }
 
+/// Pale ink on a pale accent could not be read.
+bool PushButton::isEmphasised() const
+{
+    return m_prominent && isEnabled();
+}
+
 QColor PushButton::displayFill() const
 {
-    if (m_prominent)
+    if (isEmphasised())
         return emphasisFrom(appearanceOf(this).controlAccentColor()).fill;
     return m_fill.isValid() ? m_fill : TamselInputFill(this);
 }
 
 QColor PushButton::displayInk() const
 {
-    if (m_prominent)
+    if (isEmphasised())
         return emphasisFrom(appearanceOf(this).controlAccentColor()).ink;
     return m_ink.isValid() ? m_ink : appearanceOf(this).controlTextColor();
 }

@@ -19,8 +19,8 @@ public:
     void setFill(const QColor &fill);
     /// The colour of title and symbol; the control text colour when invalid.
     void setInk(const QColor &ink);
-    /// Whether the bezel takes the accent colour: the button that Return stands for. It wins over
-    /// `fill` and `ink`.
+    /// Whether the bezel takes the accent colour while it is enabled: the button that Return stands
+    /// for. It wins over `fill` and `ink`.
     void setProminent(bool prominent);
     /// Corner radius of the bezel in points.
     void setRadius(double radius);
@@ -32,6 +32,7 @@ protected:
 
 private:
     QRectF bezel() const;
+    bool isEmphasised() const;
     QColor displayFill() const;
     QColor displayInk() const;
     void drawContents(QPainter &painter) const;

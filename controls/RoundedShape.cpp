@@ -3,6 +3,7 @@
 
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "platform/WindowBlending.h"
 
 #include <QPainter>
 #include <QWidget>
@@ -35,11 +36,17 @@ void drawPanel(QPainter &painter, const QWidget *panel, double radius)
 {
     const platform::Appearance &appearance = appearanceOf(panel);
     const QRectF area = panel->rect();
+    const QColor edge = withAlpha(appearance.labelColor(), kEdgeAlpha);
+    if (!platform::blendsWindows()) {
+        // What the window's shape leaves of the corners takes the edge's colour.
+        painter.fillRect(area, appearance.windowBackgroundColor());
+        painter.fillRect(area, edge);
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(appearance.windowBackgroundColor());
     painter.drawRoundedRect(area, radius, radius);
-    painter.setPen(QPen(withAlpha(appearance.labelColor(), kEdgeAlpha), 1.0));
+    painter.setPen(QPen(edge, 1.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
 }

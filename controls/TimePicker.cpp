@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TimePicker.h"
 
+#include "controls/ControlAccessibility.h"
 #include "controls/Emphasis.h"
 #include "controls/LineHeight.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
 
@@ -23,14 +25,13 @@ constexpr double kSpaceBelow = 5.0;
 /// Late enough to have two digits everywhere, and the longer half of a day.
 constexpr QTime kWidestTime = QTime::fromMSecsSinceStartOfDay((22 * 60 + 58) * 60 * 1000);
 
-/// How \p locale writes a time, without seconds where it would have them.
-QString hourAndMinute(const QLocale &locale)
+} // namespace
+
+QString shortTimeFormat(const QLocale &locale)
 {
     static const QRegularExpression seconds(QStringLiteral("[:.]?s+"));
     return locale.timeFormat(QLocale::ShortFormat).remove(seconds);
 }
-
-} // namespace
 
 TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
 {
@@ -39,8 +40,12 @@ TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignTop);
     // The caret's place is taken from the margin, so that the digits end where other input does.
     lineEdit()->setTextMargins(0, 0, -kCaretSpace, 0);
-    setDisplayFormat(hourAndMinute(locale()));
+    setDisplayFormat(shortTimeFormat(locale()));
     setFont(platform::systemFont(kFontSize, QFont::Normal));
+    lineEdit()->installEventFilter(this);
+    // By its usual name the toolkit keeps the editor from assistive technology.
+    lineEdit()->setObjectName(QStringLiteral("time"));
+    installControlAccessibility();
     followAppearance(this, [this] { takeColors(); });
 }
 
@@ -56,6 +61,30 @@ QSize TimePicker::sizeHint() const
         QFontMetricsF(font()).horizontalAdvance(locale().toString(kWidestTime, displayFormat()));
     return {static_cast<int>(std::ceil(text + kEditorPadding)),
             static_cast<int>(lineHeight(font()) + kSpaceBelow)};
+}
+
+bool TimePicker::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool handled = QTimeEdit::eventFilter(watched, event);
+    // With the caret inside a number the editor refuses every digit.
+    if (event->type() == QEvent::MouseButtonRelease)
+        QMetaObject::invokeMethod(this, &TimePicker::selectCurrentSection, Qt::QueuedConnection);
+    return handled;
+}
+
+void TimePicker::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::SelectAll) || event->matches(QKeySequence::MoveToStartOfLine))
+        setSelectedSection(sectionAt(0));
+    else if (event->matches(QKeySequence::MoveToEndOfLine))
+        setSelectedSection(sectionAt(sectionCount() - 1));
+    else
+        QTimeEdit::keyPressEvent(event);
+}
+
+void TimePicker::selectCurrentSection()
+{
+    setSelectedSection(currentSection());
 }
 
 void TimePicker::paintEvent(QPaintEvent *)

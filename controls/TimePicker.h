@@ -3,8 +3,11 @@
 
 #include <QTimeEdit>
 
-/// An hour and a minute, typed or stepped, without frame, buttons or background of its own. It
-/// follows the user's way to write a time.
+/// How \p locale writes an hour and a minute, without the seconds that it may put behind them.
+QString shortTimeFormat(const QLocale &locale);
+
+/// An hour and a minute, typed or stepped one at a time, without frame, buttons or background of
+/// its own. It follows the user's way to write a time.
 class TimePicker : public QTimeEdit
 {
     Q_OBJECT
@@ -19,9 +22,13 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Lets the next digits replace the hour or minute that the caret stands in.
+    void selectCurrentSection();
     void takeColors();
 
     QColor m_textColor;

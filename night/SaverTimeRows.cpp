@@ -149,8 +149,9 @@ void TamselScheduledSaverView::refreshTimeRow(int row)
 QString TamselScheduledSaverView::timeRowToolTip(int row)
 {
     TamselSolarTimes &sun = solarTimes();
+    const QLocale locale = QLocale::system();
     if (const auto event = sun.eventOnDate(m_timeModes.at(row), clocks().now()))
-        return QLocale::system().toString(event->time(), QLocale::ShortFormat);
+        return locale.toString(event->time(), shortTimeFormat(locale));
     return sun.location() ? u"No solar event today at this location. Choose a custom time."_s
                           : sun.status();
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "settings/ColorPanel.h"
 
+#include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "settings/SheetParts.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -14,6 +16,14 @@ QPointer<QColorDialog> &panel()
 {
     static QPointer<QColorDialog> panel;
     return panel;
+}
+
+/// The sheet's colours, in which fields stand out from the ground as they do there.
+QPalette paletteOf(const QWidget *dialog)
+{
+    QPalette colors = appearanceOf(dialog).palette();
+    colors.setColor(QPalette::Base, TamselInputFill(dialog));
+    return colors;
 }
 
 /// While there still is an application for its window.
@@ -31,7 +41,8 @@ QColorDialog &sharedColorPanel()
         dialog->setOptions(QColorDialog::DontUseNativeDialog | QColorDialog::NoButtons);
         dialog->setModal(false);
         dialog->setWindowTitle(QStringLiteral("Colors"));
-        followAppearance(dialog, [dialog] { dialog->setPalette(appearanceOf(dialog).palette()); });
+        dialog->setFont(settingsFont());
+        followAppearance(dialog, [dialog] { dialog->setPalette(paletteOf(dialog)); });
         panel() = dialog;
         qAddPostRoutine(destroyPanel);
     }

@@ -34,6 +34,14 @@ bool isTextInput(const QWidget *control)
     return qobject_cast<const QLineEdit *>(control) || qobject_cast<const QTimeEdit *>(control);
 }
 
+/// Closes what \p window opened and what would stay behind: a menu, a question.
+void closeWindowsOf(const QWidget *window)
+{
+    for (QWidget *child : window->findChildren<QWidget *>())
+        if (child->isWindow())
+            child->close();
+}
+
 } // namespace
 
 void TamselClockSaverView::resetSettingsDraft()
@@ -218,5 +226,6 @@ void TamselClockSaverView::dismissConfiguration()
     endEditing();
     s.customPreviewView->stopAnimation();
     closeColorPanel();
+    closeWindowsOf(s.configurationSheet);
     s.configurationSheet->hide();
 }

@@ -16,7 +16,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFocusFrame>
-#include <QInputMethodEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -278,54 +277,24 @@ private Q_SLOTS:
         QCOMPARE(alphaValue(&control), 0.0);
     }
 
-    void hexFieldTakesOddText_data()
-    {
-        QTest::addColumn<QString>("pasted");
-        QTest::newRow("usual") << u"#12AB34"_s;
-        QTest::newRow("lines and tabs") << u"#12\nAB\t34\r\n"_s;
-        QTest::newRow("long") << QString(2'000'000, u'F');
-        QTest::newRow("right to left") << u"#שלום‏123"_s;
-        QTest::newRow("beyond the basic plane, torn") << u"🕰️#12"_s + QChar(0xD83D);
-        QTest::newRow("full width") << u"＃１２ＡＢ３４"_s;
-        QTest::newRow("control characters") << u"\u0001#12\u0000AB"_s;
-    }
-
     void hexFieldTakesOddText()
     {
-        QFETCH(QString, pasted);
-        TamselHexField field(m_window.get());
-        field.setGeometry(10, 10, 85, 24);
-        field.setText(u"#8A1C2B"_s);
-        field.show();
-        field.setFocus();
-        field.selectAll();
-        QGuiApplication::clipboard()->setText(pasted);
-        QTest::keySequence(&field, QKeySequence::Paste);
-        QVERIFY(!field.text().isEmpty());
-        QVERIFY(!field.grab().isNull());
-        QTest::keySequence(&field, QKeySequence::Undo);
-        QCOMPARE(field.text(), u"#8A1C2B"_s);
-        QTest::keySequence(&field, QKeySequence::Redo);
-        QVERIFY(field.text() != u"#8A1C2B"_s || pasted == field.text());
-    }
-
-    void hexFieldComposes()
-    {
-        TamselHexField field(m_window.get());
-        field.setGeometry(10, 10, 85, 24);
-        field.show();
-        field.setFocus();
-        const QSignalSpy finished(&field, &QLineEdit::editingFinished);
-        QInputMethodEvent composing(u"ｆｆ"_s, {});
-        QCoreApplication::sendEvent(&field, &composing);
-        QVERIFY2(field.text().isEmpty(), "composed text is not text yet");
-        QVERIFY(!field.grab().isNull());
-        QInputMethodEvent done;
-        done.setCommitString(u"#FF8800"_s);
-        QCoreApplication::sendEvent(&field, &done);
-        QCOMPARE(field.text(), u"#FF8800"_s);
-        QTest::keyClick(&field, Qt::Key_Return);
-        QCOMPARE(finished.size(), 1);
+        for (const QString &pasted :
+             {u"#12\nAB\t34\r\n"_s, QString(2'000'000, u'F'), u"#שלום‏123"_s,
+              u"🕰️#12"_s + QChar(0xD83D), u"＃１２ＡＢ３４"_s, u"\u0001#12\u0000AB"_s}) {
+            TamselHexField field(m_window.get());
+            field.setGeometry(10, 10, 85, 24);
+            field.setText(u"#8A1C2B"_s);
+            field.show();
+            field.setFocus();
+            field.selectAll();
+            QGuiApplication::clipboard()->setText(pasted);
+            QTest::keySequence(&field, QKeySequence::Paste);
+            QVERIFY(field.text() != u"#8A1C2B"_s);
+            QVERIFY(!field.grab().isNull());
+            QTest::keySequence(&field, QKeySequence::Undo);
+            QCOMPARE(field.text(), u"#8A1C2B"_s);
+        }
     }
 
     void timePickerTypesAndSteps()
@@ -341,6 +310,17 @@ private Q_SLOTS:
         QCOMPARE(picker.time(), QTime(8, 30));
         QTest::keyClicks(&picker, u"21"_s);
         QCOMPARE(picker.time(), QTime(21, 30));
+        // Wherever the caret was put, digits replace a whole number.
+        auto *editor = picker.findChild<QLineEdit *>();
+        QTest::mouseClick(editor, Qt::LeftButton, {}, {editor->width() - 4, editor->height() / 2});
+        QCoreApplication::processEvents();
+        QTest::keyClicks(&picker, u"41"_s);
+        QCOMPARE(picker.time(), QTime(21, 41));
+        for (const auto key : {QKeySequence::MoveToEndOfLine, QKeySequence::SelectAll}) {
+            QTest::keySequence(&picker, QKeySequence(key));
+            QTest::keyClicks(&picker, u"05"_s);
+        }
+        QCOMPARE(picker.time(), QTime(5, 5));
         QVERIFY(!picker.displayFormat().contains(u's'));
     }
 

@@ -110,8 +110,6 @@ Look slider(const char *name, int component, double value)
                             {centre, 2, Qt::white},
                             {away, 14, colors.colorAtValue((away - 1) / 278)},
                             {away, 1, kClear, 2},
-                            {away, 26.8, kClear, 2},
-                            {away, 0.5, kClear},
                             {0.3, 14, kClear, 2},
                             {1.2, 3, kClear}};
     };
@@ -144,97 +142,76 @@ Look timeMenu(const char *name, const QString &title, bool pressed)
 
 QList<Look> swatches()
 {
-    const auto colored = [](TamselSwatchButton &it) { it.setSwatchColor(kOrange); };
-    const auto switchedOn = [=](TamselSwatchButton &it) {
-        colored(it);
-        it.setCheckable(true);
-        it.setChecked(true);
+    struct State
+    {
+        const char *name;
+        bool checked;
+        bool pickerCounts;
+        bool pickerOpen;
+        bool ring;
     };
-    const auto waiting = [=](TamselSwatchButton &it) {
-        switchedOn(it);
-        it.setUsesPickerSelection(true);
-    };
-    const auto active = [=](TamselSwatchButton &it) {
-        colored(it);
-        it.setUsesPickerSelection(true);
-        it.setPickerActive(true);
-    };
-    const auto ignoring = [=](TamselSwatchButton &it) {
-        colored(it);
-        it.setPickerActive(true);
-    };
-    return {swatch("swatch", kOrange, false, colored),
-            swatch("swatch without a colour", Qt::black, false, nullptr),
-            swatch("swatch switched on", kOrange, true, switchedOn),
-            swatch("swatch on, but its picker counts", kOrange, false, waiting),
-            swatch("swatch with its picker open", kOrange, true, active),
-            swatch("swatch whose picker does not count", kOrange, false, ignoring)};
+    QList<Look> looks{swatch("swatch without a colour", Qt::black, false, nullptr)};
+    for (const State &state :
+         {State{"swatch", false, false, false, false},
+          State{"swatch switched on", true, false, false, true},
+          State{"swatch on, but its picker counts", true, true, false, false},
+          State{"swatch with its picker open", false, true, true, true},
+          State{"swatch whose picker does not count", false, false, true, false}})
+        looks += swatch(state.name, kOrange, state.ring, [state](TamselSwatchButton &it) {
+            it.setSwatchColor(kOrange);
+            it.setCheckable(state.checked);
+            it.setChecked(state.checked);
+            it.setUsesPickerSelection(state.pickerCounts);
+            it.setPickerActive(state.pickerOpen);
+        });
+    return looks;
 }
 
-QList<Look> surfaces()
+/// A plain ground with corners of \p radius.
+Look ground(const char *name, const QSize &size, double radius,
+            const std::function<QWidget *(QWidget *)> &make,
+            const std::function<QColor(const Appearance &)> &color)
+{
+    const auto probes = [=](const Appearance &look) {
+        const QColor fill = color(look);
+        const double w = size.width();
+        const double h = size.height();
+        const QColor corner = radius > 0 ? kClear : fill;
+        return QList<Probe>{{w / 2, 0.2, fill},
+                            {w / 2, h - 0.2, fill},
+                            {0.2, h / 2, fill},
+                            {w - 0.2, h / 2, fill},
+                            {0.3, 0.3, corner},
+                            {w - 0.3, h - 0.3, corner},
+                            {0.42 * radius, 0.42 * radius, fill}};
+    };
+    return {name, size, make, probes};
+}
+
+QList<Look> grounds()
 {
     const auto group = [](TamselSettingsView &it) {
         it.setGroup(true);
         it.setGroupRadius(12);
         it.setGroupContrast(0.2);
     };
-    const auto transparent = [=](TamselSettingsView &it) {
-        group(it);
-        it.setTransparent(true);
-    };
-    const auto field = [](const Appearance &look) {
-        const QColor fill = inputFill(look);
-        return QList<Probe>{{42, 0.2, fill},    {0.2, 12, fill},      {84.8, 12, fill},
-                            {0.3, 0.3, kClear}, {84.7, 23.7, kClear}, {2.5, 2.5, fill}};
-    };
-    return {{"hex field", {85, 24}, made<TamselHexField>(), field},
-            {"time input", {85, 24}, made<TamselTimeInput>(), field},
-            {"symbol button",
-             {85, 24},
-             made<TamselSymbolButton>([](auto &it) { it.setRadius(6); }),
-             field},
-            {"mode control",
-             {50, 24},
-             made<TamselModeControl>([](auto &it) { it.setInk(kOrange); }),
-             [](const Appearance &) {
-                 const QColor ground = withAlpha(kOrange, 0.1);
-                 return QList<Probe>{{25, 0.3, ground},
-                                     {25, 23.7, ground},
-                                     {0.3, 12, ground},
-                                     {0.3, 0.3, kClear},
-                                     {15, 12, kOrange}};
-             }},
-            {"separator",
-             {100, 1},
-             made<TamselSeparator>(),
-             [](const Appearance &look) {
-                 return QList<Probe>{{50, 0.5, withAlpha(look.labelColor(), 0.05)}};
-             }},
-            {"settings view",
-             {100, 40},
-             made<TamselSettingsView>([](auto &it) { it.setGroupRadius(12); }),
-             [](const Appearance &look) {
-                 const QColor ground = look.windowBackgroundColor();
-                 return QList<Probe>{{0.2, 0.2, ground}, {50, 20, ground}};
-             }},
-            {"group",
-             {100, 40},
-             made<TamselSettingsView>(group),
-             [](const Appearance &look) {
-                 const QColor tint = withAlpha(look.labelColor(), 0.2);
-                 return QList<Probe>{{50, 20, tint}, {2, 2, kClear}, {5, 5, tint}, {50, 0.2, tint}};
-             }},
-            {"transparent group",
-             {100, 40},
-             made<TamselSettingsView>(transparent),
-             [](const Appearance &) {
-                 return QList<Probe>{{50, 20, kClear}};
-             }}};
+    const QSize field(85, 24);
+    return {ground("hex field", field, 6, made<TamselHexField>(), inputFill),
+            ground("time input", field, 6, made<TamselTimeInput>(), inputFill),
+            ground("symbol button", field, 6,
+                   made<TamselSymbolButton>([](auto &it) { it.setRadius(6); }), inputFill),
+            ground("mode control", {50, 24}, 6,
+                   made<TamselModeControl>([](auto &it) { it.setInk(kOrange); }),
+                   [](const Appearance &) { return withAlpha(kOrange, 0.1); }),
+            ground("separator", {100, 1}, 0, made<TamselSeparator>(),
+                   [](const Appearance &look) { return withAlpha(look.labelColor(), 0.05); }),
+            ground("group", {100, 40}, 12, made<TamselSettingsView>(group),
+                   [](const Appearance &look) { return withAlpha(look.labelColor(), 0.2); })};
 }
 
 const QList<Look> &allLooks()
 {
-    static const QList<Look> all = swatches() + surfaces() +
+    static const QList<Look> all = swatches() + grounds() +
                                    QList<Look>{toggle("toggle off", false),
                                                toggle("toggle on", true),
                                                slider("hue at the left end", 0, 0.0),
@@ -329,43 +306,29 @@ private Q_SLOTS:
         QCOMPARE(TamselRainbowImage().deviceIndependentSize(), QSizeF(20, 20));
     }
 
-    void symbolsAreTintedCentredAndWeighted_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const QString &name : {u"sun.max.fill"_s, u"moon.fill"_s, u"chevron.up.chevron.down"_s,
-                                    u"arrow.up.arrow.down"_s, u"eyedropper"_s})
-            QTest::newRow(qPrintable(name)) << name;
-    }
-
     void symbolsAreTintedCentredAndWeighted()
     {
-        QFETCH(QString, name);
-        TamselSymbolButton button;
-        button.resize(24, 24);
-        button.setFill(Qt::transparent);
-        button.setInk(QColor(200, 40, 10, 128));
-        button.setImage(Symbol::named(name, 13));
-        const QImage image = picture(&button, 4);
-        const QRectF ink = boundsOf(image, [](const QColor &it) { return it.alpha() > 60; });
-        QVERIFY(QLineF(ink.center(), QPointF(12, 12)).length() < 0.8);
-        QVERIFY(ink.height() > 9 && ink.height() < 16); // beside capitals of 9.5 points
-        // Overlapping parts must not add up.
-        QVERIFY(boundsOf(image, [](const QColor &it) { return it.alpha() > 131; }).isNull());
-
-        button.setDown(true);
-        QVERIFY(std::abs(inkIn(picture(&button, 4)) / inkIn(image) - 0.6) < 0.02);
-        button.setDown(false);
-        button.setImage(Symbol::named(name, 13, QFont::DemiBold));
-        QVERIFY(inkIn(picture(&button, 4)) > 1.02 * inkIn(image));
-    }
-
-    void missingSymbolLeavesTheButton()
-    {
         QVERIFY(Symbol::named(u"no.such.symbol"_s, 13).isNull());
-        TamselSymbolButton button;
-        button.resize(24, 24);
-        button.setFill(Qt::red);
-        QCOMPARE(pixelAt(picture(&button, 1), 12, 12), QColor(Qt::red));
+        for (const QString &name : {u"sun.max.fill"_s, u"moon.fill"_s, u"chevron.up.chevron.down"_s,
+                                    u"arrow.up.arrow.down"_s, u"eyedropper"_s}) {
+            TamselSymbolButton button;
+            button.resize(24, 24);
+            button.setFill(Qt::transparent);
+            button.setInk(QColor(200, 40, 10, 128));
+            button.setImage(Symbol::named(name, 13));
+            const QImage image = picture(&button, 4);
+            const QRectF ink = boundsOf(image, [](const QColor &it) { return it.alpha() > 60; });
+            QVERIFY2(QLineF(ink.center(), QPointF(12, 12)).length() < 0.8, qPrintable(name));
+            QVERIFY(ink.height() > 9 && ink.height() < 16); // beside capitals of 9.5 points
+            // Overlapping parts must not add up.
+            QVERIFY(boundsOf(image, [](const QColor &it) { return it.alpha() > 131; }).isNull());
+
+            button.setDown(true);
+            QVERIFY(std::abs(inkIn(picture(&button, 4)) / inkIn(image) - 0.6) < 0.02);
+            button.setDown(false);
+            button.setImage(Symbol::named(name, 13, QFont::DemiBold));
+            QVERIFY(inkIn(picture(&button, 4)) > 1.02 * inkIn(image));
+        }
     }
 
     void modeControlShowsTheOtherSegmentPaler()
@@ -383,26 +346,20 @@ private Q_SLOTS:
         QVERIFY(std::abs(moon / inkOf(1) - 0.4) < 0.02);
     }
 
-    void hexTextStandsInItsRectangle_data()
-    {
-        QTest::addColumn<int>("scale");
-        QTest::newRow("scale 1") << 1;
-        QTest::newRow("scale 2") << 2;
-    }
-
     void hexTextStandsInItsRectangle()
     {
-        QFETCH(int, scale);
         TamselHexField field;
         field.resize(85, 24);
         field.setFill(Qt::white);
         field.setText(u"#HHHHHH"_s);
         const QRectF text = field.textRect();
         QCOMPARE(text, QRectF(4, 4, 71, 16));
-        const QRectF ink = darkInk(&field, scale);
-        QVERIFY(text.contains(ink));
-        QVERIFY2(text.right() - ink.right() < 2.1, qPrintable(QString::number(ink.right())));
-        QVERIFY(std::abs(ink.center().y() - 12) < 1.1);
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            const QRectF ink = darkInk(&field, scale);
+            QVERIFY(text.contains(ink));
+            QVERIFY2(text.right() - ink.right() < 2.1, qPrintable(QString::number(ink.right())));
+            QVERIFY(std::abs(ink.center().y() - 12) < 1.1);
+        }
     }
 
     void hexTextDoesNotJumpWhenEdited()
@@ -425,21 +382,12 @@ private Q_SLOTS:
         QCOMPARE(picture(&field, 1).copy(besideCaret), resting);
     }
 
-    void timePickerKeepsInside_data()
-    {
-        QTest::addColumn<QSizeF>("cell");
-        QTest::addColumn<QRectF>("frame");
-        QTest::newRow("usual") << QSizeF(44.2, 19) << QRectF(32, 4, 45, 19);
-        QTest::newRow("tall: not past the lower edge") << QSizeF(40, 23) << QRectF(37, 1, 40, 23);
-        QTest::newRow("too tall") << QSizeF(40, 40) << QRectF(37, 0, 40, 24);
-        QTest::newRow("too wide") << QSizeF(200, 19) << QRectF(6, 4, 71, 19);
-    }
-
     void timePickerKeepsInside()
     {
-        QFETCH(QSizeF, cell);
-        QFETCH(QRectF, frame);
-        QCOMPARE(timePickerFrame({85, 24}, cell), frame);
+        QCOMPARE(timePickerFrame({85, 24}, {44.2, 19}), QRectF(32, 4, 45, 19));
+        QCOMPARE(timePickerFrame({85, 24}, {40, 23}),
+                 QRectF(37, 1, 40, 23)); // above the lower edge
+        QCOMPARE(timePickerFrame({85, 24}, {200, 40}), QRectF(6, 0, 71, 24)); // too large
     }
 
     void inputsShareOneBaselineAndEdge()
@@ -461,52 +409,19 @@ private Q_SLOTS:
         QVERIFY(std::abs(darkInk(&input, 1).right() - darkInk(&field, 1).right()) <= 1);
     }
 
-    void timeMenuTakesItsPlace_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::newRow("bare") << QString();
-        QTest::newRow("titled") << u"Sunset"_s;
-        QTest::newRow("right to left") << u"שקיעה"_s;
-    }
-
-    void timeMenuTakesItsPlace()
-    {
-        QFETCH(QString, title);
-        QWidget parent;
-        TamselTimeMenu menu(&parent);
-        menu.setFont(platform::systemFont(13));
-        menu.setText(title);
-        menu.alignAtRowCenter(117);
-        const double text = std::ceil(QFontMetricsF(menu.font()).horizontalAdvance(title));
-        const int width = title.isEmpty() ? 20 : static_cast<int>(text) + 44;
-        const int height = title.isEmpty() ? 20 : 24;
-        QCOMPARE(menu.geometry(), QRect(334 - width, 117 - height / 2, width, height));
-    }
-
-    void colorsOfTheSlider_data()
-    {
-        QTest::addColumn<QColor>("found");
-        QTest::addColumn<QColor>("expected");
-        TamselGradientSlider slider;
-        slider.setSelectedColor(1.0 / 3.0, 0.5, 0.5);
-        QTest::newRow("hue ignores the colour")
-            << slider.colorAtValue(2.0 / 3.0) << QColor(Qt::blue);
-        slider.setComponent(1);
-        QTest::newRow("saturation") << slider.colorAtValue(1.0) << QColor::fromRgbF(0, 0.5F, 0);
-        slider.setComponent(7);
-        QTest::newRow("anything else is brightness")
-            << slider.colorAtValue(1.0) << QColor::fromRgbF(0.5F, 1, 0.5F);
-        QTest::newRow("hue 1 is red again") << TamselHSBColor(1, 1, 1) << QColor(Qt::red);
-        QTest::newRow("beyond the range") << TamselHSBColor(-1, 2, 3) << QColor(Qt::red);
-        QTest::newRow("number") << TamselHex(0xFF8A1C2B) << QColor(0x8A, 0x1C, 0x2B);
-    }
-
     void colorsOfTheSlider()
     {
-        QFETCH(QColor, found);
-        QFETCH(QColor, expected);
-        QCOMPARE(found.spec(), QColor::Rgb);
-        QVERIFY(alike(found, expected, 1));
+        TamselGradientSlider slider;
+        slider.setSelectedColor(1.0 / 3.0, 0.5, 0.5);
+        QVERIFY(alike(slider.colorAtValue(2.0 / 3.0), Qt::blue, 1)); // hue ignores the colour
+        slider.setComponent(1);
+        QVERIFY(alike(slider.colorAtValue(1.0), QColor::fromRgbF(0, 0.5F, 0), 1));
+        slider.setComponent(7); // anything else is brightness
+        QVERIFY(alike(slider.colorAtValue(1.0), QColor::fromRgbF(0.5F, 1, 0.5F), 1));
+        QCOMPARE(slider.colorAtValue(1.0).spec(), QColor::Rgb);
+        for (const auto hue : {1.0, -1.0}) // red again, and beyond the range
+            QCOMPARE(TamselHSBColor(hue, 2, 3).rgb(), QColor(Qt::red).rgb());
+        QCOMPARE(TamselHex(0xFF8A1C2B), QColor(0x8A, 0x1C, 0x2B));
     }
 
     void appearanceChangesAtOnce()

@@ -215,19 +215,6 @@ private Q_SLOTS:
         QCOMPARE(sheet.editor->brightnessSlider()->colorAtValue(0.83), sheet.colors.last());
     }
 
-    void contentIsLaidOut()
-    {
-        TamselColorPopover editor;
-        QWidget *view = editor.view();
-        QCOMPARE(view->size(), QSize(300, 158));
-        editor.setColor(Qt::red);
-        QCOMPARE(editor.hueSlider()->geometry(), QRect(10, 10, 280, 28));
-        QCOMPARE(editor.saturationSlider()->geometry(), QRect(10, 48, 280, 28));
-        QCOMPARE(editor.brightnessSlider()->geometry(), QRect(10, 86, 280, 28));
-        QCOMPARE(view->findChild<PushButton *>()->geometry(), QRect(10, 127, 280, 24));
-        QCOMPARE(editor.brightnessSlider()->toolTip(), u"Brightness"_s);
-    }
-
     void tabGoesRound()
     {
         Sheet sheet;

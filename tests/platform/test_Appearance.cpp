@@ -2,6 +2,7 @@
 #include "platform/Appearance.h"
 #include "platform/DesktopSettings.h"
 #include "tests/support/BusMock.h"
+#include "tests/support/Contrast.h"
 #include "tests/support/TestBus.h"
 
 #include <QApplication>
@@ -10,8 +11,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <algorithm>
-#include <cmath>
 #include <memory>
 
 using platform::Appearance;
@@ -23,22 +22,6 @@ namespace {
 const QString kAppearanceGroup = "org.freedesktop.appearance";
 const QString kGnomeGroup = "org.gnome.desktop.interface";
 const QString kKdeGroup = "org.kde.kdeglobals.KDE";
-
-/// https://www.w3.org/TR/WCAG21/#dfn-relative-luminance
-double luminance(const QColor &color)
-{
-    const auto linear = [](double c) {
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 } // namespace
 

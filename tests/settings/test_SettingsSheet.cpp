@@ -6,7 +6,6 @@
 #include "controls/ViewAlpha.h"
 #include "settings/SheetRules.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QScrollArea>
 #include <QSignalSpy>
@@ -272,19 +271,6 @@ private Q_SLOTS:
         QVERIFY(!f.window()->isVisible());
     }
 
-    void cancellingWritesNothing()
-    {
-        Fixture f;
-        QVERIFY(f.open());
-        QSignalSpy ended(f.view.get(), &TamselClockSaverView::configurationEnded);
-        f.chooseVariant(u"nero"_s);
-        f.click(f.sheet().nightSwitch);
-        f.view->cancelConfiguration();
-        QCOMPARE(ended, QList<QVariantList>{{false}});
-        QVERIFY(QDir(f.folder.path()).isEmpty());
-        QCOMPARE(f.view->loadedPalette().activeVariant, u"orange"_s);
-    }
-
     void keysEndTheSheet_data()
     {
         QTest::addColumn<int>("key");
@@ -319,16 +305,6 @@ private Q_SLOTS:
         QTest::keyClick(target, Qt::Key(key));
         const QList<QVariantList> heard = ended;
         QTEST(heard, "expected");
-    }
-
-    void returnBeepsAtAnInvalidSchedule()
-    {
-        Fixture f;
-        f.setNight(night(true, 60, 60));
-        QVERIFY(f.open());
-        QTest::keyClick(f.window(), Qt::Key_Return);
-        QCOMPARE(g_beeps, 1);
-        QVERIFY(f.window()->isVisible());
     }
 
     void closingByTheDesktopCancels()
@@ -392,23 +368,6 @@ private Q_SLOTS:
         QCOMPARE(f.window()->height(), 482);
     }
 
-    void theSheetGoesWithItsHostsWindow()
-    {
-        Fixture f;
-        f.view = std::make_unique<TamselClockSaverView>(f.desktop(), false);
-        auto host = std::make_unique<QWidget>();
-        QWidget *window = f.view->configureSheet();
-        window->setParent(host.get(), window->windowFlags());
-        window->show();
-        f.chooseVariant(u"custom"_s);
-        f.type(kBaseColorKey, u"12"_s);
-        f.click(f.sheet().customBaseColorButton);
-        host.reset();
-        QVERIFY(!f.view->settingsSheet());
-        QVERIFY(f.open());
-        QCOMPARE(f.view->selectedVariantFromRadioButtons(), u"orange"_s);
-    }
-
     void aViewThatIsNeverAskedBuildsNoSheet()
     {
         Fixture f;
@@ -416,49 +375,6 @@ private Q_SLOTS:
         view->startAnimation();
         QVERIFY(view->hasConfigureSheet());
         QVERIFY(!view->settingsSheet());
-    }
-
-    void everythingHasANameAndCanBeReachedByKeys()
-    {
-        Fixture f;
-        f.set(f.stores.suite, kSelectedVariantKey, u"custom"_s);
-        f.setNight(night(true, 0, 60));
-        QVERIFY(f.open());
-        QStringList names;
-        QWidget *first = f.sheet().previewMode->buttons().first();
-        first->setFocus();
-        do {
-            QWidget *focused = f.window()->focusWidget();
-            names.append(f.nameOf(focused));
-            QTest::keyClick(focused, Qt::Key_Tab);
-        } while (f.window()->focusWidget() != first && names.size() < 40);
-        const QStringList expected{u"Preview day colors"_s,
-                                   u"Preview night colors"_s,
-                                   u"Cream"_s,
-                                   u"Orange"_s,
-                                   u"Blue"_s,
-                                   u"Nero"_s,
-                                   u"Custom"_s,
-                                   u"Day primary hex color"_s,
-                                   u"Day primary color"_s,
-                                   u"Day background hex color"_s,
-                                   u"Day background color"_s,
-                                   u"Swap colors"_s,
-                                   u"Monthly calendar"_s,
-                                   u"Night Mode"_s,
-                                   u"Night primary hex color"_s,
-                                   u"Night primary color"_s,
-                                   u"Night background hex color"_s,
-                                   u"Night background color"_s,
-                                   u"Swap colors"_s,
-                                   u"Night mode starts at"_s,
-                                   u"Night mode starts at"_s, // hour and minute
-
-                                   u"Night mode ends at"_s,
-                                   u"Night mode ends at"_s,
-                                   u"Cancel"_s,
-                                   u"OK"_s};
-        QCOMPARE(names, expected);
     }
 };
 
