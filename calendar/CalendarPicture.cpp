@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "calendar/CalendarPicture.h"
 
+#include "calendar/CalendarGrid.h"
+#include "calendar/TamselCalendarLayout.h"
 #include "calendar/TamselDrawCalendar.h"
 
 #include <QPainter>
@@ -18,18 +20,17 @@ double snapped(double length)
     return std::round(length * kStepsPerPixel) / kStepsPerPixel;
 }
 
-/// Everything that \p page covers when it is drawn into \p rect. Today's square stands out from its
-/// cell, some scripts stand out from their line.
-QRectF coveredRect(const CalendarPage &page, const QRectF &rect)
+} // namespace
+
+QRectF calendarReach(const CalendarMonth &month, const QRectF &rect)
 {
-    const double scale = rect.width() / page.grid.width;
-    const double height = page.grid.height(page.rows()) * scale;
-    const double margin = page.grid.columnGap * scale;
+    const CalendarGrid grid = calendarGrid(month.portrait);
+    const double scale = rect.width() / grid.width;
+    const double height = grid.height(TamselCalendarRows(month.date)) * scale;
+    const double margin = grid.columnGap * scale;
     return QRectF(rect.topLeft(), QSizeF(rect.width(), height))
         .adjusted(-margin, -margin, margin, margin);
 }
-
-} // namespace
 
 void CalendarPicture::draw(QPainter &painter, const QColor &background, const QColor &mark,
                            const CalendarMonth &month, const QRectF &rect)
@@ -53,7 +54,7 @@ void CalendarPicture::fill(const Look &look)
 {
     m_look = look;
     const QRectF rect(look.x, look.y, look.width, 0.0);
-    m_area = coveredRect(*m_page, rect).toAlignedRect();
+    m_area = calendarReach(m_page->month, rect).toAlignedRect();
     if (m_pixels.size() != m_area.size())
         m_pixels = QImage(m_area.size(), QImage::Format_ARGB32_Premultiplied);
     m_pixels.fill(Qt::transparent);

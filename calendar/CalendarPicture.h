@@ -11,6 +11,10 @@
 
 class QPainter;
 
+/// Everything that \p month covers when it is drawn into \p rect. Today's square stands out from
+/// its cell, some scripts stand out from their line.
+QRectF calendarReach(const CalendarMonth &month, const QRectF &rect);
+
 /// The month as pixels, kept from frame to frame. It is laid out when the day, the locale or the
 /// arrangement changes, and filled anew when the colours change or the month moves or grows by
 /// 1/256 pixel of the device. What has been kept never shows: a fresh picture draws the same

@@ -165,7 +165,9 @@ QRegion places(const ClockFrame &frame, double ratio)
             .toAlignedRect();
     };
     const QRegion clock = pixels(frame.clockRect);
-    return frame.calendar ? clock + pixels(frame.calendar->rect) : clock;
+    if (!frame.calendar)
+        return clock;
+    return clock + pixels(calendarReach(frame.calendar->month, frame.calendar->rect));
 }
 
 } // namespace
@@ -198,6 +200,20 @@ QRegion pixelsTouched(const QRegion &points, const QTransform &toDevice)
     for (const QRect &rect : points)
         pixels += toDevice.mapRect(QRectF(rect)).toAlignedRect();
     return pixels;
+}
+
+QRegion pointsCovering(const QRegion &pixels, double ratio)
+{
+    if (ratio == 1.0)
+        return pixels;
+    const double margin = ratio == std::floor(ratio) ? 0.0 : 1.0;
+    const QTransform toPoints = QTransform::fromScale(1.0 / ratio, 1.0 / ratio);
+    QRegion points;
+    for (const QRect &rect : pixels) {
+        points += toPoints.mapRect(QRectF(rect).adjusted(-margin, -margin, margin, margin))
+                      .toAlignedRect();
+    }
+    return points;
 }
 
 QRegion secondHandArea(const ClockFrame &frame, double ratio)

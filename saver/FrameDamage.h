@@ -22,6 +22,10 @@ QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double rati
 /// Every pixel of a device that \p points touch.
 QRegion pixelsTouched(const QRegion &points, const QTransform &toDevice);
 
+/// The points that cover \p pixels, counted from the view's top-left corner. At a density between
+/// whole numbers a point's edge may lie inside a pixel, so that a pixel more on each side is taken.
+QRegion pointsCovering(const QRegion &pixels, double ratio);
+
 /// The device pixels that the second hand of \p frame covers, and some around them; otherwise as
 /// frameDamage().
 QRegion secondHandArea(const ClockFrame &frame, double ratio);

@@ -5,12 +5,16 @@
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
+#include "saver/FrameDamage.h"
 #include "saver/PreviewLayout.h"
 
 #include <QAccessibleWidget>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QWindow>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -113,12 +117,19 @@ void TamselClockPreviewView::beginTicking()
 void TamselClockPreviewView::tick()
 {
     m_animationTimer.start(m_pacer.untilNextFrame(m_clocks.monotonicSeconds()));
-    update();
+    ClockFrame next = frame();
+    const double ratio = devicePixelRatioF();
+    if (isFading())
+        update();
+    else
+        update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
+    m_shown = std::move(next);
 }
 
 void TamselClockPreviewView::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    window()->windowHandle()->installEventFilter(this);
     if (m_animating)
         beginTicking();
 }
@@ -127,6 +138,18 @@ void TamselClockPreviewView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     m_animationTimer.stop();
+}
+
+bool TamselClockPreviewView::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *handle = window()->windowHandle();
+    if (event->type() == QEvent::Expose && watched == handle && m_animating && isVisible()) {
+        if (!handle->isExposed())
+            m_animationTimer.stop();
+        else if (!m_animationTimer.isActive())
+            beginTicking();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void TamselClockPreviewView::setCalendarEnabled(bool enabled)
@@ -152,8 +175,12 @@ void TamselClockPreviewView::beginColorTransition()
 {
     if (!isVisible() || m_artwork.faceImage.isNull())
         return;
-    m_transitionImage =
-        pictureOf(size(), devicePixelRatioF(), [this](QPainter &painter) { drawRect(painter); });
+    // A slider brings several colours between two frames; what is seen is still the look kept.
+    if (!isFading() || m_transitionSeen) {
+        m_transitionImage = pictureOf(size(), devicePixelRatioF(),
+                                      [this](QPainter &painter) { drawRect(painter); });
+        m_transitionSeen = false;
+    }
     m_transitionStart = m_clocks.monotonicSeconds();
 }
 
@@ -178,8 +205,8 @@ ClockFrame TamselClockPreviewView::frame() const
 
 void TamselClockPreviewView::drawRect(QPainter &painter)
 {
-    painter.setRenderHint(QPainter::Antialiasing);
-    m_painter.paint(painter, frame(), rect());
+    FrameScratch scratch;
+    drawFrame(painter, frame(), scratch);
     if (isFading())
         drawTransition(painter);
 }
@@ -188,6 +215,7 @@ void TamselClockPreviewView::drawTransition(QPainter &painter)
 {
     const double passed = m_clocks.monotonicSeconds() - m_transitionStart;
     const double faded = std::min(passed / kColorFadeSeconds, 1.0);
+    m_transitionSeen = true;
     painter.setOpacity(1.0 - faded);
     painter.drawPixmap(rect(), m_transitionImage);
     painter.setOpacity(1.0);
@@ -195,16 +223,35 @@ void TamselClockPreviewView::drawTransition(QPainter &painter)
         m_transitionImage = {};
 }
 
-void TamselClockPreviewView::paintEvent(QPaintEvent *)
+bool TamselClockPreviewView::touchesCorners(const QRegion &region) const
+{
+    const int side = int(std::ceil(m_cornerRadius));
+    const QRect inner = rect();
+    return QRegion(inner)
+        .subtracted(inner.adjusted(0, side, 0, -side))
+        .subtracted(inner.adjusted(side, 0, -side, 0))
+        .intersects(region);
+}
+
+void TamselClockPreviewView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    if (m_cornerRadius <= 0.0) {
-        drawRect(painter);
+    const bool isWhole = event->region().contains(rect());
+    if (isWhole || isFading() || m_shown.bounds != displayRect())
+        m_shown = frame();
+    if (m_cornerRadius <= 0.0 || !touchesCorners(event->region())) {
+        m_painter.paint(painter, m_shown, event->region());
+        if (isFading())
+            drawTransition(painter);
         return;
     }
     // A clip would leave the corners ragged; a filled shape has smooth ones.
     const double scale = painter.deviceTransform().m11();
-    QPixmap picture = pictureOf(size(), scale, [this](QPainter &inside) { drawRect(inside); });
+    QPixmap picture = pictureOf(size(), scale, [this](QPainter &inside) {
+        m_painter.paint(inside, m_shown, rect());
+        if (isFading())
+            drawTransition(inside);
+    });
     picture.setDevicePixelRatio(1.0);
     QBrush brush(picture);
     brush.setTransform(QTransform::fromScale(1.0 / scale, 1.0 / scale));

@@ -46,7 +46,7 @@ public:
     /// Corner radius in points; 0, the default, leaves the corners square.
     void setCornerRadius(double radius);
 
-    /// Repaints 60 times a second, as long as the view can be seen.
+    /// Repaints what changed 60 times a second, as long as the view can be seen.
     void startAnimation();
     void stopAnimation();
     bool isAnimating() const { return m_animating; }
@@ -67,10 +67,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    /// Hears whether the window can be seen, which not every hiding of it tells the widgets.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     ClockFrame frame() const;
     void drawTransition(QPainter &painter);
+    bool touchesCorners(const QRegion &region) const;
     void beginTicking();
     void tick();
 
@@ -84,6 +87,8 @@ private:
 
     /// The look that is fading out; null when none is.
     QPixmap m_transitionImage;
+    /// Whether it has been drawn fading yet.
+    bool m_transitionSeen = false;
     /// When that began, in seconds of the monotonic clock.
     double m_transitionStart = 0.0;
     /// The calendar's progress at its last toggle, and when that was on the same clock.
@@ -93,5 +98,7 @@ private:
     bool m_animating = false;
     platform::FramePacer m_pacer;
     QTimer m_animationTimer;
+    /// What is on screen but for a look that fades.
+    ClockFrame m_shown;
     FramePainter m_painter;
 };

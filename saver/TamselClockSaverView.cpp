@@ -14,26 +14,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include <cmath>
-
 namespace {
 constexpr double kFrameInterval = 1.0 / 30.0;
-
-/// The points that cover \p pixels. At a density between whole numbers a point's edge may lie
-/// inside a pixel, so that a pixel more on each side is taken.
-QRegion pointsCovering(const QRegion &pixels, double ratio)
-{
-    if (ratio == 1.0)
-        return pixels;
-    const double margin = ratio == std::floor(ratio) ? 0.0 : 1.0;
-    const QTransform toPoints = QTransform::fromScale(1.0 / ratio, 1.0 / ratio);
-    QRegion points;
-    for (const QRect &rect : pixels) {
-        points += toPoints.mapRect(QRectF(rect).adjusted(-margin, -margin, margin, margin))
-                      .toAlignedRect();
-    }
-    return points;
-}
 } // namespace
 
 TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,

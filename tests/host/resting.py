@@ -100,6 +100,27 @@ def another_session():
         process.wait()
 
 
+def options_out_of_sight():
+    environment = {k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"}
+    program = subprocess.Popen([PROGRAM, "--configure"], env=environment)
+
+    def sheet():
+        windows = [w for w in host.screen.root.query_tree().children if w.get_wm_name() == "Tamsel Clock"]
+        return next((w for w in windows if w.get_attributes().map_state == X.IsViewable), None)
+
+    window = wait_for("the options", sheet)
+    wait_for("a moving preview", lambda: waits_per_second(program) > 45)
+    window.unmap()
+    host.display.sync()
+    time.sleep(0.2)
+    check(waits_per_second(program) < 5, "options that nobody sees cost nothing")
+    window.map()
+    host.display.sync()
+    wait_for("a moving preview", lambda: waits_per_second(program) > 45)
+    stop(program, signal.SIGTERM)
+
+
 covered()
+options_out_of_sight()
 display_off()
 another_session()

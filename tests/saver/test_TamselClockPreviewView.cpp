@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QPainter>
+#include <QScreen>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -189,6 +190,34 @@ private Q_SLOTS:
         QVERIFY(f.view.isTicking());
         f.view.stopAnimation();
         QVERIFY(!f.view.isAnimating() && !f.view.isTicking());
+    }
+
+    /// On screen, where only what changed is painted: over a fade, a slide of the calendar and the
+    /// turn of a minute.
+    void whatIsOnScreenIsWhatIsDrawn()
+    {
+        Fixture f;
+        QVERIFY(f.show());
+        f.clocks.setNow(QDateTime(QDate(2026, 3, 14), QTime(10, 8, 58)));
+        f.view.startAnimation();
+        for (int i = 0; i < 200; ++i) {
+            f.clocks.advance(1.0 / 60.0);
+            if (i == 20 || i == 100)
+                f.view.setCalendarEnabled(i == 20);
+            if (i == 60) {
+                f.view.beginColorTransition();
+                f.view.setBackgroundColor(Qt::blue);
+            }
+            int difference = 255;
+            for (int look = 0; look < 100 && difference > 4; ++look) {
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+                const QImage screen = f.view.screen()->grabWindow(f.view.winId()).toImage();
+                difference = pixels::largestDifference(screen.convertToFormat(QImage::Format_RGB32),
+                                                       f.drawn());
+            }
+            QVERIFY2(difference <= 4,
+                     qPrintable(u"frame %1 differs by %2"_s.arg(i).arg(difference)));
+        }
     }
 
     void theCornersAreRoundAndSmooth()
