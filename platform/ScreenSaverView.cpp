@@ -4,13 +4,10 @@
 #include "platform/Clocks.h"
 #include "platform/FramePresenter.h"
 
-#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimerEvent>
 #include <QWindow>
-
-using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -81,11 +78,6 @@ bool ScreenSaverView::isSeen() const
 void ScreenSaverView::drawRect(QPainter &painter, const QRectF &dirtyRect)
 {
     painter.fillRect(dirtyRect, Qt::black);
-}
-
-bool ScreenSaverView::keepsPixels()
-{
-    return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
 void ScreenSaverView::dropPresenter()

@@ -52,10 +52,6 @@ public:
     virtual QWidget *configureSheet() { return nullptr; }
 
 protected:
-    /// Whether what was painted stays on the screen where nothing is painted anew. Not so on
-    /// Wayland, where a change of scale starts with an empty buffer that nobody announces.
-    static bool keepsPixels();
-
     /// Presents the frames while the view is a window of its own and the window system lets it;
     /// null where they are painted by Qt. Another one only after the view was hidden.
     FramePresenter *presenter() const { return m_presenter.get(); }

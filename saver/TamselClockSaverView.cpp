@@ -65,10 +65,12 @@ void TamselClockSaverView::animateOneFrame()
     }
     const double ratio = devicePixelRatioF();
     ClockFrame next = nextFrame();
-    if (keepsPixels())
-        update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
-    else
+    // A surface of another density is empty, and nothing asks to paint it whole.
+    if (m_shownRatio != ratio)
         update();
+    else
+        update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
+    m_shownRatio = ratio;
     m_shown = std::move(next);
 }
 

@@ -262,6 +262,8 @@ private:
     FrameScratch m_scratch;
     /// The frame on screen.
     ClockFrame m_shown;
+    /// Device pixels per point that it was painted at.
+    double m_shownRatio = 0.0;
     /// Draws it, through Qt or for the presenter.
     FramePainter m_painter;
     FrameSurface m_surface;

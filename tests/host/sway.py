@@ -136,6 +136,11 @@ def every_output_is_covered_at_its_scale():
     xdotool("mousemove_relative", "4", "2")
     time.sleep(0.2)
     check(is_alive(clock), "a tremble does not end the clock")
+    for scale in ["1", "2", "1.5", "2"]:
+        sway_message(f"output X11-1 scale {scale}")
+        time.sleep(0.5)
+        check(is_covered(output_windows()[0]), f"the clock is whole after a change to scale {scale}")
+    look("sway-scaled")
     xdotool("mousemove_relative", "90", "40")
     ended(clock, "a movement")
 
