@@ -1,36 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "platform/WindowBlending.h"
 
+#include "platform/XcbReply.h"
+
 #include <QGuiApplication>
 
 #include <xcb/xcb.h>
-
-#include <cstdlib>
-#include <memory>
 
 namespace platform {
 
 namespace {
 
-template <typename Reply>
-using Received = std::unique_ptr<Reply, decltype(&std::free)>;
-
 /// A compositor owns a selection for each screen; Qt's windows stand on the first.
 bool hasCompositor(xcb_connection_t *connection)
 {
     const QByteArray name("_NET_WM_CM_S0");
-    const Received<xcb_intern_atom_reply_t> atom(
-        xcb_intern_atom_reply(
-            connection,
-            xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.constData()),
-            nullptr),
-        &std::free);
+    const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
+        connection, xcb_intern_atom(connection, 0, uint16_t(name.size()), name.constData()),
+        nullptr));
     if (!atom)
         return false;
-    const Received<xcb_get_selection_owner_reply_t> owner(
-        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom),
-                                      nullptr),
-        &std::free);
+    const XcbReply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
+        connection, xcb_get_selection_owner(connection, atom->atom), nullptr));
     return owner && owner->owner != XCB_WINDOW_NONE;
 }
 
