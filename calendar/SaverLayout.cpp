@@ -14,12 +14,17 @@ double driftScale(const platform::ScreenSaverView &view, const QDateTime &now)
 
 } // namespace
 
+CalendarLayoutRects TamselClockSaverView::places(const QDateTime &now) const
+{
+    const double scale = driftScale(*this, now);
+    if (m_settings.calendarEnabled)
+        return TamselCalendarLayout(now.date(), rect(), scale);
+    return {TamselSoloClockRect(rect(), scale), {}};
+}
+
 QRectF TamselClockSaverView::clockRect() const
 {
-    const QDateTime now = clocks().now();
-    const double scale = driftScale(*this, now);
-    return m_settings.calendarEnabled ? TamselCalendarLayout(now.date(), rect(), scale).clock
-                                      : TamselSoloClockRect(rect(), scale);
+    return places(clocks().now()).clock;
 }
 
 QRectF TamselClockSaverView::calendarRect() const

@@ -57,6 +57,17 @@ private:
     xcb_connection_t *m_connection;
 };
 
+/// Whether pixels of \p depth take four bytes each.
+bool isUnpacked(const xcb_setup_t &setup, uint8_t depth)
+{
+    auto format = xcb_setup_pixmap_formats_iterator(&setup);
+    for (; format.rem; xcb_format_next(&format)) {
+        if (format.data->depth == depth)
+            return format.data->bits_per_pixel == 32;
+    }
+    return false;
+}
+
 /// Whether the window's pixels are those of a QImage in RGB32.
 bool hasPlainPixels(const xcb_setup_t &setup, xcb_visualid_t visualId)
 {
@@ -70,8 +81,9 @@ bool hasPlainPixels(const xcb_setup_t &setup, xcb_visualid_t visualId)
             auto visual = xcb_depth_visuals_iterator(depth.data);
             for (; visual.rem; xcb_visualtype_next(&visual)) {
                 if (visual.data->visual_id == visualId)
-                    return depth.data->depth >= 24 && visual.data->red_mask == 0xff0000 &&
-                           visual.data->green_mask == 0xff00 && visual.data->blue_mask == 0xff;
+                    return isUnpacked(setup, depth.data->depth) &&
+                           visual.data->red_mask == 0xff0000 && visual.data->green_mask == 0xff00 &&
+                           visual.data->blue_mask == 0xff;
             }
         }
     }

@@ -192,6 +192,11 @@ ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio)
     return next;
 }
 
+bool covers(const QRegion &region, const QRect &rect)
+{
+    return QRegion(rect).subtracted(region).isEmpty();
+}
+
 QRegion pixelsTouched(const QRegion &points, const QTransform &toDevice)
 {
     if (toDevice.isIdentity())

@@ -19,6 +19,9 @@ ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio)
 /// per point.
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio);
 
+/// Whether \p region has all of \p rect.
+bool covers(const QRegion &region, const QRect &rect);
+
 /// Every pixel of a device that \p points touch.
 QRegion pixelsTouched(const QRegion &points, const QTransform &toDevice);
 

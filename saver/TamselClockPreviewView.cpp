@@ -236,8 +236,7 @@ bool TamselClockPreviewView::touchesCorners(const QRegion &region) const
 void TamselClockPreviewView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const bool isWhole = event->region().contains(rect());
-    if (isWhole || isFading() || m_shown.bounds != displayRect())
+    if (covers(event->region(), rect()) || isFading() || m_shown.bounds != displayRect())
         m_shown = frame();
     if (m_cornerRadius <= 0.0 || !touchesCorners(event->region())) {
         m_painter.paint(painter, m_shown, event->region());

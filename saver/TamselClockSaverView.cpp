@@ -99,15 +99,16 @@ ClockFrame TamselClockSaverView::nextFrame()
     frame.bounds = QRectF(rect());
     frame.background = displayedBackgroundColor();
     frame.mark = displayedMarkColor();
-    frame.clockRect = clockRect();
     frame.tinted = paletteTransitionProgress() < 1.0;
     if (!frame.tinted)
         m_transition = {};
     frame.artwork = m_palette.artwork;
     const QDateTime now = clocks().now();
+    const CalendarLayoutRects rects = places(now);
+    frame.clockRect = rects.clock;
     frame.angles = TamselClockAnglesForDate(now);
     if (m_settings.calendarEnabled)
-        frame.calendar = {calendarRect(),
+        frame.calendar = {rects.calendar,
                           {now.date(), calendarIsPortrait(frame.bounds.size()), QLocale::system()}};
     return withDriftHeld(m_shown, std::move(frame), devicePixelRatioF());
 }
@@ -130,8 +131,7 @@ void TamselClockSaverView::paintEvent(QPaintEvent *event)
         presentFrame(event->region());
         return;
     }
-    const bool isWhole = QRegion(rect()).subtracted(event->region()).isEmpty();
-    if (isWhole || m_shown.bounds != QRectF(rect()))
+    if (covers(event->region(), rect()) || m_shown.bounds != QRectF(rect()))
         m_shown = nextFrame();
     QPainter painter(this);
     m_painter.paint(painter, m_shown, event->region());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "calendar/TamselCalendarLayout.h"
 #include "platform/Desktop.h"
 #include "platform/ScreenSaverView.h"
 #include "prefs/StoredSettings.h"
@@ -242,6 +243,8 @@ protected:
     void endEditing();
 
 private:
+    /// Where clock and calendar stand at \p now; the calendar nowhere while it is off.
+    CalendarLayoutRects places(const QDateTime &now) const;
     void presentFrame(const QRegion &exposed);
 
     void loadNightPalette();
