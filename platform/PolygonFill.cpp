@@ -65,10 +65,11 @@ void CoveredPixels::restore(QImage &image)
 {
     uchar *const bits = image.bits();
     const QRgb *pixels = m_pixels.data() + m_pixels.size();
-    for (auto run = m_runs.rbegin(); run != m_runs.rend(); ++run) {
-        pixels -= run->count;
-        auto *row = reinterpret_cast<QRgb *>(bits + run->y * image.bytesPerLine());
-        std::copy_n(pixels, run->count, row + run->x);
+    for (size_t i = m_runs.size(); i-- > 0;) {
+        const Run &run = m_runs[i];
+        pixels -= run.count;
+        auto *row = reinterpret_cast<QRgb *>(bits + run.y * image.bytesPerLine());
+        std::copy_n(pixels, run.count, row + run.x);
     }
     clear();
 }

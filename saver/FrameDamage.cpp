@@ -164,10 +164,10 @@ QRegion places(const ClockFrame &frame, double ratio)
             .adjusted(-kInkMargin, -kInkMargin, kInkMargin, kInkMargin)
             .toAlignedRect();
     };
-    const QRegion clock = pixels(frame.clockRect);
-    if (!frame.calendar)
-        return clock;
-    return clock + pixels(calendarReach(frame.calendar->month, frame.calendar->rect));
+    QRegion region = pixels(frame.clockRect);
+    if (frame.calendar)
+        region += pixels(calendarReach(frame.calendar->month, frame.calendar->rect));
+    return region;
 }
 
 } // namespace
