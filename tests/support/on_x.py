@@ -1,11 +1,12 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Runs a program with its windows on an X server of its own."""
+"""Runs a program with its windows on an X server of its own: on_x.py [SERVER-OPTION...] -- PROGRAM [ARGUMENT...]"""
 import os
 import subprocess
 import sys
 
 from xhost import start_x_server
 
-start_x_server("-screen", "0", "800x600x24")
-sys.exit(subprocess.run(sys.argv[1:], env={**os.environ, "QT_QPA_PLATFORM": "xcb"}).returncode)
+end = sys.argv.index("--")
+start_x_server("-screen", "0", "800x600x24", *sys.argv[1:end])
+sys.exit(subprocess.run(sys.argv[end + 1:], env={**os.environ, "QT_QPA_PLATFORM": "xcb"}).returncode)
