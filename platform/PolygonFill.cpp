@@ -7,29 +7,37 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace platform {
 
 namespace {
 
 /// The corners' positions are rounded to 1/64 pixel.
-QPointF onCornerGrid(const QPointF &corner)
-{
-    constexpr double kGrid = 64.0;
-    return {std::round(corner.x() * kGrid) / kGrid, std::round(corner.y() * kGrid) / kGrid};
-}
+constexpr int kCornerBits = 6;
+constexpr int kRow = 1 << kCornerBits;
 
-/// A whole pixel in the numbers of covered area.
-constexpr int kWhole = 1 << 16;
+/// Bits of a fraction of a pixel along a row, and along an edge, where rounding adds up.
+constexpr int kFractionBits = 16;
+constexpr int kEdgeBits = 32;
+
+/// A whole pixel, as a length along a row and in the numbers of covered area.
+constexpr int kWhole = 1 << kFractionBits;
+
+QPoint onCornerGrid(const QPointF &corner)
+{
+    return {qRound(corner.x() * kRow), qRound(corner.y() * kRow)};
+}
 
 /// Coverage 0 to 255 of a pixel around which the outline winds \p winding / kWhole times on
 /// average, rounded down before the sign is dropped, as Qt does. What rounding leaves behind of a
 /// zero is none.
-int coverage(int winding, Qt::FillRule rule)
+template <Qt::FillRule rule>
+int coverage(int winding)
 {
     constexpr int kResidue = 8;
     int covered = std::abs((winding + kResidue) >> 8);
-    if (rule == Qt::OddEvenFill) {
+    if constexpr (rule == Qt::OddEvenFill) {
         covered &= 511;
         if (covered > 256)
             covered = 512 - covered;
@@ -37,39 +45,83 @@ int coverage(int winding, Qt::FillRule rule)
     return std::min(covered, 255);
 }
 
-/// \p pixel times \p alpha / 255, each channel rounded; two channels at a time.
-QRgb scaled(QRgb pixel, QRgb alpha)
+/// How the part of a row to the right of an edge grows, for an edge that crosses the row wholly.
+class Ramp
 {
-    const auto twoChannels = [alpha](QRgb channels) {
-        const QRgb product = channels * alpha;
-        return (product + ((product >> 8) & 0xff00ff) + 0x800080) >> 8 & 0xff00ff;
-    };
-    return twoChannels(pixel & 0xff00ff) | twoChannels(pixel >> 8 & 0xff00ff) << 8;
-}
+public:
+    /// \p x is where the edge enters the row.
+    Ramp(qint64 x, qint64 slope)
+    {
+        const auto enters = int(x >> (kEdgeBits - kFractionBits));
+        const auto leaves = int((x + slope) >> (kEdgeBits - kFractionBits));
+        const int left = std::min(enters, leaves);
+        const int right = std::max(enters, leaves);
+        first = left >> kFractionBits;
+        // At least two pixels: one or two would change from row to row, and be guessed wrong.
+        last = std::max(right >> kFractionBits, first + 1);
+        m_begin = float(left - (first << kFractionBits)) / float(kWhole);
+        m_length = float(std::max(right - left, 1)) / float(kWhole);
+        m_growth = 0.5F / m_length;
+    }
 
+    /// Calls \p take(x, area) for each pixel that the edge crosses; area is the pixel's part to the
+    /// right of the edge, 0 to kWhole.
+    template <typename Take>
+    void eachPixel(Take take) const
+    {
+        float before = 0.0F;
+        float end = 1.0F - m_begin;
+        for (int x = first; x <= last; ++x, end += 1.0F) {
+            const float inside = std::min(end, m_length);
+            const float area = inside * inside * m_growth + (end - inside);
+            take(x, int((area - before) * float(kWhole)));
+            before = area;
+        }
+    }
+
+    int first;
+    int last;
+
+private:
+    /// In pixels, from the left side of the first.
+    float m_begin;
+    float m_length;
+    float m_growth;
+};
+
+/// Two channels at a time.
 QRgb blended(QRgb below, QRgb color, int coverage)
 {
-    return scaled(color, QRgb(coverage)) + scaled(below, QRgb(255 - coverage));
+    constexpr QRgb kTwoChannels = 0xff00ff;
+    const auto alpha = QRgb(coverage + (coverage >> 7)); // 0 to 256
+    const QRgb low = below & kTwoChannels;
+    const QRgb high = below >> 8 & kTwoChannels;
+    const QRgb lowBlend = low + (((color & kTwoChannels) - low) * alpha >> 8);
+    const QRgb highBlend = (high << 8) + ((color >> 8 & kTwoChannels) - high) * alpha;
+    return (lowBlend & kTwoChannels) | (highBlend & ~kTwoChannels);
 }
 
 } // namespace
 
-void CoveredPixels::keep(const QImage &image, int x, int y, int count)
+void CoveredPixels::keep(const QRgb *row, int x, int y, int count)
 {
-    const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y)) + x;
     m_runs.push_back({x, y, count});
-    m_pixels.insert(m_pixels.end(), row, row + count);
+    const size_t end = m_kept + size_t(count);
+    if (m_pixels.size() < end)
+        m_pixels.resize(2 * end);
+    std::copy_n(row + x, count, m_pixels.data() + m_kept);
+    m_kept = end;
 }
 
 void CoveredPixels::restore(QImage &image)
 {
     uchar *const bits = image.bits();
-    const QRgb *pixels = m_pixels.data() + m_pixels.size();
+    const qsizetype stride = image.bytesPerLine();
+    const QRgb *pixels = m_pixels.data() + m_kept;
     for (size_t i = m_runs.size(); i-- > 0;) {
         const Run &run = m_runs[i];
         pixels -= run.count;
-        auto *row = reinterpret_cast<QRgb *>(bits + run.y * image.bytesPerLine());
-        std::copy_n(pixels, run.count, row + run.x);
+        std::copy_n(pixels, run.count, reinterpret_cast<QRgb *>(bits + run.y * stride) + run.x);
     }
     clear();
 }
@@ -77,42 +129,110 @@ void CoveredPixels::restore(QImage &image)
 void CoveredPixels::clear()
 {
     m_runs.clear();
-    m_pixels.clear();
+    m_kept = 0;
 }
 
 void PolygonFill::fill(QImage &image, const QList<QPolygonF> &outlines, const QTransform &place,
                        Qt::FillRule rule, QRgb color, CoveredPixels &covered)
 {
     takeEdges(outlines, place);
-    m_growth.resize(size_t(image.width()) + 2, 0);
-    m_active.clear();
+    if (rule == Qt::OddEvenFill)
+        fillRows<Qt::OddEvenFill>(image, color, covered);
+    else
+        fillRows<Qt::WindingFill>(image, color, covered);
+}
+
+template <Qt::FillRule rule>
+void PolygonFill::fillRows(QImage &image, QRgb color, CoveredPixels &covered)
+{
+    const int width = image.width();
+    const int height = image.height();
+    const qsizetype stride = image.bytesPerLine();
     uchar *const bits = image.bits();
-    auto next = m_edges.cbegin();
-    int y = next == m_edges.cend() ? image.height() : std::max(int(next->top), 0);
-    for (; y < image.height(); ++y) {
-        for (; next != m_edges.cend() && next->top < y + 1; ++next) {
-            if (next->bottom > y)
-                m_active.push_back(*next);
-        }
-        if (m_active.empty() && next == m_edges.cend())
+    m_growth.resize(size_t(width) + 3, 0);
+    m_active.clear();
+    m_next = 0;
+    int y = m_edges.empty() ? height : std::max(m_edges.front().top >> kCornerBits, 0);
+    while (y < height) {
+        enterEdges(y);
+        if (m_active.empty() && m_next == m_edges.size())
             break;
-        accumulateRow(y, image.width());
-        const int end = std::min(m_last + 1, image.width());
-        if (m_first < end)
-            covered.keep(image, m_first, y, end - m_first);
-        auto *pixels = reinterpret_cast<QRgb *>(bits + y * image.bytesPerLine());
-        int winding = 0;
-        for (int x = m_first; x < end; ++x) {
-            winding += m_growth[size_t(x)];
-            const int coveredPart = coverage(winding, rule);
-            if (coveredPart == 255)
-                pixels[x] = color;
-            else if (coveredPart > 0)
-                pixels[x] = blended(pixels[x], color, coveredPart);
+        if (const int filledTo = fillBetweenTwo(image, y, color, covered); filledTo > y) {
+            y = filledTo;
+            continue;
         }
-        if (m_first <= m_last)
-            std::fill(m_growth.begin() + m_first, m_growth.begin() + m_last + 1, 0);
+        const RowSum sum = sumOfRow(y, width);
+        const int end = std::min(sum.last + 1, width);
+        auto *const row = reinterpret_cast<QRgb *>(bits + y * stride);
+        if (sum.first < end)
+            covered.keep(row, sum.first, y, end - sum.first);
+        int winding = 0;
+        for (int x = sum.first; x < end;) {
+            winding += std::exchange(sum.growth[x], 0);
+            const int alpha = coverage<rule>(winding);
+            row[x] = blended(row[x], color, alpha);
+            const int from = ++x;
+            while (x < end && sum.growth[x] == 0)
+                ++x;
+            if (alpha == 255)
+                std::fill(row + from, row + x, color);
+            else if (alpha > 0)
+                std::transform(row + from, row + x, row + from,
+                               [&](QRgb below) { return blended(below, color, alpha); });
+        }
+        for (int x = std::max(sum.first, end); x <= sum.last; ++x)
+            sum.growth[x] = 0;
+        ++y;
     }
+}
+
+/// Makes those edges active that reach into row \p y.
+void PolygonFill::enterEdges(int y)
+{
+    std::erase_if(m_active, [y](const Edge &edge) { return edge.bottom <= y * kRow; });
+    for (; m_next < m_edges.size() && m_edges[m_next].top < (y + 1) * kRow; ++m_next) {
+        Edge edge = m_edges[m_next];
+        if (edge.bottom <= y * kRow)
+            continue;
+        edge.x += std::max(y * kRow - edge.top, 0) * (edge.slope >> kCornerBits);
+        m_active.push_back(edge);
+    }
+}
+
+/// Most rows of a hand lie between two edges that cross them wholly: the same done with less ado.
+/// Fills such rows from \p y on and returns the first that is none.
+int PolygonFill::fillBetweenTwo(QImage &image, int y, QRgb color, CoveredPixels &covered)
+{
+    if (m_active.size() != 2 || m_active[0].area + m_active[1].area != 0 ||
+        std::max(m_active[0].top, m_active[1].top) > y * kRow)
+        return y;
+    const bool inOrder = m_active[0].x < m_active[1].x;
+    Edge &left = m_active[inOrder ? 0 : 1];
+    Edge &right = m_active[inOrder ? 1 : 0];
+    int end = std::min({left.bottom, right.bottom, image.height() * kRow});
+    if (m_next < m_edges.size())
+        end = std::min(end, m_edges[m_next].top);
+    end >>= kCornerBits;
+    const int width = image.width();
+    const qsizetype stride = image.bytesPerLine();
+    auto *line = image.bits() + y * stride;
+    for (; y < end; ++y, line += stride) {
+        const Ramp in(left.x, left.slope);
+        const Ramp out(right.x, right.slope);
+        if (in.first < 0 || in.last >= out.first || out.last >= width)
+            break;
+        auto *const row = reinterpret_cast<QRgb *>(line);
+        covered.keep(row, in.first, y, out.last + 1 - in.first);
+        const auto blend = [&](int x, int area) {
+            row[x] = blended(row[x], color, coverage<Qt::WindingFill>(area));
+        };
+        in.eachPixel(blend);
+        std::fill(row + in.last + 1, row + out.first, color);
+        out.eachPixel([&](int x, int area) { blend(x, kWhole - area); });
+        left.x += left.slope;
+        right.x += right.slope;
+    }
+    return y;
 }
 
 /// Level edges bound no area.
@@ -122,16 +242,17 @@ void PolygonFill::takeEdges(const QList<QPolygonF> &outlines, const QTransform &
     for (const QPolygonF &outline : outlines) {
         if (outline.isEmpty())
             continue;
-        QPointF from = onCornerGrid(place.map(outline.last()));
+        QPoint from = onCornerGrid(place.map(outline.last()));
         for (const QPointF &corner : outline) {
-            const QPointF to = onCornerGrid(place.map(corner));
+            const QPoint to = onCornerGrid(place.map(corner));
             if (from.y() != to.y()) {
                 const bool goesDown = from.y() < to.y();
-                const QPointF upper = goesDown ? from : to;
-                const QPointF lower = goesDown ? to : from;
-                const double slope = (lower.x() - upper.x()) / (lower.y() - upper.y());
-                m_edges.push_back(
-                    {upper.y(), lower.y(), upper.x(), slope, goesDown ? kWhole : -kWhole});
+                const QPoint upper = goesDown ? from : to;
+                const QPoint lower = goesDown ? to : from;
+                const qint64 across = qint64(lower.x() - upper.x()) << kEdgeBits;
+                m_edges.push_back({upper.y(), lower.y(),
+                                   qint64(upper.x()) << (kEdgeBits - kCornerBits),
+                                   across / (lower.y() - upper.y()), goesDown ? kWhole : -kWhole});
             }
             from = to;
         }
@@ -140,81 +261,90 @@ void PolygonFill::takeEdges(const QList<QPolygonF> &outlines, const QTransform &
               [](const Edge &a, const Edge &b) { return a.top < b.top; });
 }
 
-/// Sums up what the active edges bound to their right in each pixel of row \p y; an edge that goes
-/// up takes away what one that goes down adds. Edges that end here are no longer active.
-void PolygonFill::accumulateRow(int y, int width)
+/// Sums up the active edges in row \p y; an edge that goes up takes away what one that goes down
+/// adds. Afterwards they stand where they enter the next row.
+PolygonFill::RowSum PolygonFill::sumOfRow(int y, int width)
 {
-    m_first = width + 1;
-    m_last = -1;
-    const auto right = float(width);
-    size_t kept = 0;
+    const int top = y * kRow;
+    const int bottom = top + kRow;
+    const int right = width << kFractionBits;
+    RowSum sum{m_growth.data(), width + 1, -1};
     for (Edge &edge : m_active) {
-        const double from = std::max(edge.top, double(y));
-        const double to = std::min(edge.bottom, y + 1.0);
-        const auto enters = float(edge.xAtTop + (from - edge.top) * edge.slope);
-        const auto leaves = float(edge.xAtTop + (to - edge.top) * edge.slope);
-        const int area = int((to - from) * edge.area);
-        if (std::min(enters, leaves) >= 0.0F && std::max(enters, leaves) <= right)
-            accumulate(enters, leaves, area);
+        const auto from = int(edge.x >> (kEdgeBits - kFractionBits));
+        int area = edge.area;
+        if (edge.top <= top && edge.bottom >= bottom) {
+            edge.x += edge.slope;
+        } else {
+            const int height = std::min(edge.bottom, bottom) - std::max(edge.top, top);
+            edge.x += height * (edge.slope >> kCornerBits);
+            area = height * (edge.area >> kCornerBits);
+        }
+        const auto to = int(edge.x >> (kEdgeBits - kFractionBits));
+        if (std::min(from, to) >= 0 && std::max(from, to) <= right)
+            sum.add(from, to, area);
         else
-            accumulateClipped(enters, leaves, area, right);
-        if (edge.bottom > y + 1)
-            m_active[kept++] = edge;
+            sum.addClipped(from, to, area, right);
     }
-    m_active.resize(kept);
+    return sum;
 }
 
-/// As accumulate(), for an edge that leaves the picture at its sides.
-void PolygonFill::accumulateClipped(float from, float to, int area, float width)
+/// As add(), for an edge that leaves the picture at its sides.
+void PolygonFill::RowSum::addClipped(int from, int to, int area, int width)
 {
-    const float left = std::min(from, to);
-    const float right = std::max(from, to);
-    const float inLeft = std::clamp(left, 0.0F, width);
-    const float inRight = std::clamp(right, 0.0F, width);
-    const auto partOf = [&](float length) {
-        return right > left ? int(float(area) * (length / (right - left))) : 0;
+    const int left = std::min(from, to);
+    const int right = std::max(from, to);
+    const int inLeft = std::clamp(left, 0, width);
+    const int inRight = std::clamp(right, 0, width);
+    const auto partOf = [&](int length) {
+        return right > left ? int(qint64(area) * length / (right - left)) : 0;
     };
-    const int atLeft = right <= 0.0F ? area : partOf(std::max(0.0F, -left));
-    const int inside = left >= width || right <= 0.0F ? 0 : partOf(inRight - inLeft);
-    accumulate(0.0F, 0.0F, atLeft);
-    accumulate(inLeft, inRight, inside);
-    accumulate(width, width, area - atLeft - inside);
+    const int atLeft = right <= 0 ? area : partOf(std::max(0, -left));
+    const int inside = left >= width || right <= 0 ? 0 : partOf(inRight - inLeft);
+    add(0, 0, atLeft);
+    add(inLeft, inRight, inside);
+    add(width, width, area - atLeft - inside);
 }
 
 /// One row's part of an edge, with \p area to its right in a whole pixel. In each pixel it crosses,
-/// part of a trapezium lies to its right.
-void PolygonFill::accumulate(float from, float to, int area)
+/// part of a trapezium lies to its right, the rest of it in the next.
+inline void PolygonFill::RowSum::add(int from, int to, int area)
 {
-    int *row = m_growth.data();
-    const float left = std::min(from, to);
-    const float right = std::max(from, to);
-    int x = int(left);
-    const int last = int(right);
-    m_first = std::min(m_first, x);
-    m_last = std::max(m_last, last + 1);
-    if (x == last) {
-        const int rest = int(float(area) * (0.5F * (left + right) - float(x)));
-        row[x] += area - rest;
-        row[x + 1] += rest;
+    constexpr float kUnit = 1.0F / kWhole;
+    const int left = std::min(from, to);
+    const int right = std::max(from, to);
+    const int leftPixel = left >> kFractionBits;
+    const int rightPixel = right >> kFractionBits;
+    const int room = ((leftPixel + 1) << kFractionBits) - left;
+    first = std::min(first, leftPixel);
+    last = std::max(last, rightPixel + 1);
+    if (rightPixel <= leftPixel + 1) {
+        // One pixel or two; without a branch, as that changes from row to row.
+        const int length = std::max(right - left, 1);
+        const int inFirst = std::min(length, room);
+        const float share = float(inFirst) / float(length);
+        const float perUnit = float(area) * kUnit;
+        const auto one = int(perUnit * share * (float(room) - 0.5F * float(inFirst)));
+        const auto three = int(perUnit * (1.0F - share) * 0.5F * float(length - inFirst));
+        growth[leftPixel] += one;
+        growth[leftPixel + 1] += area - one - three;
+        growth[leftPixel + 2] += three;
         return;
     }
-    const float perPixel = float(area) / (right - left);
-    // Of a pixel wholly crossed, one half lies to the right of the edge in it, the other in the
-    // next.
-    const float inFirst = float(x + 1) - left;
-    int grown = int(0.5F * perPixel * inFirst * inFirst);
-    row[x] += grown;
+    const float perPixel = float(area) * float(kWhole) / float(right - left);
+    const float inFirst = float(room) * kUnit;
+    auto soFar = int(0.5F * perPixel * inFirst * inFirst);
+    growth[leftPixel] += soFar;
     float crossed = perPixel * inFirst;
-    for (++x; x < last; ++x) {
-        const int soFar = int(crossed + 0.5F * perPixel);
-        row[x] += soFar - grown;
-        grown = soFar;
+    for (int x = leftPixel + 1; x < rightPixel; ++x) {
+        const auto sum = int(crossed + 0.5F * perPixel);
+        growth[x] += sum - soFar;
+        soFar = sum;
         crossed += perPixel;
     }
-    const float inLast = right - float(last);
-    const int soFar = int(crossed + perPixel * inLast * (1.0F - 0.5F * inLast));
-    row[last] += soFar - grown;
-    row[last + 1] += area - soFar;
+    const float inLast = float(right - (rightPixel << kFractionBits)) * kUnit;
+    const auto sum = int(crossed + perPixel * inLast * (1.0F - 0.5F * inLast));
+    growth[rightPixel] += sum - soFar;
+    growth[rightPixel + 1] += area - sum;
 }
 
 } // namespace platform

@@ -16,8 +16,8 @@ namespace platform {
 class CoveredPixels
 {
 public:
-    /// Puts aside \p count pixels of row \p y, from column \p x on.
-    void keep(const QImage &image, int x, int y, int count);
+    /// Puts aside \p count pixels of row \p y, from column \p x on; \p row is its first pixel.
+    void keep(const QRgb *row, int x, int y, int count);
     /// Puts all back to where they were, the last first, and forgets them.
     void restore(QImage &image);
     void clear();
@@ -30,12 +30,15 @@ private:
         int count;
     };
     std::vector<Run> m_runs;
+    /// Those put aside, and room for more.
     std::vector<QRgb> m_pixels;
+    size_t m_kept = 0;
 };
 
 /// Fills antialiased polygons by the exact area of each pixel that they cover. That is the rule of
 /// Qt's rasterizer too, and corners are rounded as it does, so that the two differ by a few 255ths;
-/// for slender slanting shapes this one is several times quicker.
+/// for slender slanting shapes this one is several times quicker. Corners lie within 32,767 pixels
+/// of the picture's own.
 class PolygonFill
 {
 public:
@@ -47,28 +50,44 @@ public:
 private:
     struct Edge
     {
-        double top;
-        double bottom;
-        double xAtTop;
-        double slope;
+        /// In 64ths of a pixel.
+        int top;
+        int bottom;
+        /// Where it enters the row at hand, and how far it goes in a row; 2^32 to the pixel.
+        qint64 x;
+        qint64 slope;
         /// Covered to its right in a row that it crosses wholly; negative where it goes up.
         int area;
     };
 
+    /// The sum of what edges bound to their right in one row. Positions are 2^16 to the pixel.
+    struct RowSum
+    {
+        /// Per pixel, how much the covered part of the row grows there; three pixels more than the
+        /// picture is wide take what reaches beyond its right end.
+        int *growth;
+        /// Beyond them all is zero.
+        int first;
+        int last;
+
+        void add(int from, int to, int area);
+        void addClipped(int from, int to, int area, int width);
+    };
+
     void takeEdges(const QList<QPolygonF> &outlines, const QTransform &place);
-    void accumulateRow(int y, int width);
-    void accumulate(float from, float to, int area);
-    void accumulateClipped(float from, float to, int area, float width);
+    template <Qt::FillRule rule>
+    void fillRows(QImage &image, QRgb color, CoveredPixels &covered);
+    void enterEdges(int y);
+    int fillBetweenTwo(QImage &image, int y, QRgb color, CoveredPixels &covered);
+    RowSum sumOfRow(int y, int width);
 
     std::vector<Edge> m_edges;
-    /// Edges that reach into the row at hand, or are above it.
+    /// The first of them that is below the row at hand.
+    size_t m_next = 0;
+    /// Those that reach into the row at hand.
     std::vector<Edge> m_active;
-    /// Of one row: per pixel, how much the covered part of the row grows there. Two pixels more
-    /// take what reaches beyond the right end. All zero between two rows.
+    /// Of the row at hand; all zero between two rows.
     std::vector<int> m_growth;
-    /// What is not zero in it; first is beyond last when all is.
-    int m_first = 0;
-    int m_last = -1;
 };
 
 } // namespace platform

@@ -45,7 +45,8 @@ void SecondHand::draw(QImage &image, const ClockFrame &frame, const QTransform &
     if (!m_shapes) {
         for (const QRect &rect : secondHandArea(frame, toDevice.m11()) & image.rect()) {
             for (int y = rect.top(); y <= rect.bottom(); ++y)
-                m_covered.keep(image, rect.x(), y, rect.width());
+                m_covered.keep(reinterpret_cast<const QRgb *>(image.constScanLine(y)), rect.x(), y,
+                               rect.width());
         }
         QPainter painter(&image);
         painter.setTransform(toDevice);
@@ -60,10 +61,8 @@ void SecondHand::draw(QImage &image, const ClockFrame &frame, const QTransform &
 
 QRegion FrameSurface::show(QImage &image, const ClockFrame &frame, const QTransform &toDevice)
 {
-    QRegion damage(image.rect());
     const bool isKnown = m_shown && m_size == image.size() && m_toDevice == toDevice;
-    if (isKnown)
-        damage &= frameDamage(*m_shown, frame, toDevice.m11());
+    QRegion damage = isKnown ? frameDamage(*m_shown, frame, toDevice.m11()) : QRegion(image.rect());
     if (damage.isEmpty())
         return damage;
     if (isKnown)
