@@ -3,6 +3,7 @@
 
 #include <QTransform>
 #include <QVarLengthArray>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -127,14 +128,15 @@ private:
     std::vector<Box> m_boxes;
 };
 
-/// The outline of \p hand turned by \p degrees in a clock at \p clock (device pixels).
+/// The outline of \p hand turned by \p degrees in a clock at \p clock (device pixels), a square.
 void addHand(Strips &strips, const platform::SvgImage &hand, const QRectF &clock, double degrees)
 {
-    QTransform place;
-    place.translate(clock.center().x(), clock.center().y());
-    place.rotate(degrees);
-    place.scale(clock.width(), clock.height());
-    place.translate(-0.5, -0.5);
+    const double cosine = clock.width() * std::cos(qDegreesToRadians(degrees));
+    const double sine = clock.width() * std::sin(qDegreesToRadians(degrees));
+    const QPointF centre = clock.center();
+    // From the picture's unit square, turning about its middle.
+    const QTransform place(cosine, sine, -sine, cosine, centre.x() - 0.5 * (cosine - sine),
+                           centre.y() - 0.5 * (sine + cosine));
     for (const QRectF &box : hand.inkBoxes()) {
         strips.add({place.map(box.topLeft()), place.map(box.topRight()),
                     place.map(box.bottomRight()), place.map(box.bottomLeft())});
@@ -232,10 +234,13 @@ QRegion secondHandArea(const ClockFrame &frame, double ratio)
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio)
 {
     const QRect whole = wholeView(next, ratio);
-    if (next.tinted || !sameApartFromPlaces(shown, next))
+    if (next.tinted)
         return whole;
-    if (!sameApartFromHands(shown, next))
-        return (places(shown, ratio) + places(next, ratio)) & whole;
+    if (!sameApartFromHands(shown, next)) {
+        return sameApartFromPlaces(shown, next)
+                   ? (places(shown, ratio) + places(next, ratio)) & whole
+                   : whole;
+    }
     const QRectF clock = QTransform::fromScale(ratio, ratio).mapRect(next.clockRect);
     Strips strips(whole);
     const auto addMoved = [&](const platform::SvgImage &hand, double from, double to) {

@@ -77,15 +77,18 @@ void TamselClockSaverView::animateOneFrame()
 /// Makes the presented picture show this moment; \p exposed (points) is put anew as well.
 void TamselClockSaverView::presentFrame(const QRegion &exposed)
 {
-    const QTransform toDevice = QTransform::fromScale(devicePixelRatioF(), devicePixelRatioF());
+    const double ratio = devicePixelRatioF();
+    const QTransform toDevice = QTransform::fromScale(ratio, ratio);
     QImage &picture = presenter()->picture(toDevice.mapRect(QRectF(rect())).toAlignedRect().size());
     if (picture.isNull()) {
         dropPresenter();
         return;
     }
     m_shown = nextFrame();
-    const QRegion changed = m_surface.show(picture, m_shown, toDevice);
-    presenter()->present((changed + pixelsTouched(exposed, toDevice)) & picture.rect());
+    QRegion changed = m_surface.show(picture, m_shown, toDevice);
+    if (!exposed.isEmpty())
+        changed += pixelsTouched(exposed, toDevice) & picture.rect();
+    presenter()->present(changed);
 }
 
 bool TamselClockSaverView::isSeen() const
