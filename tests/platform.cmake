@@ -7,5 +7,6 @@ tamsel_test(platform/test_Appearance.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_PropertyList.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_PreferenceDomain.cpp LIBS tamsel_platform)
 # Thousands of writes that each reach the disk.
-set_tests_properties(test_PreferenceDomain PROPERTIES TIMEOUT 240)
+tamsel_test(platform/test_PreferenceWriters.cpp LIBS tamsel_platform)
+set_tests_properties(test_PreferenceWriters PROPERTIES TIMEOUT 240)
 tamsel_test(platform/test_PolygonFill.cpp LIBS tamsel_platform)
