@@ -67,7 +67,7 @@ def cpu(pixels):
         row("what", "client", "server", "together", "floors", "wake-ups a second")
         row(*["---"] * 6)
         put = round(pixels[f"paint/steady/{width}/{height}"])
-        usages = processes.usages(BUILD, width, height, put, rounds=1 if QUICK else 3, seconds=3 if QUICK else 6)
+        usages = processes.usages(BUILD, width, height, put, rounds=1 if QUICK else 2, seconds=3 if QUICK else 6)
         floor = usages["floor"].total
         for name, usage in usages.items():
             label = f"floor: {put} pixels" if name == "floor" else name
