@@ -12,8 +12,8 @@ class Clocks
 public:
     virtual ~Clocks() = default;
 
-    /// Wall-clock time as the system's present time zone has it (another zone counts within a
-    /// second), millisecond resolution. Steps when the user or the system sets the clock.
+    /// Wall-clock time in the system's present time zone, millisecond resolution. Steps when the
+    /// user or the system sets the clock.
     virtual QDateTime now() const = 0;
 
     /// Seconds of a clock that never steps; only differences have a meaning.
