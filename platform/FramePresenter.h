@@ -1,14 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
+#include "platform/PixelBlock.h"
 
-class QImage;
-class QRegion;
+#include <memory>
+#include <span>
+
 class QSize;
 class QWindow;
 
 namespace platform {
+
+/// The memory that frames are kept in.
+struct FrameMemory
+{
+    /// RGB32; null when there is no memory.
+    QImage picture;
+    /// Room for as many pixels again. What is never written to costs nothing.
+    QRgb *room = nullptr;
+};
 
 /// Puts pixels on a window without a toolkit in between: only those that changed, from memory that
 /// the window system reads itself. Lengths are device pixels from the window's top-left corner.
@@ -26,11 +36,11 @@ public:
     /// comes while it has not is better dropped than queued.
     virtual bool isReady() const = 0;
 
-    /// The picture (RGB32) that is presented, of the given size. Its pixels stay from call to call;
-    /// at another size it is a new one. Null when there is no memory for it.
-    virtual QImage &picture(const QSize &size) = 0;
-    /// Puts the pixels of \p area, which lies in the picture, on the window.
-    virtual void present(const QRegion &area) = 0;
+    /// The memory for pictures of the given size. Its pixels stay from call to call; at another
+    /// size it is another.
+    virtual FrameMemory &memory(const QSize &size) = 0;
+    /// Puts \p blocks, which lie in that memory, in their places on the window.
+    virtual void present(std::span<const PixelBlock> blocks) = 0;
 };
 
 /// A presenter for \p window, which has been created and outlives it. Null where frames are better

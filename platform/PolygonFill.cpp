@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/PolygonFill.h"
 
-#include <QImage>
 #include <QPolygonF>
 #include <QTransform>
 
@@ -103,25 +102,23 @@ QRgb blended(QRgb below, QRgb color, int coverage)
 
 } // namespace
 
-void CoveredPixels::keep(const QRgb *row, int x, int y, int count)
+void CoveredPixels::keep(QRgb *pixels, int count)
 {
-    m_runs.push_back({x, y, count});
+    m_runs.push_back({pixels, count});
     const size_t end = m_kept + size_t(count);
     if (m_pixels.size() < end)
         m_pixels.resize(2 * end);
-    std::copy_n(row + x, count, m_pixels.data() + m_kept);
+    std::copy_n(pixels, count, m_pixels.data() + m_kept);
     m_kept = end;
 }
 
-void CoveredPixels::restore(QImage &image)
+void CoveredPixels::restore()
 {
-    uchar *const bits = image.bits();
-    const qsizetype stride = image.bytesPerLine();
     const QRgb *pixels = m_pixels.data() + m_kept;
     for (size_t i = m_runs.size(); i-- > 0;) {
         const Run &run = m_runs[i];
         pixels -= run.count;
-        std::copy_n(pixels, run.count, reinterpret_cast<QRgb *>(bits + run.y * stride) + run.x);
+        std::copy_n(pixels, run.count, run.pixels);
     }
     clear();
 }
@@ -132,47 +129,48 @@ void CoveredPixels::clear()
     m_kept = 0;
 }
 
-void PolygonFill::fill(QImage &image, const QList<QPolygonF> &outlines, const QTransform &place,
-                       Qt::FillRule rule, QRgb color, CoveredPixels &covered)
+void PolygonFill::fill(std::span<const PixelBlock> blocks, const QList<QPolygonF> &outlines,
+                       const QTransform &place, Qt::FillRule rule, QRgb color,
+                       CoveredPixels &covered)
 {
     takeEdges(outlines, place);
-    if (rule == Qt::OddEvenFill)
-        fillRows<Qt::OddEvenFill>(image, color, covered);
-    else
-        fillRows<Qt::WindingFill>(image, color, covered);
+    for (const PixelBlock &block : blocks) {
+        if (rule == Qt::OddEvenFill)
+            fillRows<Qt::OddEvenFill>(block, color, covered);
+        else
+            fillRows<Qt::WindingFill>(block, color, covered);
+    }
 }
 
 template <Qt::FillRule rule>
-void PolygonFill::fillRows(QImage &image, QRgb color, CoveredPixels &covered)
+void PolygonFill::fillRows(const PixelBlock &block, QRgb color, CoveredPixels &covered)
 {
-    const int width = image.width();
-    const int height = image.height();
-    const qsizetype stride = image.bytesPerLine();
-    uchar *const bits = image.bits();
+    const int width = block.rect.width();
+    const int end = block.rect.bottom() + 1;
     m_growth.resize(size_t(width) + 3, 0);
     m_active.clear();
     m_next = 0;
-    int y = m_edges.empty() ? height : std::max(m_edges.front().top >> kCornerBits, 0);
-    while (y < height) {
-        enterEdges(y);
+    int y = m_edges.empty() ? end : std::max(m_edges.front().top >> kCornerBits, block.rect.top());
+    while (y < end) {
+        enterEdges(y, block.rect.left());
         if (m_active.empty() && m_next == m_edges.size())
             break;
-        if (const int filledTo = fillBetweenTwo(image, y, color, covered); filledTo > y) {
+        if (const int filledTo = fillBetweenTwo(block, y, color, covered); filledTo > y) {
             y = filledTo;
             continue;
         }
         const RowSum sum = sumOfRow(y, width);
-        const int end = std::min(sum.last + 1, width);
-        auto *const row = reinterpret_cast<QRgb *>(bits + y * stride);
-        if (sum.first < end)
-            covered.keep(row, sum.first, y, end - sum.first);
+        const int past = std::min(sum.last + 1, width);
+        QRgb *const row = block.row(y);
+        if (sum.first < past)
+            covered.keep(row + sum.first, past - sum.first);
         int winding = 0;
-        for (int x = sum.first; x < end;) {
+        for (int x = sum.first; x < past;) {
             winding += std::exchange(sum.growth[x], 0);
             const int alpha = coverage<rule>(winding);
             row[x] = blended(row[x], color, alpha);
             const int from = ++x;
-            while (x < end && sum.growth[x] == 0)
+            while (x < past && sum.growth[x] == 0)
                 ++x;
             if (alpha == 255)
                 std::fill(row + from, row + x, color);
@@ -180,14 +178,14 @@ void PolygonFill::fillRows(QImage &image, QRgb color, CoveredPixels &covered)
                 std::transform(row + from, row + x, row + from,
                                [&](QRgb below) { return blended(below, color, alpha); });
         }
-        for (int x = std::max(sum.first, end); x <= sum.last; ++x)
+        for (int x = std::max(sum.first, past); x <= sum.last; ++x)
             sum.growth[x] = 0;
         ++y;
     }
 }
 
-/// Makes those edges active that reach into row \p y.
-void PolygonFill::enterEdges(int y)
+/// Makes those edges active that reach into row \p y of a block that begins at column \p left.
+void PolygonFill::enterEdges(int y, int left)
 {
     std::erase_if(m_active, [y](const Edge &edge) { return edge.bottom <= y * kRow; });
     for (; m_next < m_edges.size() && m_edges[m_next].top < (y + 1) * kRow; ++m_next) {
@@ -195,13 +193,14 @@ void PolygonFill::enterEdges(int y)
         if (edge.bottom <= y * kRow)
             continue;
         edge.x += std::max(y * kRow - edge.top, 0) * (edge.slope >> kCornerBits);
+        edge.x -= qint64(left) << kEdgeBits;
         m_active.push_back(edge);
     }
 }
 
 /// Most rows of a hand lie between two edges that cross them wholly: the same done with less ado.
 /// Fills such rows from \p y on and returns the first that is none.
-int PolygonFill::fillBetweenTwo(QImage &image, int y, QRgb color, CoveredPixels &covered)
+int PolygonFill::fillBetweenTwo(const PixelBlock &block, int y, QRgb color, CoveredPixels &covered)
 {
     if (m_active.size() != 2 || m_active[0].area + m_active[1].area != 0 ||
         std::max(m_active[0].top, m_active[1].top) > y * kRow)
@@ -209,20 +208,18 @@ int PolygonFill::fillBetweenTwo(QImage &image, int y, QRgb color, CoveredPixels 
     const bool inOrder = m_active[0].x < m_active[1].x;
     Edge &left = m_active[inOrder ? 0 : 1];
     Edge &right = m_active[inOrder ? 1 : 0];
-    int end = std::min({left.bottom, right.bottom, image.height() * kRow});
+    int end = std::min({left.bottom, right.bottom, (block.rect.bottom() + 1) * kRow});
     if (m_next < m_edges.size())
         end = std::min(end, m_edges[m_next].top);
     end >>= kCornerBits;
-    const int width = image.width();
-    const qsizetype stride = image.bytesPerLine();
-    auto *line = image.bits() + y * stride;
-    for (; y < end; ++y, line += stride) {
+    const int width = block.rect.width();
+    QRgb *row = block.row(y);
+    for (; y < end; ++y, row += block.stride) {
         const Ramp in(left.x, left.slope);
         const Ramp out(right.x, right.slope);
         if (in.first < 0 || in.last >= out.first || out.last >= width)
             break;
-        auto *const row = reinterpret_cast<QRgb *>(line);
-        covered.keep(row, in.first, y, out.last + 1 - in.first);
+        covered.keep(row + in.first, out.last + 1 - in.first);
         const auto blend = [&](int x, int area) {
             row[x] = blended(row[x], color, coverage<Qt::WindingFill>(area));
         };

@@ -1,32 +1,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QList>
-#include <QRgb>
+#include "platform/PixelBlock.h"
 
+#include <QList>
+
+#include <span>
 #include <vector>
 
-class QImage;
 class QPolygonF;
 class QTransform;
 
 namespace platform {
 
-/// Pixels of one picture that were put aside before something was painted over them.
+/// Pixels that were put aside before something was painted over them.
 class CoveredPixels
 {
 public:
-    /// Puts aside \p count pixels of row \p y, from column \p x on; \p row is its first pixel.
-    void keep(const QRgb *row, int x, int y, int count);
+    /// Puts aside the \p count pixels from \p pixels on, whose memory outlives this or clear().
+    void keep(QRgb *pixels, int count);
     /// Puts all back to where they were, the last first, and forgets them.
-    void restore(QImage &image);
+    void restore();
     void clear();
 
 private:
     struct Run
     {
-        int x;
-        int y;
+        QRgb *pixels;
         int count;
     };
     std::vector<Run> m_runs;
@@ -43,9 +43,10 @@ class PolygonFill
 {
 public:
     /// Draws the shape that all of \p outlines bound together (closed, put in their place in pixels
-    /// by \p place) onto \p image (RGB32). What it covers is put aside in \p covered.
-    void fill(QImage &image, const QList<QPolygonF> &outlines, const QTransform &place,
-              Qt::FillRule rule, QRgb color, CoveredPixels &covered);
+    /// by \p place) onto those of the picture's pixels that \p blocks hold. What it covers is put
+    /// aside in \p covered.
+    void fill(std::span<const PixelBlock> blocks, const QList<QPolygonF> &outlines,
+              const QTransform &place, Qt::FillRule rule, QRgb color, CoveredPixels &covered);
 
 private:
     struct Edge
@@ -53,7 +54,8 @@ private:
         /// In 64ths of a pixel.
         int top;
         int bottom;
-        /// Where it enters the row at hand, and how far it goes in a row; 2^32 to the pixel.
+        /// Where it enters the row at hand, and how far it goes in a row; 2^32 to the pixel. Of
+        /// those that are active from the block's left side.
         qint64 x;
         qint64 slope;
         /// Covered to its right in a row that it crosses wholly; negative where it goes up.
@@ -64,7 +66,7 @@ private:
     struct RowSum
     {
         /// Per pixel, how much the covered part of the row grows there; three pixels more than the
-        /// picture is wide take what reaches beyond its right end.
+        /// block is wide take what reaches beyond its right end.
         int *growth;
         /// Beyond them all is zero.
         int first;
@@ -76,9 +78,9 @@ private:
 
     void takeEdges(const QList<QPolygonF> &outlines, const QTransform &place);
     template <Qt::FillRule rule>
-    void fillRows(QImage &image, QRgb color, CoveredPixels &covered);
-    void enterEdges(int y);
-    int fillBetweenTwo(QImage &image, int y, QRgb color, CoveredPixels &covered);
+    void fillRows(const PixelBlock &block, QRgb color, CoveredPixels &covered);
+    void enterEdges(int y, int left);
+    int fillBetweenTwo(const PixelBlock &block, int y, QRgb color, CoveredPixels &covered);
     RowSum sumOfRow(int y, int width);
 
     std::vector<Edge> m_edges;

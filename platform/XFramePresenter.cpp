@@ -4,8 +4,6 @@
 #include "platform/XcbReply.h"
 
 #include <QGuiApplication>
-#include <QImage>
-#include <QRegion>
 #include <QWindow>
 
 #include <sys/mman.h>
@@ -90,17 +88,19 @@ bool hasPlainPixels(const xcb_setup_t &setup, xcb_visualid_t visualId)
     return false;
 }
 
-/// A picture in memory that the X server reads as well. It is freed by the kernel when both have
-/// let go of it, however this process ends.
-class SharedPicture
+/// Frame memory that the X server reads as well. It is freed by the kernel when both have let go of
+/// it, however this process ends.
+class SharedMemory
 {
 public:
     /// Null when there is no memory, or the X server cannot reach it.
-    SharedPicture(const Connection &connection, const QSize &size) : m_connection(connection)
+    SharedMemory(const Connection &connection, const QSize &size) : m_connection(connection)
     {
-        const size_t bytes = size_t(size.width()) * size_t(size.height()) * sizeof(QRgb);
+        const size_t pixels = size_t(size.width()) * size_t(size.height());
+        // The server wants whole rows, also of the last block; one more makes up for that.
+        const size_t bytes = (2 * pixels + size_t(size.width())) * sizeof(QRgb);
         const int file = memfd_create("frame", MFD_CLOEXEC);
-        if (file < 0 || bytes == 0 || ftruncate(file, off_t(bytes)) != 0) {
+        if (file < 0 || pixels == 0 || ftruncate(file, off_t(bytes)) != 0) {
             ::close(file);
             return;
         }
@@ -111,30 +111,33 @@ public:
         const bool isShared = connection.succeeds(attached);
         if (memory == MAP_FAILED)
             return;
-        m_memory = memory;
+        m_pixels = static_cast<QRgb *>(memory);
         m_bytes = bytes;
         if (isShared)
-            m_image = QImage(static_cast<uchar *>(memory), size.width(), size.height(),
-                             size.width() * qsizetype(sizeof(QRgb)), QImage::Format_RGB32);
+            m_frames = {QImage(static_cast<uchar *>(memory), size.width(), size.height(),
+                               size.width() * qsizetype(sizeof(QRgb)), QImage::Format_RGB32),
+                        m_pixels + pixels};
     }
-    ~SharedPicture()
+    ~SharedMemory()
     {
         if (m_segment != XCB_NONE)
             xcb_shm_detach(m_connection, m_segment);
-        if (m_memory)
-            munmap(m_memory, m_bytes);
+        if (m_pixels)
+            munmap(m_pixels, m_bytes);
     }
-    Q_DISABLE_COPY_MOVE(SharedPicture)
+    Q_DISABLE_COPY_MOVE(SharedMemory)
 
-    QImage &image() { return m_image; }
+    FrameMemory &frames() { return m_frames; }
     xcb_shm_seg_t segment() const { return m_segment; }
+    /// In bytes from the beginning.
+    uint32_t offsetOf(const QRgb *pixel) const { return uint32_t((pixel - m_pixels) * 4); }
 
 private:
     const Connection &m_connection;
     xcb_shm_seg_t m_segment = XCB_NONE;
-    void *m_memory = nullptr;
+    QRgb *m_pixels = nullptr;
     size_t m_bytes = 0;
-    QImage m_image;
+    FrameMemory m_frames;
 };
 
 class XFramePresenter final : public FramePresenter
@@ -162,8 +165,8 @@ public:
         const uint32_t events = XCB_EVENT_MASK_VISIBILITY_CHANGE;
         xcb_change_window_attributes(m_connection, m_window, XCB_CW_EVENT_MASK, &events);
         m_hasPower = m_connection.has(&xcb_dpms_id);
-        // The memory is found out with the first picture: a display that is far away refuses it.
-        return !picture({geometry->width, geometry->height}).isNull();
+        // A display that is far away cannot reach it.
+        return !memory({geometry->width, geometry->height}).picture.isNull();
     }
 
     void poll() override
@@ -177,26 +180,26 @@ public:
     bool isSeen() const override { return !m_isCovered && m_isOn; }
     bool isReady() const override { return !m_isOpen; }
 
-    QImage &picture(const QSize &size) override
+    FrameMemory &memory(const QSize &size) override
     {
-        if (!m_picture || m_picture->image().size() != size) {
-            m_picture.reset();
-            m_picture.emplace(m_connection, size);
+        if (!m_memory || m_memory->frames().picture.size() != size) {
+            m_memory.reset();
+            m_memory.emplace(m_connection, size);
         }
-        return m_picture->image();
+        return m_memory->frames();
     }
 
-    void present(const QRegion &area) override
+    void present(std::span<const PixelBlock> blocks) override
     {
-        if (area.isEmpty() || !m_picture)
+        if (blocks.empty() || !m_memory)
             return;
-        const QSize size = m_picture->image().size();
-        for (const QRect &rect : area) {
-            xcb_shm_put_image(m_connection, m_window, m_context, uint16_t(size.width()),
-                              uint16_t(size.height()), uint16_t(rect.x()), uint16_t(rect.y()),
-                              uint16_t(rect.width()), uint16_t(rect.height()), int16_t(rect.x()),
-                              int16_t(rect.y()), m_depth, XCB_IMAGE_FORMAT_Z_PIXMAP, 0,
-                              m_picture->segment(), 0);
+        for (const PixelBlock &block : blocks) {
+            const QRect &rect = block.rect;
+            xcb_shm_put_image(m_connection, m_window, m_context, uint16_t(block.stride),
+                              uint16_t(rect.height()), 0, 0, uint16_t(rect.width()),
+                              uint16_t(rect.height()), int16_t(rect.x()), int16_t(rect.y()),
+                              m_depth, XCB_IMAGE_FORMAT_Z_PIXMAP, 0, m_memory->segment(),
+                              m_memory->offsetOf(block.pixels));
         }
         if (!m_isOpen && --m_untilQuestion <= 0)
             ask();
@@ -252,7 +255,7 @@ private:
     const xcb_window_t m_window;
     xcb_gcontext_t m_context = XCB_NONE;
     uint8_t m_depth = 0;
-    std::optional<SharedPicture> m_picture;
+    std::optional<SharedMemory> m_memory;
 
     bool m_hasPower = false;
     bool m_isCovered = false;

@@ -24,6 +24,7 @@ struct ClockFrame
 {
     QRectF bounds;
     QColor background;
+    /// Of the calendar, and of the clock in a cross-fade.
     QColor mark;
     QRectF clockRect;
     TamselClockAngles angles;

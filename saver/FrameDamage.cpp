@@ -9,7 +9,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <vector>
 
 namespace {
 
@@ -19,6 +18,9 @@ constexpr double kDriftStep = 1.0 / 64.0;
 /// Rows of the strips that a hand is covered with. Lower strips follow a slanting hand more
 /// closely, fewer are quicker to present.
 constexpr int kStripRows = 64;
+
+/// As many as a screen of the common sizes has; for more, memory is asked for.
+constexpr int kUsualStrips = 36;
 
 /// An antialiased edge colours the pixels it touches; one more absorbs rounding.
 constexpr double kInkMargin = 1.0;
@@ -38,7 +40,7 @@ class Strips
 public:
     explicit Strips(const QRect &view)
         : m_view(view), m_firstStrip(stripAt(view.top())),
-          m_boxes(size_t(stripAt(view.bottom()) - m_firstStrip + 1))
+          m_boxes(stripAt(view.bottom()) - m_firstStrip + 1)
     {
     }
 
@@ -57,7 +59,7 @@ public:
 
     QRegion region() const
     {
-        QVarLengthArray<QRect, 128> rects;
+        QVarLengthArray<QRect, kUsualStrips> rects;
         int strip = m_firstStrip;
         for (const Box &box : m_boxes) {
             const QRect rows(m_view.x(), strip++ * kStripRows, m_view.width(), kStripRows);
@@ -103,7 +105,7 @@ private:
     {
         const double top = strip * kStripRows - kInkMargin;
         const double bottom = (strip + 1) * kStripRows + kInkMargin;
-        Box &box = m_boxes[size_t(strip - m_firstStrip)];
+        Box &box = m_boxes[strip - m_firstStrip];
         for (size_t i = 0; i < corners.size(); ++i) {
             QPointF upper = corners[i];
             QPointF lower = corners[(i + 1) % corners.size()];
@@ -125,7 +127,7 @@ private:
 
     QRect m_view;
     int m_firstStrip;
-    std::vector<Box> m_boxes;
+    QVarLengthArray<Box, kUsualStrips> m_boxes;
 };
 
 /// The outline of \p hand turned by \p degrees in a clock at \p clock (device pixels), a square.
@@ -223,11 +225,13 @@ QRegion pointsCovering(const QRegion &pixels, double ratio)
     return points;
 }
 
-QRegion secondHandArea(const ClockFrame &frame, double ratio)
+QRegion secondHandWay(const ClockFrame &shown, const ClockFrame &next, double degrees, double ratio)
 {
-    const QRectF clock = QTransform::fromScale(ratio, ratio).mapRect(frame.clockRect);
-    Strips strips(wholeView(frame, ratio));
-    addHand(strips, frame.artwork.secondImage, clock, frame.angles.second);
+    const QRectF clock = QTransform::fromScale(ratio, ratio).mapRect(next.clockRect);
+    const double from = next.angles.second;
+    Strips strips(wholeView(next, ratio));
+    for (const double angle : {shown.angles.second, from, from + degrees / 2, from + degrees})
+        addHand(strips, next.artwork.secondImage, clock, angle);
     return strips.region();
 }
 

@@ -29,6 +29,7 @@ QRegion pixelsTouched(const QRegion &points, const QTransform &toDevice);
 /// whole numbers a point's edge may lie inside a pixel, so that a pixel more on each side is taken.
 QRegion pointsCovering(const QRegion &pixels, double ratio);
 
-/// The device pixels that the second hand of \p frame covers, and some around them; otherwise as
-/// frameDamage().
-QRegion secondHandArea(const ClockFrame &frame, double ratio);
+/// The device pixels that the second hand passes on its way from where it is in \p shown, by way of
+/// \p next, to \p degrees beyond; otherwise as frameDamage().
+QRegion secondHandWay(const ClockFrame &shown, const ClockFrame &next, double degrees,
+                      double ratio);

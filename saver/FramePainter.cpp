@@ -13,8 +13,10 @@ void FramePainter::paint(QPainter &painter, const ClockFrame &frame, const QRegi
     if (keepPicture(frame, toDevice)) {
         // Pixel by pixel, whatever the density: that is the fastest copy and an exact one.
         painter.setWorldTransform(toDevice.inverted(), true);
-        for (const QRect &rect : pixelsTouched(region, toDevice))
-            painter.drawImage(rect.topLeft(), m_picture, rect.translated(-m_origin));
+        const QRegion area = pixelsTouched(region, toDevice).translated(-m_origin);
+        for (const platform::PixelBlock &block :
+             m_surface.blocks(m_memory, area & m_memory.picture.rect()))
+            painter.drawImage(block.rect.topLeft() + m_origin, imageOf(block));
     } else {
         painter.setClipRegion(region, Qt::IntersectClip);
         drawFrame(painter, frame, m_scratch);
@@ -28,14 +30,22 @@ bool FramePainter::keepPicture(const ClockFrame &frame, const QTransform &toDevi
 {
     const QRect area = toDevice.mapRect(frame.bounds).toAlignedRect();
     if (frame.tinted || toDevice.type() > QTransform::TxScale)
-        m_picture = {};
-    else if (m_picture.size() != area.size())
-        m_picture = QImage(area.size(), QImage::Format_RGB32);
-    if (m_picture.isNull()) {
+        m_memory = {};
+    else if (m_memory.picture.size() != area.size())
+        makeMemory(area.size());
+    if (m_memory.picture.isNull()) {
         m_surface.forget();
         return false;
     }
     m_origin = area.topLeft();
-    m_surface.show(m_picture, frame, toDevice * QTransform::fromTranslate(-area.x(), -area.y()));
+    m_surface.show(m_memory, frame, toDevice * QTransform::fromTranslate(-area.x(), -area.y()));
     return true;
+}
+
+void FramePainter::makeMemory(const QSize &size)
+{
+    m_room = QImage(size, QImage::Format_RGB32);
+    m_memory = {QImage(size, QImage::Format_RGB32), reinterpret_cast<QRgb *>(m_room.bits())};
+    if (m_room.isNull())
+        m_memory = {};
 }

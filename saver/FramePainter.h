@@ -3,8 +3,6 @@
 
 #include "saver/FrameSurface.h"
 
-#include <QImage>
-
 /// Paints frames to the same pixels as drawFrame(), but by copying from a picture of its own that
 /// is only mended from frame to frame. While a fade runs there is no such picture.
 class FramePainter
@@ -15,9 +13,11 @@ public:
 
 private:
     bool keepPicture(const ClockFrame &frame, const QTransform &toDevice);
+    void makeMemory(const QSize &size);
 
-    /// The device pixels of the frame, from m_origin on; null while none is kept.
-    QImage m_picture;
+    /// The device pixels of the frame, from m_origin on; null while none are kept.
+    platform::FrameMemory m_memory;
+    QImage m_room;
     QPoint m_origin;
     FrameSurface m_surface;
     FrameScratch m_scratch;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/FramePresenter.h"
 #include "platform/PolygonFill.h"
 #include "platform/SolidShapes.h"
 #include "saver/ClockFrame.h"
+#include "saver/HandLane.h"
 
 #include <QPolygonF>
 #include <QRegion>
@@ -16,10 +18,11 @@
 class SecondHand
 {
 public:
-    /// Draws the hand of \p frame. What it covers is put aside.
-    void draw(QImage &image, const ClockFrame &frame, const QTransform &toDevice);
+    /// Draws the hand of \p frame onto \p strips, which hold all that it covers; that is put aside.
+    void draw(std::span<const platform::PixelBlock> strips, const ClockFrame &frame,
+              const QTransform &toDevice);
     /// Takes what was drawn since the last call off again.
-    void takeOff(QImage &image) { m_covered.restore(image); }
+    void takeOff() { m_covered.restore(); }
     /// Leaves what was drawn where it is.
     void forget() { m_covered.clear(); }
 
@@ -32,6 +35,8 @@ private:
     };
 
     void prepare(const platform::SvgImage &hand, double side);
+    void drawByQt(const platform::PixelBlock &strip, const ClockFrame &frame,
+                  const QTransform &toDevice);
 
     platform::SvgImage m_hand;
     /// Of the clock in pixels.
@@ -42,14 +47,20 @@ private:
     platform::CoveredPixels m_covered;
 };
 
-/// Keeps a picture showing one frame after the other, to the same pixels as drawFrame(). From frame
-/// to frame only the second hand is taken off and put on again; what it covers is kept aside.
+/// Keeps memory holding one frame after the other, to the same pixels as drawFrame(). From frame to
+/// frame only the second hand is taken off and put on again; what it covers is kept aside.
 class FrameSurface
 {
 public:
-    /// Makes \p image (RGB32), drawn with \p toDevice, show \p frame. The picture must be what the
-    /// last call left, or new and of another size. Returns the pixels that may have changed.
-    QRegion show(QImage &image, const ClockFrame &frame, const QTransform &toDevice);
+    /// Makes \p memory, drawn with \p toDevice, hold \p frame. It must be as the last call left it,
+    /// or another. Returns the pixels that may have changed.
+    QRegion show(platform::FrameMemory &memory, const ClockFrame &frame,
+                 const QTransform &toDevice);
+
+    /// Where in \p memory, the last that was shown in, the pixels of \p area lie, as far as the
+    /// frame has them. Valid until the next call.
+    std::span<const platform::PixelBlock> blocks(platform::FrameMemory &memory,
+                                                 const QRegion &area);
 
     /// The next frame is drawn whole.
     void forget();
@@ -57,7 +68,12 @@ public:
 private:
     std::optional<ClockFrame> m_shown;
     QTransform m_toDevice;
+    const QRgb *m_room = nullptr;
     QSize m_size;
+    /// The picture is without the second hand, which is drawn in its lane. In a fade the picture
+    /// has it, and there is no lane.
+    HandLane m_lane;
     SecondHand m_secondHand;
+    std::vector<platform::PixelBlock> m_blocks;
     FrameScratch m_scratch;
 };

@@ -79,16 +79,17 @@ void TamselClockSaverView::presentFrame(const QRegion &exposed)
 {
     const double ratio = devicePixelRatioF();
     const QTransform toDevice = QTransform::fromScale(ratio, ratio);
-    QImage &picture = presenter()->picture(toDevice.mapRect(QRectF(rect())).toAlignedRect().size());
-    if (picture.isNull()) {
+    platform::FrameMemory &memory =
+        presenter()->memory(toDevice.mapRect(QRectF(rect())).toAlignedRect().size());
+    if (memory.picture.isNull()) {
         dropPresenter();
         return;
     }
     m_shown = nextFrame();
-    QRegion changed = m_surface.show(picture, m_shown, toDevice);
+    QRegion changed = m_surface.show(memory, m_shown, toDevice);
     if (!exposed.isEmpty())
-        changed += pixelsTouched(exposed, toDevice) & picture.rect();
-    presenter()->present(changed);
+        changed += pixelsTouched(exposed, toDevice) & memory.picture.rect();
+    presenter()->present(m_surface.blocks(memory, changed));
 }
 
 bool TamselClockSaverView::isSeen() const
@@ -101,8 +102,9 @@ ClockFrame TamselClockSaverView::nextFrame()
     ClockFrame frame;
     frame.bounds = QRectF(rect());
     frame.background = displayedBackgroundColor();
-    frame.mark = displayedMarkColor();
     frame.tinted = paletteTransitionProgress() < 1.0;
+    if (frame.tinted || m_settings.calendarEnabled)
+        frame.mark = displayedMarkColor();
     if (!frame.tinted)
         m_transition = {};
     frame.artwork = m_palette.artwork;

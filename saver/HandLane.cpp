@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "saver/HandLane.h"
+
+#include <algorithm>
+
+namespace {
+/// Pixels of a cache line; rows begin with one.
+constexpr int kLinePixels = 16;
+} // namespace
+
+void HandLane::lay(const platform::PixelBlock &picture, QRgb *room, const QRegion &area)
+{
+    m_strips.clear();
+    int widest = 0;
+    for (const QRect &rect : area)
+        widest = std::max(widest, rect.width());
+    // The room holds rows of the picture's width.
+    const int stride =
+        std::min((widest + kLinePixels - 1) / kLinePixels * kLinePixels, picture.rect.width());
+    for (const QRect &rect : area) {
+        const platform::PixelBlock strip{room, stride, rect};
+        for (int y = rect.top(); y <= rect.bottom(); ++y)
+            std::copy_n(picture.row(y) + rect.left(), rect.width(), strip.row(y));
+        m_strips.push_back(strip);
+        room += qsizetype(stride) * rect.height();
+    }
+}
+
+bool HandLane::covers(const QRegion &area) const
+{
+    // Both go from top to bottom.
+    auto strip = m_strips.begin();
+    return std::all_of(area.begin(), area.end(), [&](const QRect &rect) {
+        strip = std::find_if(strip, m_strips.end(),
+                             [&rect](const auto &it) { return it.rect.contains(rect); });
+        return strip != m_strips.end();
+    });
+}
+
+void HandLane::cut(const QRegion &area, const platform::PixelBlock &picture,
+                   std::vector<platform::PixelBlock> &blocks) const
+{
+    const bool isInLane = covers(area);
+    QRegion rest = isInLane ? QRegion() : area;
+    for (const platform::PixelBlock &strip : m_strips) {
+        for (const QRect &rect : area) {
+            const QRect part = rect & strip.rect;
+            if (!part.isEmpty())
+                blocks.push_back(strip.in(part));
+        }
+        if (!isInLane)
+            rest -= strip.rect;
+    }
+    for (const QRect &rect : rest)
+        blocks.push_back(picture.in(rect));
+}
