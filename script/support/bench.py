@@ -63,11 +63,11 @@ def starts():
 def cpu(pixels):
     """CPU of client and server together, against a bare program that puts as many pixels."""
     for size, (width, height) in SIZES.items():
-        print(f"\n### In motion, {size}\n\nPer cent of one core, client and server; the best of the runs.\n")
+        print(f"\n### In motion, {size}\n\nPer cent of one core, client and server.\n")
         row("what", "client", "server", "together", "floors", "wake-ups a second")
         row(*["---"] * 6)
         put = round(pixels[f"paint/steady/{width}/{height}"])
-        usages = processes.usages(BUILD, width, height, put, rounds=1 if QUICK else 2, seconds=3 if QUICK else 6)
+        usages = processes.usages(BUILD, width, height, put, half_turns=1 if QUICK else 2, seconds=3)
         floor = usages["floor"].total
         for name, usage in usages.items():
             label = f"floor: {put} pixels" if name == "floor" else name

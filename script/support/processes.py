@@ -7,12 +7,13 @@ import plistlib
 import re
 import shutil
 import signal
+import statistics
 import subprocess
 import sys
 import tempfile
 import threading
 import time
-from dataclasses import dataclass
+from dataclasses import dataclass, fields
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent.parent / "tests" / "support"))
 import xhost  # noqa: E402
@@ -20,8 +21,10 @@ import xhost  # noqa: E402
 NO_COLOUR = (255, 0, 255)
 SETTLING_SECONDS = 2.0
 FADE_SECONDS = 3.0
-# Half a turn of the second hand, every slant it has: what it costs differs with the rows it lies in.
-SWEEP_SECONDS = 30.0
+# What a sweeping hand costs differs with the rows it lies in. It has all its slants in half a turn, which is watched in
+# two parts, so that a change of the processor's pace meets all programs.
+HALF_TURN = 30.0
+SWEEP_SECONDS = HALF_TURN / 2
 HACKS = pathlib.Path("/usr/libexec/xscreensaver")
 NIGHT = {"from": 0, "to": 1439, "fromMode": "custom", "toMode": "custom"}
 
@@ -60,9 +63,12 @@ def consumed(pid):
     return seconds, wakes
 
 
-def usage(command, server, seconds):
+def usage(command, server, seconds, phase=None):
+    """What a program costs for a while, of which the second hand's half turn is to begin at `phase` seconds."""
     program = subprocess.Popen(command, env=on_display(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     time.sleep(SETTLING_SECONDS)
+    if phase is not None:
+        time.sleep((phase - time.time()) % HALF_TURN)
     begin = time.monotonic()
     (client_before, wakes_before), (server_before, _) = consumed(program.pid), consumed(server)
     time.sleep(seconds)
@@ -97,9 +103,11 @@ def fading():
 
     def flip():
         enabled = True
-        while not end.wait(FADE_SECONDS):
+        pause = SETTLING_SECONDS / 2
+        while not end.wait(pause):
             store({"NightSettings": {**NIGHT, "enabled": enabled}})
             enabled = not enabled
+            pause = FADE_SECONDS
     flipping = threading.Thread(target=flip)
     flipping.start()
     yield
@@ -108,8 +116,12 @@ def fading():
     store({})
 
 
-def usages(build, width, height, pixels, rounds, seconds):
-    """The least usage of each program by name, measured in turns; of a sweeping hand over all its slants."""
+def mean(usages):
+    return Usage(*(statistics.mean(getattr(usage, field.name) for usage in usages) for field in fields(Usage)))
+
+
+def usages(build, width, height, pixels, half_turns, seconds):
+    """The mean usage of each program by name, all measured in turns."""
     size = f"{width}x{height}"
     floor = build / "benchmarks" / "floor"
     clock = [build / "bin" / "tamsel-clock"]
@@ -126,16 +138,17 @@ def usages(build, width, height, pixels, rounds, seconds):
         "fuzzyflakes": ([HACKS / "fuzzyflakes", "-root"], contextlib.nullcontext),
     }
     server = xhost.launch_x_server("-screen", "0", f"{size}x24").pid
-    sweeping = {"floor", "the clock", "the clock with calendar"}
-    least = {}
-    for _ in range(rounds):
+    sweeping = {"the clock", "the clock with calendar"}
+    measured = {}
+    for part in range(2 * half_turns):
         for name, (command, around) in cases.items():
             if not shutil.which(command[0]):
                 sys.exit(f"{command[0]} is not installed")
+            phase = part % 2 * SWEEP_SECONDS if name in sweeping else None
             with around():
-                measured = usage(command, server, SWEEP_SECONDS if name in sweeping else seconds)
-            least[name] = min(least.get(name, measured), measured, key=lambda u: u.total)
-    return least
+                parts = measured.setdefault(name, [])
+                parts.append(usage(command, server, SWEEP_SECONDS if name in {"floor", *sweeping} else seconds, phase))
+    return {name: mean(parts) for name, parts in measured.items()}
 
 
 def first_frame(command, host):
