@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Shows the controls, or draws them into a picture: script/gallery --help.
+#include "controls/gallery/Gallery.h"
 #include "platform/Appearance.h"
-#include "tests/gallery/Gallery.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/gallery/Gallery.h"
+#include "controls/gallery/Gallery.h"
 
 #include "controls/Popover.h"
 #include "controls/PushButton.h"
