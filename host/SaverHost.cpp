@@ -55,7 +55,6 @@ SaverHost::~SaverHost() = default;
 
 void SaverHost::start()
 {
-    qGuiApp->installEventFilter(this);
     m_settled.setSingleShot(true);
     m_settled.setInterval(kSettlingTime);
     connect(&m_settled, &QTimer::timeout, this, &SaverHost::syncViews);
@@ -109,6 +108,8 @@ void SaverHost::cover(QScreen *screen)
     view->setScreen(screen);
     view->setGeometry(screen->geometry());
     view->showFullScreen();
+    // All input comes to the window first; what comes to the view 30 times a second passes it by.
+    view->windowHandle()->installEventFilter(this);
     view->activateWindow();
     view->startAnimation();
 }
