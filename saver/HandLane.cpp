@@ -17,12 +17,13 @@ void HandLane::lay(const platform::PixelBlock &picture, QRgb *room, const QRegio
     // The room holds rows of the picture's width.
     const int stride =
         std::min((widest + kLinePixels - 1) / kLinePixels * kLinePixels, picture.rect.width());
+    QRgb *free = room;
     for (const QRect &rect : area) {
-        const platform::PixelBlock strip{room, stride, rect};
+        const platform::PixelBlock strip{free, stride, rect};
         for (int y = rect.top(); y <= rect.bottom(); ++y)
             std::copy_n(picture.row(y) + rect.left(), rect.width(), strip.row(y));
         m_strips.push_back(strip);
-        room += qsizetype(stride) * rect.height();
+        free += qsizetype(stride) * rect.height();
     }
 }
 
