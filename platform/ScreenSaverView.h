@@ -38,7 +38,7 @@ public:
     virtual void startAnimation();
     virtual void stopAnimation();
     /// One tick of the frame loop: update state and mark for display; drawing follows by itself.
-    /// Nothing is drawn while isSeen() is false.
+    /// Nothing is drawn while the view rests.
     virtual void animateOneFrame() {}
 
     /// Draws the view. \p dirtyRect is what must be drawn; more may be drawn.
@@ -52,6 +52,9 @@ public:
     virtual QWidget *configureSheet() { return nullptr; }
 
 protected:
+    /// Nobody can see the view, so that it only looks now and then whether that is still so.
+    bool rests() const { return m_rests; }
+
     /// Presents the frames while the view is a window of its own and the window system lets it;
     /// null where they are painted by Qt. Another one only after the view was hidden.
     FramePresenter *presenter() const { return m_presenter.get(); }
@@ -73,7 +76,6 @@ private:
     double m_interval = 1.0 / 30.0;
     FramePacer m_pacer;
     QBasicTimer m_timer;
-    /// Nobody can see the view, so that it only looks now and then whether that is still so.
     bool m_rests = false;
     std::unique_ptr<FramePresenter> m_presenter;
 };

@@ -56,7 +56,7 @@ void TamselClockSaverView::startAnimation()
 void TamselClockSaverView::animateOneFrame()
 {
     reloadVariantIfNeeded();
-    if (!isSeen())
+    if (rests())
         return;
     if (presenter()) {
         if (presenter()->isReady())
@@ -64,7 +64,7 @@ void TamselClockSaverView::animateOneFrame()
         return;
     }
     const double ratio = devicePixelRatioF();
-    ClockFrame next = nextFrame();
+    ClockFrame next = nextFrame(ratio);
     // A surface of another density is empty, and nothing asks to paint it whole.
     if (m_shownRatio != ratio)
         update();
@@ -85,7 +85,7 @@ void TamselClockSaverView::presentFrame(const QRegion &exposed)
         dropPresenter();
         return;
     }
-    m_shown = nextFrame();
+    m_shown = nextFrame(ratio);
     QRegion changed = m_surface.show(memory, m_shown, toDevice);
     if (!exposed.isEmpty())
         changed += pixelsTouched(exposed, toDevice) & memory.picture.rect();
@@ -97,7 +97,7 @@ bool TamselClockSaverView::isSeen() const
     return ScreenSaverView::isSeen() && (!m_desktop.session || m_desktop.session->isActive());
 }
 
-ClockFrame TamselClockSaverView::nextFrame()
+ClockFrame TamselClockSaverView::nextFrame(double ratio)
 {
     ClockFrame frame;
     frame.bounds = QRectF(rect());
@@ -115,12 +115,12 @@ ClockFrame TamselClockSaverView::nextFrame()
     if (m_settings.calendarEnabled)
         frame.calendar = {rects.calendar,
                           {now.date(), calendarIsPortrait(frame.bounds.size()), QLocale::system()}};
-    return withDriftHeld(m_shown, std::move(frame), devicePixelRatioF());
+    return withDriftHeld(m_shown, std::move(frame), ratio);
 }
 
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 {
-    drawFrame(painter, nextFrame(), m_scratch);
+    drawFrame(painter, nextFrame(devicePixelRatioF()), m_scratch);
 }
 
 void TamselClockSaverView::showEvent(QShowEvent *event)
@@ -137,7 +137,7 @@ void TamselClockSaverView::paintEvent(QPaintEvent *event)
         return;
     }
     if (covers(event->region(), rect()) || m_shown.bounds != QRectF(rect()))
-        m_shown = nextFrame();
+        m_shown = nextFrame(devicePixelRatioF());
     QPainter painter(this);
     m_painter.paint(painter, m_shown, event->region());
 }

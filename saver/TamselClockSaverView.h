@@ -72,9 +72,6 @@ public:
     void animateOneFrame() override;
     /// Paints the whole view from its state; the reference for what is on screen.
     void drawRect(QPainter &painter, const QRectF &dirtyRect) override;
-    /// All that the frame at this moment shows, the drift held as on screen. Ends a cross-fade that
-    /// has run its time.
-    ClockFrame nextFrame();
     /// Not so while another session has the screens.
     bool isSeen() const override;
 
@@ -243,6 +240,9 @@ protected:
     void endEditing();
 
 private:
+    /// All that the frame at this moment shows, the drift held as on screen at \p ratio device
+    /// pixels per point. Ends a cross-fade that has run its time.
+    ClockFrame nextFrame(double ratio);
     /// Where clock and calendar stand at \p now; the calendar nowhere while it is off.
     CalendarLayoutRects places(const QDateTime &now) const;
     void presentFrame(const QRegion &exposed);
