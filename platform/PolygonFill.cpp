@@ -235,13 +235,17 @@ int PolygonFill::fillBetweenTwo(const PixelBlock &block, int y, QRgb color, Cove
 /// Level edges bound no area.
 void PolygonFill::takeEdges(const QList<QPolygonF> &outlines, const QTransform &place)
 {
+    const auto placed = [&](const QPointF &corner) {
+        return onCornerGrid({place.m11() * corner.x() + place.m21() * corner.y() + place.dx(),
+                             place.m12() * corner.x() + place.m22() * corner.y() + place.dy()});
+    };
     m_edges.clear();
     for (const QPolygonF &outline : outlines) {
         if (outline.isEmpty())
             continue;
-        QPoint from = onCornerGrid(place.map(outline.last()));
+        QPoint from = placed(outline.last());
         for (const QPointF &corner : outline) {
-            const QPoint to = onCornerGrid(place.map(corner));
+            const QPoint to = placed(corner);
             if (from.y() != to.y()) {
                 const bool goesDown = from.y() < to.y();
                 const QPoint upper = goesDown ? from : to;

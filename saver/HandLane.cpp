@@ -11,14 +11,11 @@ constexpr int kLinePixels = 16;
 void HandLane::lay(const platform::PixelBlock &picture, QRgb *room, const QRegion &area)
 {
     m_strips.clear();
-    int widest = 0;
-    for (const QRect &rect : area)
-        widest = std::max(widest, rect.width());
-    // The room holds rows of the picture's width.
-    const int stride =
-        std::min((widest + kLinePixels - 1) / kLinePixels * kLinePixels, picture.rect.width());
     QRgb *free = room;
     for (const QRect &rect : area) {
+        // The room holds rows of the picture's width.
+        const int stride = std::min((rect.width() + kLinePixels - 1) / kLinePixels * kLinePixels,
+                                    picture.rect.width());
         const platform::PixelBlock strip{free, stride, rect};
         for (int y = rect.top(); y <= rect.bottom(); ++y)
             std::copy_n(picture.row(y) + rect.left(), rect.width(), strip.row(y));
@@ -29,7 +26,7 @@ void HandLane::lay(const platform::PixelBlock &picture, QRgb *room, const QRegio
 
 bool HandLane::covers(const QRegion &area) const
 {
-    // Both go from top to bottom.
+    // Regions go from top to bottom.
     auto strip = m_strips.begin();
     return std::all_of(area.begin(), area.end(), [&](const QRect &rect) {
         strip = std::find_if(strip, m_strips.end(),
@@ -43,9 +40,12 @@ void HandLane::cut(const QRegion &area, const platform::PixelBlock &picture,
 {
     const bool isInLane = covers(area);
     QRegion rest = isInLane ? QRegion() : area;
+    auto from = area.begin();
     for (const platform::PixelBlock &strip : m_strips) {
-        for (const QRect &rect : area) {
-            const QRect part = rect & strip.rect;
+        const auto isAbove = [&](const QRect &rect) { return rect.bottom() < strip.rect.top(); };
+        from = std::find_if_not(from, area.end(), isAbove);
+        for (auto it = from; it != area.end() && it->top() <= strip.rect.bottom(); ++it) {
+            const QRect part = *it & strip.rect;
             if (!part.isEmpty())
                 blocks.push_back(strip.in(part));
         }
