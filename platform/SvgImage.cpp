@@ -18,6 +18,9 @@ namespace {
 constexpr int kInkGrid = 512;
 /// Cells by which a box may be wider than the narrowest of its rows.
 constexpr int kInkSlack = 10;
+/// Rows and columns of cells: wide against a pixel's margin, narrow against what is between inks.
+constexpr int kCells = 32;
+constexpr int kCellSide = kInkGrid / kCells;
 
 /// Cells left to right, the right one exclusive; empty when the row has no ink.
 struct InkRow
@@ -46,14 +49,18 @@ InkRow inkRow(const QImage &alpha, int y)
     return {int(first - cells), last + 1};
 }
 
-std::vector<QRectF> inkBoxesOf(const SvgImage &image)
+QImage inkOf(const SvgImage &image)
 {
     QImage alpha(kInkGrid, kInkGrid, QImage::Format_Alpha8);
     alpha.fill(0);
     QPainter painter(&alpha);
     image.draw(painter, alpha.rect());
-    painter.end();
+    return alpha;
+}
 
+std::vector<QRectF> inkBoxesOf(const SvgImage &image)
+{
+    const QImage alpha = inkOf(image);
     std::vector<QRectF> boxes;
     for (int y = 0; y < kInkGrid;) {
         const int top = y;
@@ -75,12 +82,40 @@ std::vector<QRectF> inkBoxesOf(const SvgImage &image)
     return boxes;
 }
 
+std::vector<QRectF> inkCellsOf(const SvgImage &image)
+{
+    const QImage alpha = inkOf(image);
+    const auto hasInk = [&](int column, int row) {
+        const QRect cell(column * kCellSide, row * kCellSide, kCellSide, kCellSide);
+        for (int y = cell.top(); y <= cell.bottom(); ++y) {
+            const uchar *line = alpha.constScanLine(y) + cell.left();
+            if (std::any_of(line, line + kCellSide, [](uchar ink) { return ink > 0; }))
+                return true;
+        }
+        return false;
+    };
+    std::vector<QRectF> boxes;
+    for (int row = 0; row < kCells; ++row) {
+        for (int column = 0; column < kCells; ++column) {
+            const int first = column;
+            while (column < kCells && hasInk(column, row))
+                ++column;
+            if (column > first) {
+                boxes.emplace_back(double(first) / kCells, double(row) / kCells,
+                                   double(column - first) / kCells, 1.0 / kCells);
+            }
+        }
+    }
+    return boxes;
+}
+
 } // namespace
 
 struct SvgImage::Picture
 {
     QSvgRenderer renderer;
     std::optional<std::vector<QRectF>> inkBoxes;
+    std::optional<std::vector<QRectF>> inkCells;
 };
 
 SvgImage SvgImage::fromFile(const QString &path)
@@ -112,6 +147,16 @@ const std::vector<QRectF> &SvgImage::inkBoxes() const
     if (!m_picture->inkBoxes)
         m_picture->inkBoxes = inkBoxesOf(*this);
     return *m_picture->inkBoxes;
+}
+
+const std::vector<QRectF> &SvgImage::inkCells() const
+{
+    static const std::vector<QRectF> none;
+    if (!m_picture)
+        return none;
+    if (!m_picture->inkCells)
+        m_picture->inkCells = inkCellsOf(*this);
+    return *m_picture->inkCells;
 }
 
 } // namespace platform

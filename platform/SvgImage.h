@@ -32,6 +32,9 @@ public:
     /// unit square. Meant for a slender picture whose ink stands upright. Found when first asked
     /// for.
     const std::vector<QRectF> &inkBoxes() const;
+    /// The same for ink that is scattered over the picture: the cells of a grid that have some,
+    /// those side by side in one box. From top to bottom, from left to right.
+    const std::vector<QRectF> &inkCells() const;
 
     /// Whether both are copies of the same picture.
     bool operator==(const SvgImage &) const = default;

@@ -159,18 +159,36 @@ bool sameApartFromPlaces(const ClockFrame &a, const ClockFrame &b)
            (!a.calendar || a.calendar->month == b.calendar->month);
 }
 
-/// Where clock and calendar of \p frame are, as far as they stand still.
-QRegion places(const ClockFrame &frame, double ratio)
+/// Where clock and calendar, as far as they stand still, have ink in two frames between which they
+/// only moved.
+QRegion movedInk(const ClockFrame &shown, const ClockFrame &next, double ratio)
 {
-    const auto pixels = [ratio](const QRectF &rect) {
-        return QTransform::fromScale(ratio, ratio)
-            .mapRect(rect)
-            .adjusted(-kInkMargin, -kInkMargin, kInkMargin, kInkMargin)
-            .toAlignedRect();
+    const QTransform toDevice = QTransform::fromScale(ratio, ratio);
+    Strips hands(wholeView(next, ratio));
+    for (const ClockFrame *frame : {&shown, &next}) {
+        const QRectF clock = toDevice.mapRect(frame->clockRect);
+        addHand(hands, frame->artwork.hourImage, clock, frame->angles.hour);
+        addHand(hands, frame->artwork.minuteImage, clock, frame->angles.minute);
+        addHand(hands, frame->artwork.secondImage, clock, frame->angles.second);
+    }
+    QRegion region = hands.region();
+    const auto add = [&](const QRectF &before, const QRectF &after) {
+        region += toDevice.mapRect(before.united(after))
+                      .adjusted(-kInkMargin, -kInkMargin, kInkMargin, kInkMargin)
+                      .toAlignedRect();
     };
-    QRegion region = pixels(frame.clockRect);
-    if (frame.calendar)
-        region += pixels(calendarReach(frame.calendar->month, frame.calendar->rect));
+    for (const QRectF &cell : next.artwork.faceImage.inkCells()) {
+        const auto placed = [&cell](const QRectF &clock) {
+            return QRectF(clock.x() + cell.x() * clock.width(),
+                          clock.y() + cell.y() * clock.height(), cell.width() * clock.width(),
+                          cell.height() * clock.height());
+        };
+        add(placed(shown.clockRect), placed(next.clockRect));
+    }
+    if (next.calendar) {
+        const CalendarMonth &month = next.calendar->month;
+        add(calendarReach(month, shown.calendar->rect), calendarReach(month, next.calendar->rect));
+    }
     return region;
 }
 
@@ -241,9 +259,7 @@ QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double rati
     if (next.tinted)
         return whole;
     if (!sameApartFromHands(shown, next)) {
-        return sameApartFromPlaces(shown, next)
-                   ? (places(shown, ratio) + places(next, ratio)) & whole
-                   : whole;
+        return sameApartFromPlaces(shown, next) ? movedInk(shown, next, ratio) & whole : whole;
     }
     const QRectF clock = QTransform::fromScale(ratio, ratio).mapRect(next.clockRect);
     Strips strips(whole);

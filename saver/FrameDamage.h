@@ -14,9 +14,8 @@ bool sameApartFromHands(const ClockFrame &a, const ClockFrame &b);
 ClockFrame withDriftHeld(const ClockFrame &shown, ClockFrame next, double ratio);
 
 /// The device pixels, counted from the view's top-left corner, that may differ between the pictures
-/// of two frames: the outlines of the hands that moved, where they were and where they are, the
-/// squares of clock and calendar where these moved, or the whole view. \p ratio is device pixels
-/// per point.
+/// of two frames: the outlines of the hands that moved, where they were and where they are, the ink
+/// of clock and calendar where these moved, or the whole view. \p ratio is device pixels per point.
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio);
 
 /// Whether \p region has all of \p rect.

@@ -85,7 +85,7 @@ QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &fram
         if (!frame.tinted)
             still.artwork.secondImage = {};
         QPainter painter(&picture);
-        painter.setClipRect(damage.boundingRect());
+        painter.setClipRegion(damage);
         painter.setTransform(toDevice);
         drawFrame(painter, still, m_scratch);
     }

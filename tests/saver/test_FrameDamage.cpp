@@ -51,6 +51,7 @@ private Q_SLOTS:
         QTest::newRow("new hour") << QTime(10, 59, 59, 990) << QTime(11, 0, 0, 20) << 1.0;
         QTest::newRow("midnight") << QTime(23, 59, 59, 990) << QTime(0, 0, 0, 20) << 1.0;
         QTest::newRow("clock grown") << QTime(10, 8, 30, 0) << QTime() << 1.0;
+        QTest::newRow("clock grown, fractional density") << QTime(2, 41, 7) << QTime() << 1.5;
         QTest::newRow("after a stop") << QTime(8, 20, 10) << QTime(17, 41, 47) << 1.0;
         QTest::newRow("high density") << QTime(10, 8, 36) << QTime(10, 8, 36, 33) << 2.0;
         QTest::newRow("fractional density") << QTime(10, 8, 22) << QTime(10, 8, 22, 33) << 1.5;
@@ -86,6 +87,14 @@ private Q_SLOTS:
         }
         const ClockFrame frame = frames::frameAt(QTime(10, 8, 30));
         QVERIFY(frameDamage(frame, frame, 1.0).isEmpty());
+    }
+
+    void aBreathTouchesTheInk()
+    {
+        const ClockFrame shown = frames::frameAt(QTime(10, 8, 30), {1920, 1080}, 0.998);
+        const ClockFrame next = frames::frameAt(QTime(10, 8, 30), {1920, 1080}, 0.99805);
+        const QRectF clock = next.clockRect;
+        QVERIFY(area(frameDamage(shown, next, 1.0)) < 0.5 * clock.width() * clock.height());
     }
 
     void anythingElseTouchesTheWhole_data()
