@@ -52,7 +52,8 @@ public:
     virtual QWidget *configureSheet() { return nullptr; }
 
 protected:
-    /// Nobody can see the view, so that it only looks now and then whether that is still so.
+    /// The last tick found that nobody can see the view, so that it only looks now and then whether
+    /// that is still so; or it was never started.
     bool rests() const { return m_rests; }
 
     /// Presents the frames while the view is a window of its own and the window system lets it;
@@ -76,7 +77,7 @@ private:
     double m_interval = 1.0 / 30.0;
     FramePacer m_pacer;
     QBasicTimer m_timer;
-    bool m_rests = false;
+    bool m_rests = true;
     std::unique_ptr<FramePresenter> m_presenter;
 };
 
