@@ -40,11 +40,11 @@ void HandLane::cut(const QRegion &area, const platform::PixelBlock &picture,
 {
     const bool isInLane = covers(area);
     QRegion rest = isInLane ? QRegion() : area;
-    auto from = area.begin();
+    const auto *from = area.begin();
     for (const platform::PixelBlock &strip : m_strips) {
         const auto isAbove = [&](const QRect &rect) { return rect.bottom() < strip.rect.top(); };
         from = std::find_if_not(from, area.end(), isAbove);
-        for (auto it = from; it != area.end() && it->top() <= strip.rect.bottom(); ++it) {
+        for (const auto *it = from; it != area.end() && it->top() <= strip.rect.bottom(); ++it) {
             const QRect part = *it & strip.rect;
             if (!part.isEmpty())
                 blocks.push_back(strip.in(part));
