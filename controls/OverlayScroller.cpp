@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/OverlayScroller.h"
 
+#include "controls/RoundedShape.h"
 #include "controls/ViewAlpha.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -133,8 +134,6 @@ void OverlayScroller::mouseReleaseEvent(QMouseEvent *)
 void OverlayScroller::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(withAlpha(appearanceOf(this).labelColor(), kKnobAlpha));
-    painter.drawRoundedRect(knob(), kKnobWidth / 2.0, kKnobWidth / 2.0);
+    fillRounded(painter, knob(), kKnobWidth / 2.0,
+                withAlpha(appearanceOf(this).labelColor(), kKnobAlpha));
 }

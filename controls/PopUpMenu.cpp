@@ -112,11 +112,8 @@ void PopUpMenu::drawItem(QPainter &painter, const QAction &action, const QRectF 
     const bool active = activeAction() == &action;
     const Emphasis emphasis = emphasisFrom(appearance.controlAccentColor());
     const QColor ink = active ? emphasis.ink : appearance.controlTextColor();
-    if (active) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(emphasis.fill);
-        painter.drawRoundedRect(item, kItemRadius, kItemRadius);
-    }
+    if (active)
+        fillRounded(painter, item, kItemRadius, emphasis.fill);
     painter.setPen(ink);
     painter.setFont(font());
     painter.drawText(item.adjusted(kTitleInset, 0.0, 0.0, 0.0),

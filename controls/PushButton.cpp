@@ -5,6 +5,7 @@
 #include "controls/Emphasis.h"
 #include "controls/FocusRing.h"
 #include "controls/LineHeight.h"
+#include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -79,7 +80,7 @@ QRectF PushButton::bezel() const
     return {0.0, (height() - kBezelHeight) / 2.0, static_cast<double>(width()), kBezelHeight};
 }
 
-/// Pale ink on a pale accent could not be read.
+/// Not while disabled: pale ink on a pale accent could not be read.
 bool PushButton::isEmphasised() const
 {
     return m_prominent && isEnabled();
@@ -102,11 +103,8 @@ QColor PushButton::displayInk() const
 void PushButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(isEnabled() ? 1.0 : kDisabledAlpha);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(displayFill());
-    painter.drawRoundedRect(bezel(), m_radius, m_radius);
+    fillRounded(painter, bezel(), m_radius, displayFill());
     if (isDown())
         painter.setOpacity(painter.opacity() * kPressedAlpha);
     drawContents(painter);

@@ -32,6 +32,14 @@ QRegion roundedShape(const QSize &size, double radius)
     return shape;
 }
 
+void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QColor &color)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(rect, radius, radius);
+}
+
 void drawPanel(QPainter &painter, const QWidget *panel, double radius)
 {
     const platform::Appearance &appearance = appearanceOf(panel);
@@ -42,10 +50,7 @@ void drawPanel(QPainter &painter, const QWidget *panel, double radius)
         painter.fillRect(area, appearance.windowBackgroundColor());
         painter.fillRect(area, edge);
     }
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(appearance.windowBackgroundColor());
-    painter.drawRoundedRect(area, radius, radius);
+    fillRounded(painter, area, radius, appearance.windowBackgroundColor());
     painter.setPen(QPen(edge, 1.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);

@@ -117,9 +117,11 @@ void TamselColorPopover::showFor(QWidget *anchor, const QColor &color)
 
 void TamselColorPopover::updateGradients()
 {
-    for (auto *slider : {m_hueSlider, m_saturationSlider, m_brightnessSlider})
-        slider->setSelectedColor(m_hueSlider->doubleValue(), m_saturationSlider->doubleValue(),
-                                 m_brightnessSlider->doubleValue());
+    for (auto *slider : {m_hueSlider, m_saturationSlider, m_brightnessSlider}) {
+        slider->setSelectedHue(m_hueSlider->doubleValue());
+        slider->setSelectedSaturation(m_saturationSlider->doubleValue());
+        slider->setSelectedBrightness(m_brightnessSlider->doubleValue());
+    }
 }
 
 // The callbacks are called through copies: their owner may replace them, or this object, meanwhile.

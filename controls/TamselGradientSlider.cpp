@@ -70,10 +70,20 @@ void TamselGradientSlider::setComponent(int component)
     update();
 }
 
-void TamselGradientSlider::setSelectedColor(double hue, double saturation, double brightness)
+void TamselGradientSlider::setSelectedHue(double hue)
 {
     m_selectedHue = hue;
+    update();
+}
+
+void TamselGradientSlider::setSelectedSaturation(double saturation)
+{
     m_selectedSaturation = saturation;
+    update();
+}
+
+void TamselGradientSlider::setSelectedBrightness(double brightness)
+{
     m_selectedBrightness = brightness;
     update();
 }

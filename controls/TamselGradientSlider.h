@@ -20,9 +20,11 @@ public:
 
     /// The colour being edited, each part 0 to 1; what the track is drawn from.
     double selectedHue() const { return m_selectedHue; }
+    void setSelectedHue(double hue);
     double selectedSaturation() const { return m_selectedSaturation; }
+    void setSelectedSaturation(double saturation);
     double selectedBrightness() const { return m_selectedBrightness; }
-    void setSelectedColor(double hue, double saturation, double brightness);
+    void setSelectedBrightness(double brightness);
 
     double doubleValue() const { return m_doubleValue; }
     /// Clamped to the slider's range; reports nothing.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselHexField.h"
 
+#include "controls/RoundedShape.h"
 #include "controls/TamselInputCell.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
@@ -65,10 +66,7 @@ void TamselHexField::paintEvent(QPaintEvent *event)
 {
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(m_fill.isValid() ? m_fill : TamselInputFill(this));
-        painter.drawRoundedRect(rect(), kRadius, kRadius);
+        fillRounded(painter, rect(), kRadius, m_fill.isValid() ? m_fill : TamselInputFill(this));
     }
     QLineEdit::paintEvent(event);
 }

@@ -3,6 +3,7 @@
 
 #include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
+#include "controls/RoundedShape.h"
 #include "controls/Symbol.h"
 #include "controls/ViewAlpha.h"
 #include "controls/ViewAppearance.h"
@@ -142,8 +143,5 @@ void TamselModeControl::fadeStep(double alpha, bool atEnd)
 void TamselModeControl::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(withAlpha(m_ink, kBackgroundAlpha));
-    painter.drawRoundedRect(rect(), kRadius, kRadius);
+    fillRounded(painter, rect(), kRadius, withAlpha(m_ink, kBackgroundAlpha));
 }

@@ -2,6 +2,7 @@
 #include "controls/TamselSettingsView.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -42,11 +43,10 @@ void TamselSettingsView::paintEvent(QPaintEvent *)
     if (m_transparent)
         return;
     const platform::Appearance &appearance = appearanceOf(this);
-    const double radius = m_group ? m_groupRadius : 0.0;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_group ? withAlpha(appearance.labelColor(), m_groupContrast)
-                             : appearance.windowBackgroundColor());
-    painter.drawRoundedRect(rect(), radius, radius);
+    if (m_group)
+        fillRounded(painter, rect(), m_groupRadius,
+                    withAlpha(appearance.labelColor(), m_groupContrast));
+    else
+        painter.fillRect(rect(), appearance.windowBackgroundColor());
 }

@@ -3,6 +3,7 @@
 
 #include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
+#include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -95,9 +96,6 @@ void TamselSymbolButton::leaveEvent(QEvent *)
 void TamselSymbolButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(displayFill());
-    painter.drawRoundedRect(rect(), m_radius, m_radius);
+    fillRounded(painter, rect(), m_radius, displayFill());
     drawSymbolInRect(painter, rect());
 }

@@ -42,7 +42,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    /// The rounded rectangle the focus ring goes around, in the button's coordinates.
+    /// Radius of the corners that the focus ring goes around.
     virtual double outlineRadius() const { return m_radius; }
     QColor displayFill() const;
 

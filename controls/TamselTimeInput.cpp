@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselTimeInput.h"
 
+#include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 
@@ -56,8 +57,5 @@ void TamselTimeInput::alignPicker()
 void TamselTimeInput::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_fill.isValid() ? m_fill : TamselInputFill(this));
-    painter.drawRoundedRect(rect(), kRadius, kRadius);
+    fillRounded(painter, rect(), kRadius, m_fill.isValid() ? m_fill : TamselInputFill(this));
 }

@@ -2,6 +2,7 @@
 #include "controls/TamselTimeMenu.h"
 
 #include "controls/LineHeight.h"
+#include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -49,13 +50,12 @@ bool TamselTimeMenu::isExpanded() const
 void TamselTimeMenu::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QRectF icon(width() - kSymbolSide, (height() - kSymbolSide) / 2.0, kSymbolSide,
                       kSymbolSide);
-    const double radius = isExpanded() ? kExpandedRadius : kCircleRadius;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(displayFill());
-    painter.drawRoundedRect(isExpanded() ? QRectF(rect()) : icon, radius, radius);
+    if (isExpanded())
+        fillRounded(painter, rect(), kExpandedRadius, displayFill());
+    else
+        fillRounded(painter, icon, kCircleRadius, displayFill());
     if (!text().isEmpty()) {
         const double line = lineHeight(font());
         painter.setPen(hoverInk().isValid() ? hoverInk() : appearanceOf(this).controlTextColor());

@@ -3,6 +3,7 @@
 
 #include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
+#include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
@@ -65,21 +66,16 @@ void TamselToggle::paintEvent(QPaintEvent *)
 {
     const platform::Appearance &appearance = appearanceOf(this);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(isEnabled() ? 1.0 : kDisabledAlpha);
-    painter.setPen(Qt::NoPen);
 
     const double radius = height() / 2.0;
-    painter.setBrush(withAlpha(appearance.labelColor(), kOffAlpha));
-    painter.drawRoundedRect(rect(), radius, radius);
-    painter.setBrush(withAlpha(appearance.controlAccentColor(), m_knobPosition));
-    painter.drawRoundedRect(rect(), radius, radius);
-    if (isDown()) {
-        painter.setBrush(withAlpha(Qt::black, kPressedShade));
-        painter.drawRoundedRect(rect(), radius, radius);
-    }
+    fillRounded(painter, rect(), radius, withAlpha(appearance.labelColor(), kOffAlpha));
+    fillRounded(painter, rect(), radius,
+                withAlpha(appearance.controlAccentColor(), m_knobPosition));
+    if (isDown())
+        fillRounded(painter, rect(), radius, withAlpha(Qt::black, kPressedShade));
     const double side = height() - 2.0 * kKnobInset;
     const double travel = width() - side - 2.0 * kKnobInset;
-    painter.setBrush(Qt::white);
-    painter.drawEllipse(QRectF(kKnobInset + m_knobPosition * travel, kKnobInset, side, side));
+    const QRectF knob(kKnobInset + m_knobPosition * travel, kKnobInset, side, side);
+    fillRounded(painter, knob, side / 2.0, Qt::white);
 }

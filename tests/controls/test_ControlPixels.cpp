@@ -96,7 +96,8 @@ Look slider(const char *name, int component, double value)
 {
     const auto adjust = [=](TamselGradientSlider &it) {
         it.setComponent(component);
-        it.setSelectedColor(0.0, 1.0, 1.0);
+        it.setSelectedSaturation(1.0);
+        it.setSelectedBrightness(1.0);
         it.setDoubleValue(value);
     };
     const auto probes = [=](const Appearance &) {
@@ -116,18 +117,24 @@ Look slider(const char *name, int component, double value)
     return {name, {280, 28}, made<TamselGradientSlider>(adjust), probes};
 }
 
-Look timeMenu(const char *name, const QString &title, bool pressed)
+enum class Touch { None, Hovered, Pressed };
+
+Look timeMenu(const char *name, const QString &title, Touch touch)
 {
     const double width = title.isEmpty() ? 20 : 90;
     const double height = title.isEmpty() ? 20 : 24;
     const auto adjust = [=](TamselTimeMenu &menu) {
         menu.setFont(platform::systemFont(13));
         menu.setText(title);
-        menu.setDown(pressed);
+        menu.setDown(touch == Touch::Pressed);
+        if (touch == Touch::Hovered) {
+            QEnterEvent enters({1, 1}, {1, 1}, {1, 1});
+            QCoreApplication::sendEvent(&menu, &enters);
+        }
     };
     const auto probes = [=](const Appearance &look) {
         const QColor fill = inputFill(look);
-        const QColor outside = pressed && !title.isEmpty() ? fill : kClear;
+        const QColor outside = touch != Touch::None && !title.isEmpty() ? fill : kClear;
         QList<Probe> points{{width - 10, height / 2 - 9.5, fill},
                             {width - 19.5, height / 2, fill},
                             {width - 19, height / 2 - 9, outside},
@@ -211,16 +218,19 @@ QList<Look> grounds()
 
 const QList<Look> &allLooks()
 {
-    static const QList<Look> all = swatches() + grounds() +
-                                   QList<Look>{toggle("toggle off", false),
-                                               toggle("toggle on", true),
-                                               slider("hue at the left end", 0, 0.0),
-                                               slider("saturation in the middle", 1, 0.5),
-                                               slider("brightness at the right end", 2, 1.0),
-                                               timeMenu("time menu, bare", {}, false),
-                                               timeMenu("time menu, bare, pressed", {}, true),
-                                               timeMenu("time menu", u"Sunset"_s, false),
-                                               timeMenu("time menu, pressed", u"Sunset"_s, true)};
+    static const QList<Look> all =
+        swatches() + grounds() +
+        QList<Look>{toggle("toggle off", false),
+                    toggle("toggle on", true),
+                    slider("hue at the left end", 0, 0.0),
+                    slider("saturation in the middle", 1, 0.5),
+                    slider("brightness at the right end", 2, 1.0),
+                    timeMenu("time menu, bare", {}, Touch::None),
+                    timeMenu("time menu, bare, hovered", {}, Touch::Hovered),
+                    timeMenu("time menu, bare, pressed", {}, Touch::Pressed),
+                    timeMenu("time menu", u"Sunset"_s, Touch::None),
+                    timeMenu("time menu, hovered", u"Sunset"_s, Touch::Hovered),
+                    timeMenu("time menu, pressed", u"Sunset"_s, Touch::Pressed)};
     return all;
 }
 
@@ -412,7 +422,9 @@ private Q_SLOTS:
     void colorsOfTheSlider()
     {
         TamselGradientSlider slider;
-        slider.setSelectedColor(1.0 / 3.0, 0.5, 0.5);
+        slider.setSelectedHue(1.0 / 3.0);
+        slider.setSelectedSaturation(0.5);
+        slider.setSelectedBrightness(0.5);
         QVERIFY(alike(slider.colorAtValue(2.0 / 3.0), Qt::blue, 1)); // hue ignores the colour
         slider.setComponent(1);
         QVERIFY(alike(slider.colorAtValue(1.0), QColor::fromRgbF(0, 0.5F, 0), 1));

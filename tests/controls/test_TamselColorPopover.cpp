@@ -91,10 +91,6 @@ private Q_SLOTS:
         add("anchor hidden", [](Sheet &it) { it.swatch->hide(); });
         add("anchor moved", [](Sheet &it) { it.swatch->move(0, 0); });
         add("anchor destroyed", [](Sheet &it) { delete it.swatch; });
-        add("next popover", [](Sheet &it) {
-            it.editor->popover()->close();
-            it.editor = std::make_unique<TamselColorPopover>();
-        });
     }
 
     void closesOnceAndReportsOnce()
@@ -114,6 +110,17 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!popover);
         QCOMPARE(sheet.dismissed + sheet.panels, 1);
+    }
+
+    void destroyedWhileOpenReportsNothing()
+    {
+        Sheet sheet;
+        const QPointer<Popover> popover = sheet.editor->popover();
+        sheet.editor.reset();
+        QVERIFY(!popover || !popover->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!popover);
+        QCOMPARE(sheet.dismissed, 0);
     }
 
     void staysOpenWhileItsOwnWindowsHaveTheFocus()
