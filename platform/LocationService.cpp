@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/LocationService.h"
 
+#include "platform/BusProbe.h"
+#include "platform/MessageBus.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -12,6 +15,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -64,7 +68,7 @@ LocationFix fixFrom(const QVariantMap &properties)
 
 } // namespace
 
-/// One start of the service: from GetClient to the end of updating.
+/// One start of the service: from a look at the bus to the end of updating.
 class LocationService::Request : public QObject
 {
     Q_OBJECT
@@ -82,7 +86,8 @@ private:
     using ReplyHandler = std::function<void(const QDBusMessage &reply)>;
 
     QDBusMessage clientCall(QLatin1StringView interface, const QString &method) const;
-    void send(const QDBusMessage &message) { m_bus.call(message, QDBus::NoBlock); }
+    void connectToBus();
+    void send(const QDBusMessage &message) { m_bus->call(message, QDBus::NoBlock); }
     void call(const QDBusMessage &message, const ReplyHandler &replied,
               std::chrono::milliseconds timeout = kConsentTimeout);
     void useClient(const QDBusMessage &reply);
@@ -91,8 +96,8 @@ private:
     void giveUp();
 
     LocationService &m_service;
-    QDBusConnection m_bus;
-    QDBusServiceWatcher m_watcher;
+    BusProbe m_probe;
+    std::optional<QDBusConnection> m_bus;
     QTimer m_silence;
     /// The service's own name on the bus, so that nobody else's signals are taken for its.
     QString m_owner;
@@ -101,11 +106,15 @@ private:
 };
 
 LocationService::Request::Request(LocationService &service)
-    : m_service(service), m_bus(QDBusConnection::systemBus()),
-      m_watcher(kService, m_bus, QDBusServiceWatcher::WatchForUnregistration)
+    : m_service(service),
+      m_probe(MessageBus::address(MessageBus::Kind::System).value_or(QByteArray()))
 {
-    connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-        if (!m_ended)
+    connect(&m_probe, &BusProbe::finished, this, [this](bool answered) {
+        if (m_ended)
+            return;
+        if (answered)
+            connectToBus();
+        else
             giveUp();
     });
     m_silence.setSingleShot(true);
@@ -115,6 +124,18 @@ LocationService::Request::Request(LocationService &service)
 
 void LocationService::Request::begin()
 {
+    m_probe.start();
+}
+
+void LocationService::Request::connectToBus()
+{
+    m_bus = QDBusConnection::systemBus();
+    auto *watcher = new QDBusServiceWatcher(kService, *m_bus,
+                                            QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+        if (!m_ended)
+            giveUp();
+    });
     call(QDBusMessage::createMethodCall(kService, kManagerPath, kManager, u"GetClient"_s),
          [this](const QDBusMessage &reply) { useClient(reply); });
 }
@@ -125,8 +146,8 @@ void LocationService::Request::end()
     m_silence.stop();
     if (m_clientPath.isEmpty())
         return;
-    m_bus.disconnect(m_owner, m_clientPath, kClient, u"LocationUpdated"_s, this,
-                     SLOT(locationUpdated(QDBusObjectPath, QDBusObjectPath)));
+    m_bus->disconnect(m_owner, m_clientPath, kClient, u"LocationUpdated"_s, this,
+                      SLOT(locationUpdated(QDBusObjectPath, QDBusObjectPath)));
     send(clientCall(kClient, u"Stop"_s));
 }
 
@@ -140,7 +161,7 @@ void LocationService::Request::call(const QDBusMessage &message, const ReplyHand
                                     std::chrono::milliseconds timeout)
 {
     auto *watcher =
-        new QDBusPendingCallWatcher(m_bus.asyncCall(message, int(timeout.count())), this);
+        new QDBusPendingCallWatcher(m_bus->asyncCall(message, int(timeout.count())), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, replied] {
         watcher->deleteLater();
         if (m_ended)
@@ -158,8 +179,8 @@ void LocationService::Request::useClient(const QDBusMessage &reply)
     m_clientPath = reply.arguments().value(0).value<QDBusObjectPath>().path();
     if (m_clientPath.isEmpty())
         return giveUp();
-    m_bus.connect(m_owner, m_clientPath, kClient, u"LocationUpdated"_s, this,
-                  SLOT(locationUpdated(QDBusObjectPath, QDBusObjectPath)));
+    m_bus->connect(m_owner, m_clientPath, kClient, u"LocationUpdated"_s, this,
+                   SLOT(locationUpdated(QDBusObjectPath, QDBusObjectPath)));
     setClientProperty(u"DesktopId"_s, m_service.m_desktopId);
     setClientProperty(u"RequestedAccuracyLevel"_s, kCityAccuracy);
     call(clientCall(kClient, u"Start"_s), [this](const QDBusMessage &) {

@@ -21,7 +21,6 @@ struct LocationFix
 };
 
 enum class LocationAuthorization {
-    NotDetermined,
     Restricted, ///< location is switched off, or there is nobody who could be asked
     Authorized,
 };
@@ -33,7 +32,7 @@ enum class LocationError {
 
 /// The desktop's location service, GeoClue 2 on the system bus, at city accuracy. It asks the user
 /// for consent itself. Every question is asked without waiting, no position is kept, and the bus is
-/// not connected to before the first start.
+/// not connected to before the first start, nor while it does not answer.
 ///
 /// What its errors mean here: an AccessDenied that begins "Agent rejected" is the user's own no,
 /// so Denied; every other AccessDenied ("Geolocation disabled", "no agent", "disallowed by

@@ -53,9 +53,11 @@ QByteArray defaultSessionAddress()
     return "unix:path=" + folder.toPercentEncoding("/") + "/bus";
 }
 
-std::optional<QByteArray> busAddress(MessageBus::Kind kind)
+} // namespace
+
+std::optional<QByteArray> MessageBus::address(Kind kind)
 {
-    const bool system = kind == MessageBus::Kind::System;
+    const bool system = kind == Kind::System;
     const QByteArray given =
         qgetenv(system ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
     if (!given.isEmpty()) {
@@ -65,13 +67,11 @@ std::optional<QByteArray> busAddress(MessageBus::Kind kind)
                                       : defaultSessionAddress());
 }
 
-} // namespace
-
 MessageBus::MessageBus(Kind kind, QObject *parent)
     : QObject(parent), m_outbox(std::make_shared<BusOutbox>())
 {
-    if (const auto address = busAddress(kind)) {
-        startWorker(*address);
+    if (const auto where = address(kind)) {
+        startWorker(*where);
     }
 }
 

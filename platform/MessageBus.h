@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QDBusMessage>
 #include <QHash>
 #include <QObject>
@@ -9,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QThread;
 
@@ -40,6 +42,9 @@ class MessageBus : public QObject
 
 public:
     enum class Kind { Session, System };
+    /// Where the bus of that kind listens; none when it could not be reached without waiting.
+    static std::optional<QByteArray> address(Kind kind);
+
     using Receiver = std::function<void(const QDBusMessage &)>;
 
     explicit MessageBus(Kind kind, QObject *parent = nullptr);

@@ -4,7 +4,9 @@
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 #include "tests/support/GeoClue.h"
+#include "tests/support/TestBus.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -17,6 +19,7 @@ class test_LocationRequest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void aHungBusIsUnavailable();
     void endsWithAStatus_data();
     void endsWithAStatus();
     void withoutAServiceItIsUnavailable();
@@ -34,6 +37,24 @@ private:
 void test_LocationRequest::initTestCase()
 {
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS"));
+}
+
+/// Stands first: a connection that is made once stays.
+void test_LocationRequest::aHungBusIsUnavailable()
+{
+    const QByteArray usual = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    TestBus bus(TestBus::Kind::System);
+    QVERIFY(bus.start());
+    bus.hang();
+    platform::LocationService location{QString(kLocationDesktopId)};
+    QSignalSpy failures(&location, &platform::LocationService::failed);
+    QElapsedTimer timer;
+    timer.start();
+    location.startUpdating();
+    QVERIFY(timer.elapsed() < 1000);
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(!location.isUpdating());
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", usual);
 }
 
 void test_LocationRequest::endsWithAStatus_data()
