@@ -6,10 +6,10 @@
 #include "controls/LineHeight.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "platform/ShortTime.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
 
 #include <cmath>
 
@@ -27,12 +27,6 @@ constexpr QTime kWidestTime = QTime::fromMSecsSinceStartOfDay((22 * 60 + 58) * 6
 
 } // namespace
 
-QString shortTimeFormat(const QLocale &locale)
-{
-    static const QRegularExpression seconds(QStringLiteral("[:.]?s+"));
-    return locale.timeFormat(QLocale::ShortFormat).remove(seconds);
-}
-
 TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
 {
     setFrame(false);
@@ -40,7 +34,7 @@ TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignTop);
     // The caret's place is taken from the margin, so that the digits end where other input does.
     lineEdit()->setTextMargins(0, 0, -kCaretSpace, 0);
-    setDisplayFormat(shortTimeFormat(locale()));
+    setDisplayFormat(platform::shortTimeFormat(locale()));
     setFont(platform::systemFont(kFontSize, QFont::Normal));
     lineEdit()->installEventFilter(this);
     // By its usual name the toolkit keeps the editor from assistive technology.

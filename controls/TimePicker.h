@@ -3,9 +3,6 @@
 
 #include <QTimeEdit>
 
-/// How \p locale writes an hour and a minute, without the seconds that it may put behind them.
-QString shortTimeFormat(const QLocale &locale);
-
 /// An hour and a minute, typed or stepped one at a time, without frame, buttons or background of
 /// its own. It follows the user's way to write a time.
 class TimePicker : public QTimeEdit

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/FileLock.h"
+#include "platform/SingleWindow.h"
 
 #include <QImage>
 
@@ -21,17 +21,16 @@ public:
     explicit Configuration(const platform::Desktop &desktop);
 
     /// Whether no other process shows the sheet; none will while this object lives.
-    bool isOnlyOne() const { return m_lock.isHeld(); }
+    bool isOnlyOne() const { return m_single.isOnlyOne(); }
     /// Asks the process that shows the sheet to bring it to the front.
-    void bringOtherToFront() const;
+    void bringOtherToFront() const { m_single.bringOtherToFront(); }
 
     /// Shows the sheet of \p view until it is dismissed or the program is told to end. Whether the
     /// settings were saved.
     bool run(TamselClockSaverView &view) const;
 
 private:
-    const platform::Desktop &m_desktop;
-    platform::FileLock m_lock;
+    platform::SingleWindow m_single;
 };
 
 /// The whole options sheet of \p view, however high the screen is, at \p scale device pixels per

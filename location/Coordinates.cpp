@@ -71,14 +71,6 @@ QString coordinatesText(const SolarLocation &location)
            withHemisphere(location.longitude, u'E', u'W');
 }
 
-QString timeText(QTime time)
-{
-    const QLocale locale = QLocale::system();
-    // The language-neutral locale alone has seconds in its short format.
-    return locale.language() == QLocale::C ? time.toString(u"HH:mm"_s)
-                                           : locale.toString(time, QLocale::ShortFormat);
-}
-
 /// By the haversine formula, which is exact enough for near points too.
 double distance(const SolarLocation &from, const SolarLocation &to)
 {

@@ -4,7 +4,6 @@
 #include "night/SolarLocation.h"
 
 #include <QString>
-#include <QTime>
 
 #include <optional>
 
@@ -24,9 +23,6 @@ QString degreesText(double degrees);
 
 /// "60.17° N, 24.94° E"
 QString coordinatesText(const SolarLocation &location);
-
-/// "06:40", as the user's language writes a time without seconds.
-QString timeText(QTime time);
 
 /// Kilometres along a great circle.
 double distance(const SolarLocation &from, const SolarLocation &to);

@@ -3,6 +3,7 @@
 
 #include "location/Coordinates.h"
 #include "platform/Appearance.h"
+#include "platform/ShortTime.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -43,7 +44,7 @@ QString sunText(const std::optional<Place> &place)
         return u"The sun does not rise or set there today, so it cannot begin or end a night."_s;
     const DaylightHours &daylight = *place->daylight;
     return u"Today: sunrise %1, sunset %2%3"_s.arg(
-        timeText(daylight.sunrise), timeText(daylight.sunset),
+        platform::shortTimeText(daylight.sunrise), platform::shortTimeText(daylight.sunset),
         isFarAway(daylight) ? u" by this computer's clock"_s : QString());
 }
 

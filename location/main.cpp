@@ -5,6 +5,8 @@
 #include "platform/Clocks.h"
 #include "platform/DisplayServer.h"
 #include "platform/DistributedNotifications.h"
+#include "platform/ShortTime.h"
+#include "platform/SingleWindow.h"
 
 #include <QApplication>
 #include <QTimeZone>
@@ -41,7 +43,7 @@ platform::Desktop desktopWith(platform::DistributedNotifications &notifications)
 
 QString sunLine(const QString &name, const std::optional<QDateTime> &time)
 {
-    const QString text = time ? location::timeText(time->time()) : u"not today"_s;
+    const QString text = time ? platform::shortTimeText(time->time()) : u"not today"_s;
     return u"%1 %2\n"_s.arg(name, text);
 }
 
@@ -92,9 +94,15 @@ int runWindow(int argc, char **argv)
     QApplication::setApplicationDisplayName(u"Pelko Location"_s);
     QGuiApplication::setDesktopFileName(QString(kLocationDesktopId));
     platform::DistributedNotifications notifications;
-    location::LocationWindow window(desktopWith(notifications), location::ZoneCities::ofSystem(),
+    const platform::Desktop desktop = desktopWith(notifications);
+    const platform::SingleWindow single(desktop, u"location"_s);
+    if (!single.isOnlyOne()) {
+        single.bringOtherToFront();
+        return kSuccess;
+    }
+    location::LocationWindow window(desktop, location::ZoneCities::ofSystem(),
                                     QString::fromUtf8(QTimeZone::systemTimeZoneId()));
-    window.show();
+    single.present(window);
     return QApplication::exec();
 }
 

@@ -15,7 +15,6 @@ constexpr qlonglong kDefaultTo = 450;    // 07:30
 constexpr qlonglong kLastMinute = 1439;
 constexpr QLatin1StringView kDefaultBase("#000000");
 constexpr QLatin1StringView kDefaultMark("#FFF5E8");
-constexpr QLatin1StringView kCustomMode("custom");
 
 /// A whole number within the day; none when \p value is not a number.
 std::optional<qlonglong> minuteFrom(const QVariant &value)
@@ -48,15 +47,15 @@ QString colorTextFrom(const QVariant &value, QLatin1StringView fallback)
 QVariantMap normalizedNightSettings(const std::optional<QVariantMap> &stored)
 {
     const auto value = [&](const QString &key) { return stored ? stored->value(key) : QVariant(); };
-    const auto mode = [&](const QString &key, QLatin1StringView solar) -> QString {
-        return !stored || value(key) == QVariant(QString(solar)) ? solar : kCustomMode;
+    const auto mode = [&](const QString &key, const QString &solar) {
+        return !stored || value(key) == QVariant(solar) ? solar : kNightCustomMode;
     };
     return {
         {kNightEnabledKey, booleanSetting(value(kNightEnabledKey))},
         {kNightFromKey, minuteFrom(value(kNightFromKey)).value_or(kDefaultFrom)},
         {kNightToKey, minuteFrom(value(kNightToKey)).value_or(kDefaultTo)},
-        {kNightFromModeKey, mode(kNightFromModeKey, "sunset"_L1)},
-        {kNightToModeKey, mode(kNightToModeKey, "sunrise"_L1)},
+        {kNightFromModeKey, mode(kNightFromModeKey, kNightSunsetMode)},
+        {kNightToModeKey, mode(kNightToModeKey, kNightSunriseMode)},
         {kNightBaseKey, colorTextFrom(value(kNightBaseKey), kDefaultBase)},
         {kNightMarkKey, colorTextFrom(value(kNightMarkKey), kDefaultMark)},
     };

@@ -12,9 +12,13 @@ inline const QString kNightEnabledKey = QStringLiteral("enabled");
 /// Start and end in minutes after local midnight.
 inline const QString kNightFromKey = QStringLiteral("from");
 inline const QString kNightToKey = QStringLiteral("to");
-/// How each end is chosen: "sunset" (start) or "sunrise" (end), or "custom" for the minutes above.
+/// How each end is chosen.
 inline const QString kNightFromModeKey = QStringLiteral("fromMode");
 inline const QString kNightToModeKey = QStringLiteral("toMode");
+/// The modes: the start at sunset, the end at sunrise, either at the minute above.
+inline const QString kNightSunsetMode = QStringLiteral("sunset");
+inline const QString kNightSunriseMode = QStringLiteral("sunrise");
+inline const QString kNightCustomMode = QStringLiteral("custom");
 /// Colours as hex text.
 inline const QString kNightBaseKey = QStringLiteral("base");
 inline const QString kNightMarkKey = QStringLiteral("mark");

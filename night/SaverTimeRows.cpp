@@ -16,6 +16,7 @@
 #include "night/TimeRows.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
+#include "platform/ShortTime.h"
 #include "settings/SettingsSheet.h"
 #include "settings/SheetParts.h"
 
@@ -37,12 +38,10 @@ constexpr double kChevronSize = 10.0;
 constexpr int kTitleRightInset = 32;
 constexpr int kTitleBeforeChevron = 12;
 
-const QString kCustom = QStringLiteral("custom");
-
 /// The stored mode of row \p row when it follows the sun, which is the event's name as well.
 QString solarMode(int row)
 {
-    return row == 0 ? u"sunset"_s : u"sunrise"_s;
+    return row == 0 ? kNightSunsetMode : kNightSunriseMode;
 }
 
 QString solarTitle(int row)
@@ -135,7 +134,7 @@ void TamselScheduledSaverView::refreshTimeRows()
 
 void TamselScheduledSaverView::refreshTimeRow(int row)
 {
-    const bool custom = m_timeModes.at(row) == kCustom;
+    const bool custom = m_timeModes.at(row) == kNightCustomMode;
     pickerOf(*sheet(), row)->setVisible(custom);
     m_timeRows->timeInputs.at(row)->setVisible(custom);
     TamselTimeMenu *menu = m_timeRows->timeMenus.at(row);
@@ -149,9 +148,8 @@ void TamselScheduledSaverView::refreshTimeRow(int row)
 QString TamselScheduledSaverView::timeRowToolTip(int row)
 {
     TamselSolarTimes &sun = solarTimes();
-    const QLocale locale = QLocale::system();
     if (const auto event = sun.eventOnDate(m_timeModes.at(row), clocks().now()))
-        return locale.toString(event->time(), shortTimeFormat(locale));
+        return platform::shortTimeText(event->time());
     return sun.location() ? u"No solar event today at this location. Choose a custom time."_s
                           : sun.status();
 }
@@ -162,8 +160,8 @@ void TamselScheduledSaverView::showTimeMenu(TamselTimeMenu *sender)
     auto *menu = new PopUpMenu(sender);
     m_timeRows->openMenu = menu;
     QAction *chosen = nullptr;
-    for (const auto &[title, mode] :
-         {std::pair(solarTitle(row), solarMode(row)), std::pair(u"Custom time"_s, kCustom)}) {
+    for (const auto &[title, mode] : {std::pair(solarTitle(row), solarMode(row)),
+                                      std::pair(u"Custom time"_s, kNightCustomMode)}) {
         QAction *action =
             menu->addAction(title, this, [this, mode = mode, row] { selectTimeMode(mode, row); });
         action->setCheckable(true);
@@ -191,7 +189,7 @@ void TamselScheduledSaverView::selectTimeMode(const QString &mode, int row)
     endEditing();
     m_timeModes[row] = mode;
     refreshTimeRows();
-    if (mode == kCustom)
+    if (mode == kNightCustomMode)
         pickerOf(*sheet(), row)->setFocus(Qt::OtherFocusReason);
 }
 
@@ -209,7 +207,7 @@ void TamselScheduledSaverView::requestSolarLocation()
 
 bool TamselScheduledSaverView::validateSchedule()
 {
-    if (m_timeModes == QStringList{kCustom, kCustom})
+    if (m_timeModes == QStringList{kNightCustomMode, kNightCustomMode})
         return TamselClockSaverView::validateSchedule();
     sheet()->saveButton->setEnabled(true);
     TimePicker *picker = sheet()->nightToPicker;

@@ -12,13 +12,11 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <chrono>
 #include <cmath>
 #include <pwd.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -26,7 +24,6 @@ constexpr QLatin1StringView
     kFileBelowHome("/Library/Application Support/Tamsel Clock/location.plist");
 constexpr double kLargestLatitude = 90.0;
 constexpr double kLargestLongitude = 180.0;
-constexpr auto kLockTimeout = 1000ms;
 
 QString copyKey()
 {
@@ -99,10 +96,9 @@ bool SolarLocationStore::save(const SolarLocation &location) const
 
 bool SolarLocationStore::writeFile(const SolarLocation &location) const
 {
-    const QString folder = QFileInfo(m_file.path()).absolutePath();
-    if (!platform::makePrivateFolder(folder))
+    if (!platform::makePrivateFolder(QFileInfo(m_file.path()).absolutePath()))
         return false;
-    const platform::FileLock lock(folder + "/.location.plist.lock"_L1, kLockTimeout);
+    const platform::FileLock lock = platform::FileLock::forReplacing(m_file.path());
     if (!lock.isHeld())
         return false;
     platform::FileReplacement replacement(m_file.path());

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How one end of the night is stored, and the event of the sun it follows unless it is "custom".
+/// How one end of the night is stored, and the event of the sun it follows unless that is custom.
 struct NightEnd
 {
     QString modeKey;
@@ -25,8 +25,8 @@ struct NightEnd
 const std::array<NightEnd, 2> &nightEnds()
 {
     static const std::array<NightEnd, 2> ends{{
-        {kNightFromModeKey, kNightFromKey, u"sunset"_s},
-        {kNightToModeKey, kNightToKey, u"sunrise"_s},
+        {kNightFromModeKey, kNightFromKey, kNightSunsetMode},
+        {kNightToModeKey, kNightToKey, kNightSunriseMode},
     }};
     return ends;
 }
@@ -75,7 +75,7 @@ bool TamselScheduledSaverView::nightActiveAtDate(const QDateTime &date, const QV
     for (size_t i = 0; i < minutes.size(); ++i) {
         const NightEnd &end = nightEnds()[i];
         const QString mode = settings.value(end.modeKey, end.solarEvent).toString();
-        if (mode == "custom"_L1) {
+        if (mode == kNightCustomMode) {
             minutes[i] = settings.value(end.minuteKey).toLongLong();
             continue;
         }

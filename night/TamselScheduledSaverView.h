@@ -7,8 +7,6 @@
 
 #include <memory>
 
-class QAction;
-class QMenu;
 class TamselSolarTimes;
 class TamselTimeMenu;
 struct TimeRows;

@@ -2,6 +2,7 @@
 #include "platform/FileLock.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -9,9 +10,13 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
+
+constexpr std::chrono::milliseconds kReplacingTimeout(1000);
 
 enum class Waiting { No, Yes };
 
@@ -63,9 +68,17 @@ FileLock::FileLock(const QString &path, std::chrono::milliseconds timeout)
 {
     auto descriptor = std::make_shared<Descriptor>(path);
     const bool isFree = descriptor->lock(Waiting::No);
-    const bool isTaken = !isFree && (errno == EAGAIN || errno == EACCES);
-    if (isFree || (isTaken && waitFor(descriptor, timeout)))
+    m_isTaken = !isFree && (errno == EAGAIN || errno == EACCES);
+    if (isFree || (m_isTaken && timeout.count() > 0 && waitFor(descriptor, timeout))) {
         m_descriptor = std::move(descriptor);
+        m_isTaken = false;
+    }
+}
+
+FileLock FileLock::forReplacing(const QString &path)
+{
+    const QFileInfo file(path);
+    return {file.absolutePath() + "/."_L1 + file.fileName() + ".lock"_L1, kReplacingTimeout};
 }
 
 /// The kernel keeps the queue, but waiting there can only be cut short by a signal: so a thread

@@ -17,7 +17,13 @@ public:
     /// for other holders.
     FileLock(const QString &path, std::chrono::milliseconds timeout);
 
+    /// Keeps everybody else from replacing the file \p path, whose folder must exist, as long as
+    /// they all ask for this; waits a second for them.
+    static FileLock forReplacing(const QString &path);
+
     bool isHeld() const { return m_descriptor != nullptr; }
+    /// Whether it is not held because another process holds it, and not for want of a file.
+    bool isTaken() const { return m_isTaken; }
 
 private:
     class Descriptor;
@@ -26,6 +32,7 @@ private:
 
     /// Closing the file unlocks it.
     std::shared_ptr<Descriptor> m_descriptor;
+    bool m_isTaken = false;
 };
 
 } // namespace platform

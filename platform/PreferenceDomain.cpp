@@ -13,20 +13,17 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <ctime>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace platform {
 
 namespace {
 
-constexpr auto kLockTimeout = 1000ms;
 /// File times advance with the kernel's tick, at most 10 ms long: a file may change once more
 /// without its times showing it until they are older than this.
 constexpr qint64 kFreshNanoseconds = 20'000'000;
@@ -227,10 +224,9 @@ bool PreferenceDomain::setValue(const QString &key, const QVariant &value) const
     const auto path = writableTarget(m_file->path());
     if (!path || (value.isValid() && PropertyList::toXml(value).isEmpty()))
         return false;
-    const QFileInfo file(*path);
-    if (!makePrivateFolder(file.absolutePath()))
+    if (!makePrivateFolder(QFileInfo(*path).absolutePath()))
         return false;
-    const FileLock lock(file.absolutePath() + "/."_L1 + file.fileName() + ".lock"_L1, kLockTimeout);
+    const FileLock lock = FileLock::forReplacing(*path);
     auto stored = lock.isHeld() ? readForWriting(*path) : std::nullopt;
     if (!stored)
         return false;

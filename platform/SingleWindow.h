@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/FileLock.h"
+
+#include <QString>
+
+class QWidget;
+
+namespace platform {
+
+class DistributedNotifications;
+struct Desktop;
+
+/// A window that the user has at most once, whichever process shows it.
+class SingleWindow
+{
+public:
+    /// \p name tells such windows apart. The objects that \p desktop points to must outlive this.
+    SingleWindow(const Desktop &desktop, const QString &name);
+
+    /// Whether no other process shows the window; none will while this object lives.
+    bool isOnlyOne() const { return !m_lock.isTaken(); }
+    /// Asks the process that shows the window to bring it to the front.
+    void bringOtherToFront() const;
+
+    /// Shows \p window in front, now and whenever another process asks for it.
+    void present(QWidget &window) const;
+
+private:
+    QString m_notification;
+    DistributedNotifications *m_notifications;
+    FileLock m_lock;
+};
+
+} // namespace platform
