@@ -5,7 +5,6 @@
 #include "night/NightSchedule.h"
 #include "night/NightSettings.h"
 #include "platform/Clocks.h"
-#include "platform/DistributedNotifications.h"
 
 QVariantMap TamselClockSaverView::storedNightSettings()
 {
@@ -24,7 +23,7 @@ bool TamselClockSaverView::nightActiveAtDate(const QDateTime &date, const QVaria
 {
     if (!booleanSetting(settings.value(kNightEnabledKey)))
         return false;
-    return TamselNightContainsMinute(minuteOfDay(date.time()),
+    return TamselNightContainsMinute(minuteOfDay(date.toLocalTime().time()),
                                      settings.value(kNightFromKey).toLongLong(),
                                      settings.value(kNightToKey).toLongLong());
 }

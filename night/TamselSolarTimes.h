@@ -24,7 +24,8 @@ class ScriptContext;
 inline constexpr QLatin1StringView kLocationDesktopId("org.tamsel.PelkoLocation");
 
 /// Whether a position is good enough to reckon with at \p now: it has coordinates and was found
-/// within the last five minutes (or the next five, by a clock that was set meanwhile).
+/// within the last five minutes (or the next five, by a clock that was set meanwhile), as far as
+/// the service tells when.
 bool isUsableFix(const platform::LocationFix &fix, const QDateTime &now);
 
 /// When the sun rises and sets today at the user's location. The times are computed on this machine

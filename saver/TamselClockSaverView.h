@@ -16,9 +16,7 @@
 
 #include <memory>
 
-class QTimeEdit;
 class TamselHexField;
-class TamselSettingsView;
 class TamselSwatchButton;
 struct SettingsSheet;
 struct SheetState;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "night/TamselScheduledSaverView.h"
 
-#include "night/NightSchedule.h"
+#include "night/NightSettings.h"
 #include "night/TamselSolarTimes.h"
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
@@ -48,8 +48,6 @@ private Q_SLOTS:
     void init();
 
     void customTimesNeedNoEngine();
-    void containsMinute_data();
-    void containsMinute();
     void nightFollowsTheSun_data();
     void nightFollowsTheSun();
     void withoutALocationItIsDay();
@@ -85,30 +83,6 @@ void test_TamselScheduledSaverView::customTimesNeedNoEngine()
     QVERIFY(!engineIsLoaded());
     view.nightActiveAtDate(at({2026, 3, 14}, 22, 0), night(u"sunset"_s, u"custom"_s));
     QVERIFY(engineIsLoaded());
-}
-
-void test_TamselScheduledSaverView::containsMinute_data()
-{
-    QTest::addColumn<int>("minute");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<bool>("isNight");
-    QTest::newRow("over midnight, first minute") << 1170 << 1170 << 450 << true;
-    QTest::newRow("over midnight, last minute") << 449 << 1170 << 450 << true;
-    QTest::newRow("over midnight, end") << 450 << 1170 << 450 << false;
-    QTest::newRow("over midnight, before") << 1169 << 1170 << 450 << false;
-    QTest::newRow("midnight itself") << 0 << 1170 << 450 << true;
-    QTest::newRow("within a day, start") << 60 << 60 << 120 << true;
-    QTest::newRow("within a day, end") << 120 << 60 << 120 << false;
-    QTest::newRow("no length") << 600 << 600 << 600 << false;
-}
-
-void test_TamselScheduledSaverView::containsMinute()
-{
-    QFETCH(int, minute);
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QTEST(TamselNightContainsMinute(minute, from, to), "isNight");
 }
 
 void test_TamselScheduledSaverView::nightFollowsTheSun_data()
@@ -191,9 +165,9 @@ void test_TamselScheduledSaverView::followsASavedLocation()
         companion.notifications = &companions;
     }
     m_clocks.setNow(at({2026, 3, 14}, 22, 0));
+    const PreferenceStores stores(m_desktop.preferencesFolder, {});
+    QVERIFY(stores.suite.setValue(kNightSettingsKey, night(u"sunset"_s, u"sunrise"_s)));
     TamselScheduledSaverView view(m_desktop, false);
-    view.storeNightSettings({{u"enabled"_s, true}});
-    view.reloadVariantIfNeeded();
     QCOMPARE(view.loadedPalette().activeVariant, u"orange"_s);
 
     QVERIFY(SolarLocationStore(companion).save(kHelsinki));

@@ -71,7 +71,7 @@ private Q_SLOTS:
     void fallsBackToTheCopy();
     void hostileFileLeavesTheLocationUnknown_data();
     void hostileFileLeavesTheLocationUnknown();
-    void unchangedLocationKeepsStatusAndCache();
+    void unchangedLocationKeepsTheStatus();
     void followsAReplacedFileAtOnce();
 
     void takesUsableFixesOnly_data();
@@ -136,6 +136,10 @@ void test_TamselSolarTimes::aDayIsComputedOnce()
     QCOMPARE(solar.eventOnDate(u"custom"_s, kNow), std::nullopt);
     QCOMPARE(runs(kNow.addDays(1)), 2);
     QCOMPARE(runs(kNow.addDays(1).toUTC()), 2);
+    QVERIFY(SolarLocationStore(m_desktop).save(kHelsinki));
+    solar.setPersistent(true);
+    solar.reloadSavedLocation();
+    QCOMPARE(runs(kNow.addDays(1)), 2);
     solar.setLocation(kSydney);
     QCOMPARE(runs(kNow.addDays(1)), 3);
 }
@@ -265,7 +269,7 @@ void test_TamselSolarTimes::hostileFileLeavesTheLocationUnknown()
     QCOMPARE(solar.eventOnDate(u"sunset"_s, kNow), std::nullopt);
 }
 
-void test_TamselSolarTimes::unchangedLocationKeepsStatusAndCache()
+void test_TamselSolarTimes::unchangedLocationKeepsTheStatus()
 {
     writeFile(platform::PropertyList::toBinary(dictionary(60.1699, 24.9384)));
     TamselSolarTimes solar(m_desktop);

@@ -113,7 +113,7 @@ private Q_SLOTS:
                                     {u"base"_s, 123},
                                     {u"mark"_s, QVariantMap()},
                                     {u"fromMode"_s, 4},
-                                    {u"toMode"_s, QByteArray("sunrise!")}})
+                                    {u"toMode"_s, QByteArray("sunrise")}})
             << custom;
         QTest::newRow("no number") << QVariant(QVariantMap{{u"from"_s, qQNaN()}}) << custom;
         QTest::newRow("colours are normalised, extra keys dropped")
