@@ -135,7 +135,8 @@ SvgImage SvgImage::fromSvg(const QByteArray &svg)
 
 void SvgImage::draw(QPainter &painter, const QRectF &rect) const
 {
-    if (m_picture)
+    // The renderer takes an empty rectangle for the whole device.
+    if (m_picture && !rect.isEmpty())
         m_picture->renderer.render(&painter, rect);
 }
 

@@ -25,7 +25,8 @@ public:
 
     bool isNull() const { return !m_picture; }
 
-    /// Draws the whole picture into \p rect, source-over. A null image draws nothing.
+    /// Draws the whole picture into \p rect, source-over. Nothing is drawn of a null image, nor
+    /// into an empty rectangle.
     void draw(QPainter &painter, const QRectF &rect) const;
 
     /// Boxes that together cover all ink of the picture, tight to about 1/50 of its side, in a

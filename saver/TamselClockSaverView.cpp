@@ -28,8 +28,9 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
     if (desktop.session) {
         connect(desktop.session, &platform::LoginSession::becameActive, this, [this] {
             screenSaverPreferencesMayHaveChanged();
+            // Not startAnimation(), which would pick another random palette.
             if (isAnimating())
-                startAnimation();
+                ScreenSaverView::startAnimation();
         });
     }
     if (desktop.notifications) {

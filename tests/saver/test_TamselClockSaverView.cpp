@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The saver view following its stored settings and the time of day.
+#include "platform/LoginSession.h"
 #include "prefs/HexColor.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/SaverFixture.h"
@@ -31,6 +32,7 @@ private Q_SLOTS:
         QCOMPARE(view->loadedPalette().activeVariant, u"orange"_s);
         QCOMPARE(view->displayedBackgroundColor(), kOrange);
         QVERIFY(!view->appliedSettings().calendarEnabled);
+        QCOMPARE(view->animationTimeInterval(), 1.0 / 30.0);
         QCOMPARE(SaverFixture::picture(*view).pixelColor(1, 1), QColor(0xff, 0x46, 0x00));
     }
 
@@ -295,17 +297,42 @@ private Q_SLOTS:
         QCOMPARE(picture, plain);
     }
 
-    void emptyViewsDrawNothing()
+    void drawsNothingBeyondAThinView()
     {
         const SaverFixture f;
         SaverFixture::set(f.stores.suite, kCalendarEnabledKey, true);
         const auto view = f.makeView(false);
         for (const QSize size : {QSize(0, 0), QSize(1, 1), QSize(400, 1), QSize(1, 400)}) {
             view->resize(size);
-            QImage image(400, 400, QImage::Format_RGB32);
+            QImage image(410, 410, QImage::Format_RGB32);
+            image.fill(Qt::magenta);
+            const QImage untouched = image;
             QPainter painter(&image);
             view->drawRect(painter, view->rect());
+            painter.fillRect(view->rect(), Qt::magenta);
+            painter.end();
+            QCOMPARE(image, untouched);
         }
+    }
+
+    /// After switching users, or on waking up.
+    void randomPickOutlastsAnInactiveSession()
+    {
+        const SaverFixture f;
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"random"_s);
+        platform::LoginSession session;
+        platform::Desktop desktop = f.desktop();
+        desktop.session = &session;
+        TamselClockSaverView view(desktop, true);
+        view.startAnimation();
+        const QString picked = view.loadedPalette().activeVariant;
+        for (int i = 0; i < 30; ++i) {
+            Q_EMIT session.becameActive();
+            QCOMPARE(view.loadedPalette().activeVariant, picked);
+        }
+        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"blue"_s);
+        Q_EMIT session.becameActive();
+        QCOMPARE(view.loadedPalette().activeVariant, u"blue"_s);
     }
 };
 
