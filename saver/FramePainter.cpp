@@ -11,6 +11,7 @@ void FramePainter::paint(QPainter &painter, const ClockFrame &frame, const QRegi
     const QTransform toDevice = painter.deviceTransform();
     painter.save();
     if (keepPicture(frame, toDevice)) {
+        m_scratch = {};
         // Pixel by pixel, whatever the density: that is the fastest copy and an exact one.
         painter.setWorldTransform(toDevice.inverted(), true);
         const QRegion area = pixelsTouched(region, toDevice).translated(-m_origin);
@@ -30,7 +31,7 @@ bool FramePainter::keepPicture(const ClockFrame &frame, const QTransform &toDevi
 {
     const QRect area = toDevice.mapRect(frame.bounds).toAlignedRect();
     if (frame.tinted || toDevice.type() > QTransform::TxScale)
-        m_memory = {};
+        dropMemory();
     else if (m_memory.picture.size() != area.size())
         makeMemory(area.size());
     if (m_memory.picture.isNull()) {
@@ -47,5 +48,11 @@ void FramePainter::makeMemory(const QSize &size)
     m_room = QImage(size, QImage::Format_RGB32);
     m_memory = {QImage(size, QImage::Format_RGB32), reinterpret_cast<QRgb *>(m_room.bits())};
     if (m_room.isNull())
-        m_memory = {};
+        dropMemory();
+}
+
+void FramePainter::dropMemory()
+{
+    m_memory = {};
+    m_room = {};
 }

@@ -140,7 +140,9 @@ platform::SvgImage TamselClockSaverView::customImageNamed(const QString &name,
 {
     const auto svg = platform::readSmallFile(
         m_desktop.bundle.pathForResource(name, kArtworkExtension, kTemplateVariant));
-    return svg ? platform::SvgImage::fromSvg(recoloredArtwork(*svg, color)) : platform::SvgImage();
+    if (!svg || !QUtf8StringView(*svg).isValidUtf8())
+        return {};
+    return platform::SvgImage::fromSvg(recoloredArtwork(*svg, color));
 }
 
 QColor TamselClockSaverView::defaultCustomBaseColor()

@@ -39,7 +39,7 @@ double TamselClockSaverView::paletteTransitionProgress() const
     return std::clamp(passed / kTransitionSeconds, 0.0, 1.0);
 }
 
-QColor TamselClockSaverView::blend(const QColor &from, const QColor &to) const
+QColor TamselClockSaverView::blendFrom(const QColor &from, const QColor &to) const
 {
     return blendedColor(from, to, paletteTransitionProgress());
 }
@@ -47,11 +47,11 @@ QColor TamselClockSaverView::blend(const QColor &from, const QColor &to) const
 QColor TamselClockSaverView::displayedBackgroundColor() const
 {
     const QColor &background = m_palette.backgroundColor;
-    return blend(m_transition.transitionFromBackground,
-                 background.isValid() ? background : QColor(Qt::black));
+    return blendFrom(m_transition.transitionFromBackground,
+                     background.isValid() ? background : QColor(Qt::black));
 }
 
 QColor TamselClockSaverView::displayedMarkColor()
 {
-    return blend(m_transition.transitionFromMark, activeMarkColor());
+    return blendFrom(m_transition.transitionFromMark, activeMarkColor());
 }

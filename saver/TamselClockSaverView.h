@@ -114,7 +114,7 @@ public:
     /// How much of a cross-fade has passed, 0 to 1; 1 when none runs.
     double paletteTransitionProgress() const;
     /// The colour between \p from and \p to at the present progress; \p to when \p from is invalid.
-    QColor blend(const QColor &from, const QColor &to) const;
+    QColor blendFrom(const QColor &from, const QColor &to) const;
     QColor displayedBackgroundColor() const;
     QColor displayedMarkColor();
 

@@ -126,12 +126,7 @@ private Q_SLOTS:
                 screen.end();
                 QVERIFY(isSamePicture(surface, frames::reference(shown, density)));
                 const ClockFrame next = frames::frameAt(QTime(10, 8, 59).addMSecs(33 * i));
-                damage = {};
-                for (const QRect &pixels : frameDamage(shown, next, density)) {
-                    const QRectF points(QPointF(pixels.topLeft()) / density,
-                                        QSizeF(pixels.size()) / density);
-                    damage += points.toAlignedRect();
-                }
+                damage = pointsCovering(frameDamage(shown, next, density), density);
                 shown = next;
             }
         }
