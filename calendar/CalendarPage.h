@@ -37,8 +37,6 @@ struct CalendarPage
     TextShape title = {};
     std::array<TextShape, 7> weekdays = {};
     std::vector<TextShape> days = {};
-
-    int rows() const { return (leadingCells + int(days.size()) + 6) / 7; }
 };
 
 /// Lays out \p month: formatting, text layout and outlines.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "calendar/TamselCalendarFont.h"
 
+#include "platform/Appearance.h"
 #include "platform/Bundle.h"
 
 #include <QFontDatabase>
-#include <QStringList>
 
 #include <mutex>
 
@@ -46,15 +46,11 @@ void TamselRegisterCalendarFonts(const platform::Bundle &bundle)
 
 QFont TamselCalendarFont(bool medium, int pixelSize)
 {
-    QStringList families = QFontDatabase::systemFont(QFontDatabase::GeneralFont).families();
-    families.prepend(u"Inter"_s);
+    QFont font = platform::systemFont(pixelSize, medium ? QFont::Medium : QFont::Normal);
     const RegisteredFamilies &registered = registeredFamilies();
     const QString &family = medium ? registered.medium : registered.regular;
     if (!family.isNull())
-        families.prepend(family);
-
-    QFont font(families, -1, medium ? QFont::Medium : QFont::Normal);
-    font.setPixelSize(pixelSize);
+        font.setFamilies({family, font.family()});
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

@@ -4,7 +4,6 @@
 #include "calendar/CalendarGrid.h"
 
 #include <QFontMetricsF>
-#include <QTimeZone>
 
 #include <algorithm>
 #include <cmath>

@@ -4,6 +4,7 @@
 #include "calendar/TamselDrawCalendar.h"
 #include "platform/Bundle.h"
 #include "saver/ClockFrame.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/RecordingDevice.h"
 
 #include <QDir>
@@ -92,21 +93,6 @@ ClockFrame frameOf(QDate date, bool portrait = false)
     frame.mark = kMark;
     frame.calendar = {QRectF(30.3, 20.7, 340, 330), {date, portrait, kEnglish}};
     return frame;
-}
-
-int largestDifference(const QImage &a, const QImage &b)
-{
-    int largest = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor one = a.pixelColor(x, y);
-            const QColor other = b.pixelColor(x, y);
-            largest = std::max({largest, std::abs(one.red() - other.red()),
-                                std::abs(one.green() - other.green()),
-                                std::abs(one.blue() - other.blue())});
-        }
-    }
-    return largest;
 }
 
 } // namespace
@@ -271,7 +257,7 @@ private Q_SLOTS:
                            frame.calendar->rect);
         painter.end();
         // Outlines are resolved to 1/64 pixel: each edge of a stroke may differ by one such step.
-        QVERIFY(largestDifference(picture, reference) <= 8);
+        QVERIFY(pixels::largestDifference(picture, reference) <= 8);
     }
 
     void whatIsKeptNeverShows()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The drawing of one frame, measured from its pixels.
-#include "platform/Bundle.h"
-#include "saver/ClockFrame.h"
+#include "tests/support/Frames.h"
 #include "tests/support/Pixels.h"
 
 #include <QPainter>
@@ -14,17 +13,7 @@ namespace {
 constexpr QRgb kPaper = 0xffff4600;
 constexpr QRgb kInk = 0xff000000;
 
-platform::SvgImage layer(const QString &variant, const QString &name)
-{
-    const platform::Bundle bundle(QStringLiteral(TAMSEL_TEST_BUNDLE));
-    return platform::SvgImage::fromFile(bundle.pathForResource(name, u"svg"_s, variant));
-}
-
-Artwork artworkOf(const QString &variant)
-{
-    return {layer(variant, u"face"_s), layer(variant, u"hour"_s), layer(variant, u"minute"_s),
-            layer(variant, u"second"_s)};
-}
+using frames::artworkOf;
 
 ClockFrame emptyFrame(double side)
 {
@@ -38,13 +27,7 @@ ClockFrame emptyFrame(double side)
 
 QImage picture(const ClockFrame &frame, double ratio = 1.0)
 {
-    QImage image((frame.bounds.size() * ratio).toSize(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::magenta);
-    FrameScratch scratch;
-    QPainter painter(&image);
-    drawFrame(painter, frame, scratch);
-    return image;
+    return frames::reference(frame, ratio);
 }
 
 } // namespace
@@ -104,7 +87,7 @@ private Q_SLOTS:
         ClockFrame frame = emptyFrame(200);
         const QImage bare = picture(frame);
         QCOMPARE(bare.pixel(100, 4), kPaper);
-        frame.artwork.faceImage = layer(u"orange"_s, u"face"_s);
+        frame.artwork.faceImage = artworkOf(u"orange"_s).faceImage;
         QCOMPARE(picture(frame).pixel(100, 10), kInk);
     }
 
