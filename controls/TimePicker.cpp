@@ -43,9 +43,9 @@ TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
     followAppearance(this, [this] { takeColors(); });
 }
 
-void TimePicker::setTextColor(const QColor &color)
+void TimePicker::setRefused(bool refused)
 {
-    m_textColor = color;
+    m_isRefused = refused;
     takeColors();
 }
 
@@ -89,7 +89,7 @@ void TimePicker::paintEvent(QPaintEvent *)
 void TimePicker::takeColors()
 {
     const platform::Appearance &appearance = appearanceOf(this);
-    const QColor text = m_textColor.isValid() ? m_textColor : appearance.controlTextColor();
+    const QColor text = m_isRefused ? appearance.systemRedColor() : appearance.controlTextColor();
     QPalette colors = palette();
     colors.setColor(QPalette::Base, Qt::transparent);
     colors.setColor(QPalette::Text, text);

@@ -12,8 +12,8 @@ class TimePicker : public QTimeEdit
 public:
     explicit TimePicker(QWidget *parent = nullptr);
 
-    /// The colour of the digits; the control text colour when invalid, which is the default.
-    void setTextColor(const QColor &color);
+    /// Shows the time in red, as one that cannot be taken.
+    void setRefused(bool refused);
 
     /// Room for the widest time, one line high.
     QSize sizeHint() const override;
@@ -28,5 +28,5 @@ private:
     void selectCurrentSection();
     void takeColors();
 
-    QColor m_textColor;
+    bool m_isRefused = false;
 };

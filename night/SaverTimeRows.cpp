@@ -211,7 +211,7 @@ bool TamselScheduledSaverView::validateSchedule()
         return TamselClockSaverView::validateSchedule();
     sheet()->saveButton->setEnabled(true);
     TimePicker *picker = sheet()->nightToPicker;
-    picker->setTextColor({});
+    picker->setRefused(false);
     picker->setToolTip({});
     picker->setAccessibleDescription({});
     return true;

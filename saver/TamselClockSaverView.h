@@ -178,7 +178,7 @@ public:
 
     // The colours of the draft: settings/ColorEditing.cpp
 
-    /// Null for an unknown key, as is the field.
+    /// Null for an unknown key or without a sheet, as is the field.
     TamselSwatchButton *buttonForColorKey(const QString &key) const;
     TamselHexField *fieldForColorKey(const QString &key) const;
     QColor draftColorForKey(const QString &key) const;

@@ -63,13 +63,13 @@ void bringToFront(QColorDialog &panel, const QWidget *sheet)
 TamselSwatchButton *TamselClockSaverView::buttonForColorKey(const QString &key) const
 {
     const ColorControls *controls = controlsOf(key);
-    return controls ? (*m_sheet).*(controls->button) : nullptr;
+    return controls && m_sheet ? (*m_sheet).*(controls->button) : nullptr;
 }
 
 TamselHexField *TamselClockSaverView::fieldForColorKey(const QString &key) const
 {
     const ColorControls *controls = controlsOf(key);
-    return controls ? (*m_sheet).*(controls->field) : nullptr;
+    return controls && m_sheet ? (*m_sheet).*(controls->field) : nullptr;
 }
 
 QColor TamselClockSaverView::draftColorForKey(const QString &key) const
@@ -82,6 +82,8 @@ void TamselClockSaverView::setDraftColor(const QColor &color, const QString &key
 {
     // Through its text, so that swatch, field and what will be stored are the same colour.
     TamselSwatchButton *button = buttonForColorKey(key);
+    if (!button)
+        return;
     button->setSwatchColor(colorFromHexString(hexStringForColor(color)));
     setHexField(fieldForColorKey(key), button->swatchColor());
 }

@@ -8,9 +8,7 @@
 #include "controls/TamselSwatchButton.h"
 #include "controls/TamselToggle.h"
 #include "controls/TimePicker.h"
-#include "controls/ViewAppearance.h"
 #include "night/NightSettings.h"
-#include "platform/Appearance.h"
 #include "prefs/HexColor.h"
 #include "saver/TamselClockPreviewView.h"
 #include "settings/SettingsSheet.h"
@@ -68,7 +66,8 @@ void TamselClockSaverView::resetSettingsDraft()
 QString TamselClockSaverView::selectedVariantFromRadioButtons() const
 {
     for (const QString &variant : popupVariants()) {
-        const TamselSwatchButton *swatch = m_sheet->variantRadioButtons.value(variant);
+        const TamselSwatchButton *swatch =
+            m_sheet ? m_sheet->variantRadioButtons.value(variant) : nullptr;
         if (swatch && swatch->isChecked())
             return variant;
     }
@@ -80,8 +79,13 @@ QString TamselClockSaverView::selectedVariantFromRadioButtons() const
 void TamselClockSaverView::endEditing()
 {
     QWidget *focused = m_sheet->configurationSheet->focusWidget();
-    if (focused && isTextInput(focused))
-        focused->clearFocus();
+    if (!focused || !isTextInput(focused))
+        return;
+    // While another window has the keyboard, nothing tells the field that its editing ends.
+    const bool isTold = focused->hasFocus();
+    focused->clearFocus();
+    if (!isTold)
+        controlTextDidEndEditing(focused);
 }
 
 void TamselClockSaverView::variantRadioChanged(TamselSwatchButton *sender)
@@ -149,9 +153,8 @@ bool TamselClockSaverView::validateSchedule()
         scheduleIsValid(s.nightSwitch->isChecked(), minutesForPicker(*s.nightFromPicker),
                         minutesForPicker(*s.nightToPicker));
     s.saveButton->setEnabled(valid);
-    const platform::Appearance &appearance = appearanceOf(s.nightToPicker);
     s.nightToPicker->setToolTip(valid ? QString() : u"Choose a different end time."_s);
-    s.nightToPicker->setTextColor(valid ? QColor() : appearance.systemRedColor());
+    s.nightToPicker->setRefused(!valid);
     s.nightToPicker->setAccessibleDescription(
         valid ? QString() : u"Night mode start and end times must be different."_s);
     return valid;

@@ -116,6 +116,21 @@ private Q_SLOTS:
         QCOMPARE(g_beeps, 0);
     }
 
+    /// As assistive technology acts on a window that is not in front.
+    void anActionTakesOverWhatAnotherWindowInterrupted()
+    {
+        Fixture f;
+        QVERIFY(f.open());
+        f.type(kBaseColorKey, u"#445566"_s);
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(!f.view->fieldForColorKey(kBaseColorKey)->hasFocus());
+        f.sheet().saveButton->click();
+        QCOMPARE(f.stores.suite.value(kCustomBaseColorKey), QVariant(u"#445566"_s));
+    }
+
     void slidersEditTheColourOfTheirSwatch_data()
     {
         QTest::addColumn<QString>("key");

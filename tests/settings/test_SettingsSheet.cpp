@@ -4,6 +4,7 @@
 
 #include "controls/TamselSymbolButton.h"
 #include "controls/ViewAlpha.h"
+#include "platform/Appearance.h"
 #include "settings/SheetRules.h"
 
 #include <QLabel>
@@ -222,6 +223,9 @@ private Q_SLOTS:
         QVERIFY(isPlain());
         f.setTime(end, 22, 0);
         QVERIFY(isMarked());
+        platform::Appearance::shared().setForcedScheme(platform::Appearance::Scheme::Dark);
+        QCOMPARE(ink(), platform::Appearance::shared().systemRedColor());
+        platform::Appearance::shared().setForcedScheme(std::nullopt);
         f.setTime(f.sheet().nightFromPicker, 22, 1);
         QVERIFY(isPlain());
         f.setTime(end, 22, 1);

@@ -38,13 +38,6 @@ private Q_SLOTS:
         QCOMPARE(minutesForPicker(picker), minutes);
     }
 
-    void onlyANightThatIsOnNeedsTwoTimes()
-    {
-        QVERIFY(scheduleIsValid(true, 1320, 1321));
-        QVERIFY(!scheduleIsValid(true, 1320, 1320));
-        QVERIFY(scheduleIsValid(false, 1320, 1320));
-    }
-
     void inkCanBeReadOnItsGround()
     {
         QCOMPARE(inkForLuminance(0.5), QColor(Qt::white));
@@ -73,12 +66,6 @@ private Q_SLOTS:
             for (const auto &[ink, on] : inksOnGrounds)
                 QVERIFY2(contrast(ink, on) >= 4.5, qPrintable(ink.name() + u" on "_s + on.name()));
         }
-    }
-
-    void nightColoursAreKnownByTheirKey()
-    {
-        QVERIFY(isNightColorKey(kNightBaseColorKey) && isNightColorKey(kNightMarkColorKey));
-        QVERIFY(!isNightColorKey(kBaseColorKey) && !isNightColorKey(kMarkColorKey));
     }
 };
 
