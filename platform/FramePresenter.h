@@ -32,14 +32,15 @@ public:
     /// Whether any of the window can be seen, as far as poll() knows: it is not wholly covered, and
     /// its display is on.
     virtual bool isSeen() const = 0;
-    /// Whether, as far as poll() knows, all that was presented has been taken over. A frame that
-    /// comes while it has not is better dropped than queued.
+    /// Whether, as far as poll() knows, all that was presented has been taken over. Until then the
+    /// window system may still read the memory: nothing may be written to it, and a frame that
+    /// comes is dropped.
     virtual bool isReady() const = 0;
 
     /// The memory for pictures of the given size. Its pixels stay from call to call; at another
     /// size it is another.
     virtual FrameMemory &memory(const QSize &size) = 0;
-    /// Puts \p blocks, which lie in that memory, in their places on the window.
+    /// Puts \p blocks, which lie in that memory, in their places on the window. Only when ready.
     virtual void present(std::span<const PixelBlock> blocks) = 0;
 };
 

@@ -20,9 +20,8 @@ namespace platform {
 
 namespace {
 
-/// Frames between two questions how far the X server is and whether the display is on; what it has
-/// told in between is read with the answers.
-constexpr int kFramesPerQuestion = 10;
+/// Frames between two questions whether the display of a visible window is on.
+constexpr int kFramesPerPowerQuestion = 10;
 
 /// A connection to the X server besides Qt's. Nothing of Qt waits on it, so that what the server
 /// answers wakes nobody up; it is read with the next frame.
@@ -201,18 +200,18 @@ public:
                               m_depth, XCB_IMAGE_FORMAT_Z_PIXMAP, 0, m_memory->segment(),
                               m_memory->offsetOf(block.pixels));
         }
-        if (!m_isOpen && --m_untilQuestion <= 0)
-            ask();
-        xcb_flush(m_connection);
+        ask();
     }
 
 private:
-    /// Answered when all that was put before is on the window.
+    /// Answered when all that was put before is on the window. One question is open at a time.
     void ask()
     {
-        m_untilQuestion = kFramesPerQuestion;
-        if (m_hasPower)
+        m_asksPower = m_hasPower && (!isSeen() || --m_untilPowerQuestion <= 0);
+        if (m_asksPower) {
+            m_untilPowerQuestion = kFramesPerPowerQuestion;
             m_powerQuestion = xcb_dpms_info(m_connection);
+        }
         m_question = xcb_get_input_focus(m_connection);
         m_isOpen = true;
         xcb_flush(m_connection);
@@ -227,7 +226,7 @@ private:
             return;
         std::free(answer);
         m_isOpen = false;
-        if (!m_hasPower || !poll(m_powerQuestion.sequence, answer) || !answer)
+        if (!m_asksPower || !poll(m_powerQuestion.sequence, answer) || !answer)
             return;
         const XcbReply<xcb_dpms_info_reply_t> power(static_cast<xcb_dpms_info_reply_t *>(answer));
         m_isOn = !power->state || power->power_level == XCB_DPMS_DPMS_MODE_ON;
@@ -263,8 +262,10 @@ private:
 
     /// Whether there is a question without an answer.
     bool m_isOpen = false;
-    int m_untilQuestion = 0;
     xcb_get_input_focus_cookie_t m_question = {};
+    /// Whether it also asks whether the display is on.
+    bool m_asksPower = false;
+    int m_untilPowerQuestion = 0;
     xcb_dpms_info_cookie_t m_powerQuestion = {};
 };
 

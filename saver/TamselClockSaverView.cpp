@@ -60,8 +60,7 @@ void TamselClockSaverView::animateOneFrame()
     if (rests())
         return;
     if (presenter()) {
-        if (presenter()->isReady())
-            presentFrame({});
+        presentFrame();
         return;
     }
     const double ratio = devicePixelRatioF();
@@ -75,9 +74,12 @@ void TamselClockSaverView::animateOneFrame()
     m_shown = std::move(next);
 }
 
-/// Makes the presented picture show this moment; \p exposed (points) is put anew as well.
-void TamselClockSaverView::presentFrame(const QRegion &exposed)
+/// Makes the presented picture show this moment and puts what was exposed anew. While the last
+/// frame has not been taken over this is left to the next.
+void TamselClockSaverView::presentFrame()
 {
+    if (!presenter()->isReady())
+        return;
     const double ratio = devicePixelRatioF();
     const QTransform toDevice = QTransform::fromScale(ratio, ratio);
     platform::FrameMemory &memory =
@@ -88,8 +90,9 @@ void TamselClockSaverView::presentFrame(const QRegion &exposed)
     }
     m_shown = nextFrame(ratio);
     QRegion changed = m_surface.show(memory, m_shown, toDevice);
-    if (!exposed.isEmpty())
-        changed += pixelsTouched(exposed, toDevice) & memory.picture.rect();
+    if (!m_exposed.isEmpty())
+        changed += pixelsTouched(m_exposed, toDevice) & memory.picture.rect();
+    m_exposed = {};
     presenter()->present(m_surface.blocks(memory, changed));
 }
 
@@ -134,7 +137,9 @@ void TamselClockSaverView::showEvent(QShowEvent *event)
 void TamselClockSaverView::paintEvent(QPaintEvent *event)
 {
     if (presenter()) {
-        presentFrame(event->region());
+        m_exposed += event->region();
+        presenter()->poll();
+        presentFrame();
         return;
     }
     if (covers(event->region(), rect()) || m_shown.bounds != QRectF(rect()))

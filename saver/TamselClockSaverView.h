@@ -243,7 +243,7 @@ private:
     ClockFrame nextFrame(double ratio);
     /// Where clock and calendar stand at \p now; the calendar nowhere while it is off.
     CalendarLayoutRects places(const QDateTime &now) const;
-    void presentFrame(const QRegion &exposed);
+    void presentFrame();
 
     void loadNightPalette();
     void loadDayPalette();
@@ -268,5 +268,7 @@ private:
     /// Draws it, through Qt or for the presenter.
     FramePainter m_painter;
     FrameSurface m_surface;
+    /// Points of the presented window to put anew with the next frame.
+    QRegion m_exposed;
     std::unique_ptr<SettingsSheet> m_sheet;
 };

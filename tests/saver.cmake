@@ -7,10 +7,9 @@ target_compile_definitions(change_check PRIVATE TAMSEL_TEST_BUNDLE="${CMAKE_BINA
 target_link_libraries(change_check PRIVATE tamsel_clock_core)
 tamsel_script_test(saver_change_check saver/change_check.sh ARGS $<TARGET_FILE:change_check> LABELS host)
 tamsel_test(saver/test_FrameDamage.cpp LIBS tamsel_clock_core)
-tamsel_test(saver/test_HandLane.cpp LIBS tamsel_clock_core)
-tamsel_test(saver/test_FramePainter.cpp LIBS tamsel_clock_core)
+tamsel_test(saver/test_FramePainter.cpp LIBS tamsel_clock_core PkgConfig::XCB)
 # The same frames on an X server, where they are presented below Qt unless it shares no memory.
 tamsel_script_test(saver_presented_frames support/on_x.py
-    ARGS -- $<TARGET_FILE:test_FramePainter> whatIsOnScreenIsTheReference)
+    ARGS -- $<TARGET_FILE:test_FramePainter> whatIsOnScreenIsTheReference aServerThatLagsLeavesNoTrace)
 tamsel_script_test(saver_painted_frames support/on_x.py
     ARGS -extension MIT-SHM -- $<TARGET_FILE:test_FramePainter> whatIsOnScreenIsTheReference)

@@ -6,8 +6,13 @@
 #include "tests/support/Pixels.h"
 #include "tests/support/SaverFixture.h"
 
+#include <QDeadlineTimer>
+#include <QRandomGenerator>
 #include <QScreen>
 #include <QTest>
+
+#include <csignal>
+#include <xcb/xcb.h>
 
 using namespace Qt::StringLiterals;
 
@@ -72,6 +77,15 @@ public:
         return difference <= kEdgeTolerance;
     }
 
+    /// Lets frames be shown that nobody looks at.
+    void run(int milliseconds)
+    {
+        for (const QDeadlineTimer end(milliseconds); !end.hasExpired();) {
+            f.clocks.advance(0.2);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+    }
+
     SaverFixture f;
     std::unique_ptr<TamselClockSaverView> view;
 };
@@ -100,6 +114,42 @@ private Q_SLOTS:
             if (const auto turn = turns.find(frame); turn != turns.end())
                 turn->second();
             QVERIFY2(film.next(), qPrintable(u"frame %1"_s.arg(frame)));
+        }
+    }
+
+    void aServerThatLagsLeavesNoTrace_data()
+    {
+        QTest::addColumn<bool>("isGrabbed");
+        QTest::newRow("stopped") << false;
+        QTest::newRow("grabbed by another client") << true;
+    }
+
+    /// The hand passes a fifth of a second from frame to frame, so that delays go over many
+    /// seconds.
+    void aServerThatLagsLeavesNoTrace()
+    {
+        QFETCH(bool, isGrabbed);
+        const int server = qEnvironmentVariableIntValue("X_SERVER");
+        if (server == 0)
+            QSKIP("needs an X server of its own");
+        const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> other(
+            xcb_connect(nullptr, nullptr), &xcb_disconnect);
+        const auto hold = [&](bool held) {
+            if (!isGrabbed) {
+                ::kill(server, held ? SIGSTOP : SIGCONT);
+                return;
+            }
+            held ? xcb_grab_server(other.get()) : xcb_ungrab_server(other.get());
+            std::free(xcb_get_input_focus_reply(other.get(), xcb_get_input_focus(other.get()), {}));
+        };
+        Film film;
+        QRandomGenerator random(1);
+        for (int delay = 0; delay < 15; ++delay) {
+            film.run(random.bounded(30));
+            hold(true);
+            film.run(random.bounded(20, 500));
+            hold(false);
+            QVERIFY2(film.next(), qPrintable(u"after delay %1"_s.arg(delay)));
         }
     }
 

@@ -5,11 +5,11 @@ import os
 import subprocess
 import sys
 
-from xhost import start_x_server
+from xhost import launch_x_server
 
 end = sys.argv.index("--")
-start_x_server("-screen", "0", "800x600x24", *sys.argv[1:end])
+server = launch_x_server("-screen", "0", "800x600x24", *sys.argv[1:end])
 # The keyboard library copies names that are not terminated, by their length: right, but not in the strictest sense.
 sanitizers = os.environ.get("ASAN_OPTIONS", "") + ":strict_string_checks=0"
-environment = {**os.environ, "QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": sanitizers}
+environment = {**os.environ, "QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": sanitizers, "X_SERVER": str(server.pid)}
 sys.exit(subprocess.run(sys.argv[end + 1:], env=environment).returncode)
