@@ -18,6 +18,8 @@ namespace host {
 namespace {
 
 constexpr std::chrono::milliseconds kSettlingTime(500);
+/// A display server that loses a screen may move the pointer first and tell of the screen then.
+constexpr std::chrono::milliseconds kScreenNewsTime(150);
 
 /// The screens to cover. Of screens that show the same picture the first is enough.
 QList<QScreen *> distinctScreens()
@@ -58,6 +60,9 @@ void SaverHost::start()
     m_settled.setSingleShot(true);
     m_settled.setInterval(kSettlingTime);
     connect(&m_settled, &QTimer::timeout, this, &SaverHost::syncViews);
+    m_moved.setSingleShot(true);
+    m_moved.setInterval(kScreenNewsTime);
+    connect(&m_moved, &QTimer::timeout, this, [] { QCoreApplication::exit(0); });
     connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen *screen) {
         followScreen(screen);
         screensChanged();
@@ -66,6 +71,7 @@ void SaverHost::start()
         m_views.erase(screen);
         screensChanged();
     });
+    connect(&m_xScreens, &XScreenChanges::changed, this, &SaverHost::screensMoved);
     const QList<QScreen *> screens = QGuiApplication::screens();
     for (QScreen *screen : screens)
         followScreen(screen);
@@ -81,7 +87,15 @@ void SaverHost::followScreen(QScreen *screen) const
 /// when all is quiet.
 void SaverHost::screensChanged()
 {
+    screensMoved();
     syncViews();
+}
+
+/// Movements shortly before and after are the display server's.
+void SaverHost::screensMoved()
+{
+    m_moved.stop();
+    m_pointer = PointerGuard();
     m_settled.start();
 }
 
@@ -139,8 +153,11 @@ bool SaverHost::isUserComingBack(QEvent *event)
         // Where screens and windows come and go under the pointer it is not a person that moves it.
         if (event->type() == QEvent::Enter || m_settled.isActive())
             m_pointer = PointerGuard();
-        return m_pointer.movedOnPurpose(static_cast<QSinglePointEvent *>(event)->globalPosition(),
-                                        m_clocks.monotonicSeconds());
+        if (!m_moved.isActive() &&
+            m_pointer.movedOnPurpose(static_cast<QSinglePointEvent *>(event)->globalPosition(),
+                                     m_clocks.monotonicSeconds()))
+            m_moved.start();
+        return false;
     default:
         return false;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/PointerGuard.h"
+#include "host/XScreenChanges.h"
 
 #include <QObject>
 #include <QTimer>
@@ -40,6 +41,7 @@ public:
 private:
     void followScreen(QScreen *screen) const;
     void screensChanged();
+    void screensMoved();
     void syncViews();
     void cover(QScreen *screen);
     bool isUserComingBack(QEvent *event);
@@ -47,8 +49,12 @@ private:
     MakeView m_makeView;
     const platform::Clocks &m_clocks;
     std::map<QScreen *, std::unique_ptr<platform::ScreenSaverView>> m_views;
+    XScreenChanges m_xScreens;
     PointerGuard m_pointer;
+    /// Runs while screens change.
     QTimer m_settled;
+    /// Runs from a movement until it is clear that a person made it, and no change of screens.
+    QTimer m_moved;
 };
 
 } // namespace host

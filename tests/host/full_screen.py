@@ -35,6 +35,10 @@ def xdotool(*arguments):
     subprocess.run(["xdotool", *arguments], check=True)
 
 
+def xrandr(*arguments):
+    subprocess.run(["xrandr", *arguments], check=True)
+
+
 def dial_at(x, y):
     """Whether a dial stands around this point: its hub is dark, the corners of its square are paper."""
     return host.shows(BLACK, x + 8, y) and host.shows(ORANGE, x - 150, y - 170)
@@ -98,6 +102,22 @@ def ordinary_window():
     check(stop(program, signal.SIGTERM) == 0, "SIGTERM ends with status 0")
 
 
+def a_server_that_moves_the_pointer_is_no_person():
+    xrandr("--newmode", "small", *"38.25 800 832 912 1024 600 603 607 624".split())
+    xrandr("--addmode", "screen", "small")
+    xdotool("mousemove", "1200", "700")
+    program = start()
+    wait_for("a dial", lambda: dial_at(640, 360))
+    for change in ["--mode small", "--mode 1280x720", "--off --fb 64x64", "--mode 1280x720 --fb 1280x720"]:
+        xrandr("--output", "screen", *change.split())
+        time.sleep(0.7)
+        check(is_alive(program), f"{change} does not end the program")
+    wait_for("a dial", lambda: dial_at(640, 360))
+    xdotool("mousemove", "900", "600", "sleep", "0.05", "mousemove", "850", "500")
+    wait_for("the end by a person", lambda: not is_alive(program), 0.5)
+
+
 every_screen_has_its_dial()
 only_a_person_ends_it()
 ordinary_window()
+a_server_that_moves_the_pointer_is_no_person()
