@@ -13,6 +13,17 @@ namespace {
 /// 1/64 of a unit, which is not enough on a wall unless the units are small.
 constexpr double kFineness = 16.0;
 
+/// The month and the year are laid out apart: in one text, digits are set in the font that stands
+/// in for the letters before them, not in that of the day numbers.
+TextShape titleShape(const CalendarTexts &texts, const QFont &font)
+{
+    const TextShape month = textShape(texts.month, font);
+    const TextShape year = textShape(texts.year, font);
+    const double space = QFontMetricsF(font).horizontalAdvance(u' ');
+    return texts.month.isRightToLeft() ? sideBySide(year, space, month)
+                                       : sideBySide(month, space, year);
+}
+
 } // namespace
 
 CalendarPage calendarPage(const CalendarMonth &month)
@@ -26,7 +37,7 @@ CalendarPage calendarPage(const CalendarMonth &month)
     page.titleInset = TamselCalendarTitleInset(regular, month.locale, grid.cellWidth());
     page.capHeight = QFontMetricsF(regular).capHeight();
     page.leadingCells = calendarLeadingCells(month.date);
-    page.title = textShape(texts.title, TamselCalendarFont(false, int(grid.titleSize)));
+    page.title = titleShape(texts, TamselCalendarFont(false, int(grid.titleSize)));
     for (size_t column = 0; column < page.weekdays.size(); ++column)
         page.weekdays[column] = textShape(texts.weekdays[column], regular);
     const int today = month.date.day();

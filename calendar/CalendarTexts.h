@@ -10,8 +10,10 @@
 /// What is written on the calendar of one month.
 struct CalendarTexts
 {
-    /// The stand-alone month name and the year's last two digits.
-    QString title;
+    /// Stand-alone, as it is written without a day.
+    QString month;
+    /// The last two digits.
+    QString year;
     /// Monday first.
     std::array<QString, 7> weekdays;
     /// One for each day of the month.
@@ -21,5 +23,6 @@ struct CalendarTexts
 /// The texts of the month that contains \p date, in the words and digits of \p locale.
 CalendarTexts calendarTexts(QDate date, const QLocale &locale);
 
-/// The first character of \p dayName as a reader counts characters, in upper case.
+/// The first character of \p dayName as a reader counts characters (a grapheme cluster), in upper
+/// case.
 QString weekdayLabel(const QString &dayName, const QLocale &locale);

@@ -26,6 +26,10 @@ private Q_SLOTS:
         QTest::newRow("fa_IR") << march << u"مارس ۲۶"_s << u"د س چ پ ج ش ی"_s << u"۳۱"_s;
         QTest::newRow("ja_JP") << march << u"3月 26"_s << u"月 火 水 木 金 土 日"_s << u"31"_s;
         QTest::newRow("hi_IN") << march << u"मार्च 26"_s << u"सो मं बु गु शु श र"_s << u"31"_s;
+        QTest::newRow("my_MM") << march << u"မတ် ၂၆"_s << u"တ အ ဗု ကြ သေ စ တ"_s << u"၃၁"_s;
+        QTest::newRow("km_KH") << march << u"មីនា 26"_s << u"ច អ ពុ ព្ សុ សៅ អា"_s << u"31"_s;
+        QTest::newRow("si_LK") << march << u"මාර්තු 26"_s
+                               << u"ස අ බ බ්‍ සි සෙ ඉ"_s << u"31"_s;
         QTest::newRow("zh_CN") << march << u"三月 26"_s << u"星 星 星 星 星 星 星"_s << u"31"_s;
         QTest::addRow("en_GB") << QDate(2009, 2, 1) << u"February 09"_s << u"M T W T F S S"_s
                                << u"28"_s;
@@ -38,11 +42,10 @@ private Q_SLOTS:
         QFETCH(QString, lastDay);
         const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
         const CalendarTexts texts = calendarTexts(date, locale);
-        QTEST(texts.title, "title");
+        QTEST(texts.month + u' ' + texts.year, "title");
         QTEST(QStringList(texts.weekdays.begin(), texts.weekdays.end()).join(u' '), "weekdays");
         QCOMPARE(texts.days.size(), date.daysInMonth());
         QCOMPARE(texts.days.last(), lastDay);
-        QCOMPARE(texts.days.first(), locale.toString(1));
         QCOMPARE(texts.days.first().size(), 1);
     }
 

@@ -11,11 +11,10 @@
 #include <QDirIterator>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QGlyphRun>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextLayout>
+#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -93,6 +92,16 @@ ClockFrame frameOf(QDate date, bool portrait = false)
     frame.mark = kMark;
     frame.calendar = {QRectF(30.3, 20.7, 340, 330), {date, portrait, kEnglish}};
     return frame;
+}
+
+/// Noto Serif under another name and with 0.4 em more above its lines, on Windows only.
+QByteArray withRoomForWindows(QByteArray font)
+{
+    font.replace(QByteArray("\0N\0o\0t\0o", 8), QByteArray("\0B\0e\0n\0t", 8));
+    const qsizetype entry = font.indexOf("OS/2");
+    const auto table = qFromBigEndian<quint32>(font.constData() + entry + 8);
+    qToBigEndian<quint16>(1469, font.data() + table + 74); // usWinAscent
+    return font;
 }
 
 } // namespace
@@ -180,7 +189,7 @@ private Q_SLOTS:
             const RecordedMonth month(QDate(2026, 8, 1), portrait);
             const QRectF title = month.title.bounds();
             const double capitalTop = design.titleMiddle - halfCapHeight * design.titleSize;
-            QVERIFY(qAbs(title.top() - capitalTop) < 0.01 * design.titleSize);
+            QVERIFY(qAbs(title.top() - capitalTop) < 0.012 * design.titleSize);
             QVERIFY(qAbs(title.left() - month.days.at(23).bounds().left()) < 0.06 * design.daySize);
         }
     }
@@ -312,44 +321,31 @@ private Q_SLOTS:
         }
     }
 
-    void everyScriptHasGlyphs_data()
+    void yearIsSetAsTheDays_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QFontDatabase::WritingSystem>("script");
-        QTest::newRow("Latin") << u"Čeština ğşİ 26"_s << QFontDatabase::Latin;
-        QTest::newRow("Arabic") << u"أغسطس ٢٦"_s << QFontDatabase::Arabic;
-        QTest::newRow("Persian") << u"چهارشنبه ۲۶"_s << QFontDatabase::Arabic;
-        QTest::newRow("Japanese") << u"8月 火"_s << QFontDatabase::Japanese;
-        QTest::newRow("Chinese") << u"八月 星"_s << QFontDatabase::SimplifiedChinese;
-        QTest::newRow("Hindi") << u"अगस्त सो"_s << QFontDatabase::Devanagari;
+        QTest::addColumn<bool>("yearFirst");
+        QTest::addRow("en_US") << false;
+        QTest::addRow("hi_IN") << false;
+        QTest::addRow("ar_EG") << true;
     }
-    void everyScriptHasGlyphs()
+    /// Whatever font stands in for the month's letters, the year has the digits of the days.
+    void yearIsSetAsTheDays()
     {
-        QFETCH(QString, text);
-        QFETCH(QFontDatabase::WritingSystem, script);
-        if (QFontDatabase::families(script).isEmpty())
-            QSKIP("no font for this script is installed");
-        for (const bool medium : {false, true}) {
-            const TextShape shape = textShape(text, TamselCalendarFont(medium, 320));
-            QTextLayout layout(text, TamselCalendarFont(medium, 320));
-            layout.beginLayout();
-            layout.createLine();
-            layout.endLayout();
-            const QList<QGlyphRun> runs = layout.glyphRuns();
-            for (const QGlyphRun &run : runs)
-                QVERIFY(!run.glyphIndexes().contains(0U));
-            // Wherever the line runs from, its ink stands between its ends.
-            QVERIFY(shape.outline.boundingRect().left() > -32.0);
-            QVERIFY(shape.outline.boundingRect().right() < shape.width + 32.0);
+        QFETCH(bool, yearFirst);
+        const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
+        const CalendarPage page = calendarPage({QDate(2026, 3, 1), false, locale});
+        const QPainterPath &title = page.title.outline;
+        const QPainterPath &day = page.days.at(25).outline;
+        QVERIFY(title.elementCount() > day.elementCount());
+        const int first = yearFirst ? 0 : title.elementCount() - day.elementCount();
+        const auto offset = [](const QPainterPath &path, int from, int to) {
+            return QPointF(path.elementAt(to)) - QPointF(path.elementAt(from));
+        };
+        for (int i = 0; i < day.elementCount(); ++i) {
+            const QPointF expected = offset(day, 0, i) * 34 / 32;
+            const QPointF error = offset(title, first, first + i) - expected;
+            QVERIFY(error.manhattanLength() < 0.2);
         }
-    }
-
-    void systemFontStandsIn()
-    {
-        QCOMPARE(QFontInfo(TamselCalendarFont(false, 512)).family(), u"Inter"_s);
-        QCOMPARE(QFontInfo(TamselCalendarFont(false, 512)).weight(), int(QFont::Normal));
-        QCOMPARE(QFontInfo(TamselCalendarFont(true, 512)).weight(), int(QFont::Medium));
-        QCOMPARE(QFontInfo(TamselCalendarFont(true, 512)).pixelSize(), 512);
     }
 
     /// The last test: what it registers stays registered for this process.
@@ -361,18 +357,25 @@ private Q_SLOTS:
             QSKIP("no font to register");
         const QTemporaryDir empty;
         QTemporaryDir folder;
-        const QString face = folder.filePath(u"Contents/Resources/fonts/SuisseIntl-Regular.otf"_s);
+        QFile serif(fonts.next());
+        QFile face(folder.filePath(u"Contents/Resources/fonts/SuisseIntl-Regular.otf"_s));
         QVERIFY(QDir().mkpath(QFileInfo(face).path()));
-        QVERIFY(QFile::copy(fonts.next(), face));
+        QVERIFY(serif.open(QFile::ReadOnly) && face.open(QFile::WriteOnly));
+        face.write(withRoomForWindows(serif.readAll()));
+        face.close();
         QFile broken(folder.filePath(u"Contents/Resources/fonts/SuisseIntl-Medium.otf"_s));
         QVERIFY(broken.open(QFile::WriteOnly) && broken.write("no font") > 0);
         broken.close();
 
         TamselRegisterCalendarFonts(platform::Bundle(folder.path()));
-        QCOMPARE(QFontInfo(TamselCalendarFont(false, 512)).family(), u"Noto Serif"_s);
+        const QFont regular = TamselCalendarFont(false, 1000);
+        QCOMPARE(QFontInfo(regular).family(), u"Bent Serif"_s);
         QCOMPARE(QFontInfo(TamselCalendarFont(true, 512)).family(), u"Inter"_s);
+        // Lines are as high as the face's designer says.
+        QCOMPARE(textShape(u"March"_s, regular).ascent, 1069.0);
+        QCOMPARE(textShape(u"March"_s, regular).descent, 293.0);
         TamselRegisterCalendarFonts(platform::Bundle(empty.path()));
-        QCOMPARE(QFontInfo(TamselCalendarFont(false, 512)).family(), u"Noto Serif"_s);
+        QCOMPARE(QFontInfo(TamselCalendarFont(false, 512)).family(), u"Bent Serif"_s);
     }
 };
 
