@@ -2,13 +2,16 @@
 #pragma once
 
 #include <QByteArray>
+#include <QVariant>
+
+#include <optional>
 
 namespace platform {
 
-/// Whether the object graph of the binary property list \p bytes is complete and stays small when
-/// written out as a tree: nested at most \p maxDepth containers deep and of bounded size. In the
-/// binary form a container may hold the same object many times, so that a few hundred bytes can
-/// stand for a tree that no machine could hold.
-bool isBoundedBinaryPropertyList(const QByteArray &bytes, int maxDepth);
+/// The binary form of PropertyList::parse() and PropertyList::toBinary(). In this form a container
+/// may hold the same object many times, so that a few hundred bytes can stand for a tree that no
+/// machine could hold; a tree is read up to 8 MiB, every object counted as 32 bytes and its text.
+std::optional<QVariant> parseBinaryPropertyList(const QByteArray &bytes);
+QByteArray binaryPropertyList(const QVariant &value);
 
 } // namespace platform

@@ -98,8 +98,8 @@ struct Stored
     bool isDamaged = false;
 };
 
-/// What the file \p path holds now; none when something stands there that cannot be read and so
-/// must not be replaced.
+/// What the file \p path holds now; none when something stands there that cannot be read, or not
+/// be written back, and so must not be replaced.
 std::optional<Stored> readForWriting(const QString &path)
 {
     struct stat status = {};
@@ -109,6 +109,9 @@ std::optional<Stored> readForWriting(const QString &path)
         return Stored{.values = {}, .isDamaged = true};
     const auto bytes = readSmallFile(path);
     if (!bytes)
+        return std::nullopt;
+    const auto root = PropertyList::parse(*bytes);
+    if (root && PropertyList::toXmlOrBinary(*root).isEmpty())
         return std::nullopt;
     const auto values = dictionary(*bytes);
     return Stored{.values = values.value_or(QVariantMap()), .isDamaged = !values};
@@ -222,7 +225,7 @@ quint64 PreferenceDomain::generation() const
 bool PreferenceDomain::setValue(const QString &key, const QVariant &value) const
 {
     const auto path = writableTarget(m_file->path());
-    if (!path || (value.isValid() && PropertyList::toXml(value).isEmpty()))
+    if (!path || (value.isValid() && PropertyList::toXmlOrBinary(value).isEmpty()))
         return false;
     if (!makePrivateFolder(QFileInfo(*path).absolutePath()))
         return false;
@@ -234,11 +237,11 @@ bool PreferenceDomain::setValue(const QString &key, const QVariant &value) const
         stored->values.insert(key, value);
     else
         stored->values.remove(key);
-    const QByteArray xml = PropertyList::toXml(stored->values);
-    if (xml.size() > kSmallFileLimit || !dictionary(xml))
+    const QByteArray bytes = PropertyList::toXmlOrBinary(stored->values);
+    if (bytes.size() > kSmallFileLimit || !dictionary(bytes))
         return false;
     FileReplacement replacement(*path);
-    return replacement.write(xml) && (!stored->isDamaged || keepDamaged(*path)) &&
+    return replacement.write(bytes) && (!stored->isDamaged || keepDamaged(*path)) &&
            replacement.commit();
 }
 

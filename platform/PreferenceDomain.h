@@ -41,6 +41,9 @@ public:
     /// property list, or when another writer kept the domain locked for a second; the file then
     /// stands as it was.
     ///
+    /// The file is XML if that form can hold all its values, else binary. A file that holds what
+    /// neither could give back is not written.
+    ///
     /// A damaged file is first kept beside as "<file>.damaged", or with a number after that when
     /// there are such files already; what cannot be read at all is never replaced.
     bool setValue(const QString &key, const QVariant &value) const;

@@ -8,16 +8,35 @@
 
 namespace platform::PropertyList {
 
+/// Deeper than this no property list is read or written.
+inline constexpr int kMaxDepth = 64;
+
+/// What QVariant has no type for, as the bytes of its object in the binary form: references of
+/// archives (UID), null, integers of more than 64 bits, dates other than whole seconds of the years
+/// 1 to 9999. No bytes: something that was recognised, but that we could not write back.
+struct ForeignObject
+{
+    QByteArray bytes;
+
+    bool operator==(const ForeignObject &) const = default;
+};
+
 /// Reads a property list, XML or binary. Dictionaries become QVariantMap, arrays QVariantList,
 /// strings QString, integers qlonglong (qulonglong above its range), reals double, booleans bool,
-/// data QByteArray, dates QDateTime in whole seconds, UTC. None when the bytes are not a property
-/// list, or one nested deeper than 64 containers.
+/// data QByteArray, dates QDateTime in whole seconds, UTC, all else ForeignObject. None when the
+/// bytes are not a property list, or one of more than kMaxDepth nested containers or more than
+/// 8 MiB.
+///
+/// Any bytes may be given: time and memory stay bounded.
 std::optional<QVariant> parse(const QByteArray &bytes);
 
-/// Writes \p value as an XML or binary property list. Besides what parse() returns, the narrower
-/// numbers are taken; values of other types are left out of their container, and a root of another
-/// type gives an empty array of bytes.
+/// Writes \p value as an XML or binary property list that parse() reads as the same value. Besides
+/// what parse() returns, the narrower numbers are taken. Empty when \p value holds, at any depth,
+/// what the form cannot; the binary form can hold everything but a ForeignObject without bytes.
 QByteArray toXml(const QVariant &value);
 QByteArray toBinary(const QVariant &value);
+
+/// Writes \p value as XML if that can hold it, else in the binary form. Empty if neither can.
+QByteArray toXmlOrBinary(const QVariant &value);
 
 } // namespace platform::PropertyList

@@ -206,6 +206,23 @@ void TestPreferenceDomain::refusesWhatItCouldNotReadAgain()
     QVERIFY(!domain().setValue(kKey, QTime(1, 2)));
     QVERIFY(!domain().setValue(kKey, QByteArray(platform::kSmallFileLimit, 'x')));
     QCOMPARE(bytesOf(path()), before);
+    for (const char *type :
+         {"integer>18446744073709551616</integer", "date>12024-02-29T00:00:00Z</date"}) {
+        const QByteArray foreign = QByteArray(kBlueFile).replace(
+            "</dict>", QByteArray("<key>a</key><") + type + "></dict>");
+        put(path(), foreign);
+        QVERIFY(!domain().setValue(kKey, u"cream"_s));
+        QCOMPARE(bytesOf(path()), foreign);
+        QCOMPARE(domain().value(kKey), QVariant(u"blue"_s));
+    }
+    // A dictionary whose key is an integer.
+    const QByteArray unreadable = QByteArray("bplist00\xD1\x01\x01\x10\x07\x08\x0B", 15) +
+                                  QByteArray(6, '\0') + "\x01\x01" + QByteArray(7, '\0') + '\x02' +
+                                  QByteArray(15, '\0') + '\x0D';
+    put(path(), unreadable);
+    QVERIFY(!domain().setValue(kKey, u"cream"_s));
+    QCOMPARE(bytesOf(path()), unreadable);
+    QCOMPARE(domain().contents(), QVariantMap());
 }
 
 /// Also a change of the same length within one tick of the file system's clock, in place or by a
