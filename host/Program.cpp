@@ -18,6 +18,7 @@
 #include "platform/DistributedNotifications.h"
 #include "platform/FileLock.h"
 #include "platform/LoginSession.h"
+#include "platform/Toolkit.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -35,33 +36,17 @@ namespace {
 constexpr char kProgramName[] = "tamsel-clock";
 constexpr double kSecondsPerMinute = 60.0;
 
-/// Hosts read our stderr through a pipe and wake up for each line: what Qt has to tell about the
-/// desktop is not for them.
-void discardMessage(QtMsgType, const QMessageLogContext &, const QString &)
+void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-}
-
-/// Keeps Qt from starting helpers or registering with session services that a saver has no business
-/// with.
-void prepareEnvironment(const QByteArray &qtPlatform)
-{
-    qputenv("QT_QPA_PLATFORM", qtPlatform);
-    qunsetenv("SESSION_MANAGER");
-    // The plain event loop wakes up and runs at less cost.
-    qputenv("QT_NO_GLIB", "1");
-    // Without a bus the D-Bus library would launch a daemon of its own that stays behind for ever.
-    const bool hasRuntimeBus =
-        QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
-    if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") && !hasRuntimeBus)
-        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    qInstallMessageHandler(discardMessage);
+    platform::endIfFatal(kProgramName, type, text);
 }
 
 class Application
 {
 public:
-    Application(int &argc, char **argv, const QByteArray &qtPlatform)
-        : m_application((prepareEnvironment(qtPlatform), argc), argv)
+    Application(int &argc, char **argv, const QByteArray &qtPlatform,
+                platform::Interaction interaction)
+        : m_application(platform::makeApplication(argc, argv, qtPlatform, interaction, takeMessage))
     {
         QApplication::setApplicationName(QLatin1StringView(kProgramName));
         QApplication::setApplicationDisplayName(u"Tamsel Clock"_s);
@@ -99,7 +84,7 @@ public:
     int exec() { return QApplication::exec(); }
 
 private:
-    QApplication m_application;
+    std::unique_ptr<QApplication> m_application;
     TerminationSignals m_signals;
     platform::DistributedNotifications m_notifications;
     platform::LoginSession m_session;
@@ -183,12 +168,14 @@ int runFullScreen(Application &application)
 
 int inHostWindow(const Options &options, int argc, char **argv)
 {
+    auto connection = platform::connectToXServer();
     const std::optional<quint32> window = options.hostWindow ? options.hostWindow : xRootWindow();
-    if (!window || !platform::xServerAnswers())
+    if (!connection || !window)
         return complainAndFail(u"no X display can be reached"_s);
     if (!xWindowExists(*window))
         return complainAndFail(u"there is no window 0x%1"_s.arg(*window, 0, 16));
-    Application application(argc, argv, "xcb");
+    Application application(argc, argv, "xcb", platform::Interaction::Watching);
+    connection.reset();
     return application.hasResources() ? runHostWindow(options, application, *window)
                                       : failWithoutResources(application);
 }
@@ -200,10 +187,13 @@ int failWithoutDisplay()
 
 int onDisplay(const Options &options, int argc, char **argv)
 {
-    const auto qtPlatform = platform::reachablePlatform();
-    if (!qtPlatform)
+    auto display = platform::reachableDisplay();
+    if (!display)
         return failWithoutDisplay();
-    Application application(argc, argv, *qtPlatform);
+    const auto interaction = options.mode == Mode::FullScreen ? platform::Interaction::Watching
+                                                              : platform::Interaction::Working;
+    Application application(argc, argv, display->qtPlatform, interaction);
+    display.reset();
     if (!application.hasResources())
         return failWithoutResources(application);
     if (options.mode == Mode::Configure)
@@ -214,7 +204,7 @@ int onDisplay(const Options &options, int argc, char **argv)
 
 int asPicture(const Options &options, int argc, char **argv)
 {
-    Application application(argc, argv, "offscreen");
+    Application application(argc, argv, "offscreen", platform::Interaction::Watching);
     if (!application.hasResources())
         return failWithoutResources(application);
     return options.mode == Mode::Snapshot ? runSnapshot(options, application)
@@ -239,11 +229,12 @@ QString idleLockPath()
 
 int waitForIdleUser(const Options &options, int argc, char **argv)
 {
-    prepareEnvironment(qgetenv("QT_QPA_PLATFORM"));
+    qInstallMessageHandler(takeMessage);
+    platform::prepareEnvironment();
     QCoreApplication application(argc, argv);
     const TerminationSignals signalsEndIt;
     const DisplayLifeline display;
-    if (!display.isConnected() || !platform::reachablePlatform())
+    if (!display.isConnected() || !platform::reachableDisplay())
         return failWithoutDisplay();
     const platform::FileLock only(idleLockPath(), std::chrono::milliseconds(0));
     if (!only.isHeld())

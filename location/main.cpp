@@ -7,6 +7,7 @@
 #include "platform/DistributedNotifications.h"
 #include "platform/ShortTime.h"
 #include "platform/SingleWindow.h"
+#include "platform/Toolkit.h"
 
 #include <QApplication>
 #include <QTimeZone>
@@ -21,10 +22,17 @@ constexpr int kSuccess = 0;
 constexpr int kFailure = 1;
 constexpr int kWrongUsage = 2;
 
+constexpr char kProgramName[] = "pelko-location";
+
 int complain(const QString &text, int status)
 {
-    std::fprintf(stderr, "pelko-location: %s\n", text.toLocal8Bit().constData());
+    std::fprintf(stderr, "%s: %s\n", kProgramName, text.toLocal8Bit().constData());
     return status;
+}
+
+void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    platform::endIfFatal(kProgramName, type, text);
 }
 
 int print(const QString &text)
@@ -84,13 +92,14 @@ int carryOut(const location::Request &request, int argc, char **argv)
 
 int runWindow(int argc, char **argv)
 {
-    const auto qtPlatform = platform::reachablePlatform();
-    if (!qtPlatform)
+    auto display = platform::reachableDisplay();
+    if (!display)
         return complain(u"no display can be reached; --set saves a location without one"_s,
                         kFailure);
-    qputenv("QT_QPA_PLATFORM", *qtPlatform);
-    const QApplication application(argc, argv);
-    QApplication::setApplicationName(u"pelko-location"_s);
+    const auto application = platform::makeApplication(argc, argv, display->qtPlatform,
+                                                       platform::Interaction::Working, takeMessage);
+    display.reset();
+    QApplication::setApplicationName(QLatin1StringView(kProgramName));
     QApplication::setApplicationDisplayName(u"Pelko Location"_s);
     QGuiApplication::setDesktopFileName(QString(kLocationDesktopId));
     platform::DistributedNotifications notifications;

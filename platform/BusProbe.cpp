@@ -9,6 +9,7 @@
 #include <cstring>
 #include <utility>
 
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -105,7 +106,64 @@ QByteArray greeting()
     return QByteArray(1, '\0') + "AUTH EXTERNAL " + user + "\r\nBEGIN\r\n" + helloMessage();
 }
 
+/// A socket that has sent its greeting, or -1. A local socket connects at once or not at all, and
+/// so small a text always fits its buffer.
+int greetedSocket(const QByteArray &addressText)
+{
+    const auto address = socketAddress(addressText);
+    const int socket =
+        address ? ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0) : -1;
+    if (socket < 0) {
+        return -1;
+    }
+    const QByteArray text = greeting();
+    const auto *name = reinterpret_cast<const sockaddr *>(&address->name);
+    if (::connect(socket, name, address->length) == 0 &&
+        send(socket, text.constData(), std::size_t(text.size()), MSG_NOSIGNAL) == text.size()) {
+        return socket;
+    }
+    ::close(socket);
+    return -1;
+}
+
+/// Reads on in \p answer; whether it takes us in, once that is known: the line that lets us in and,
+/// behind it, a message that is no error.
+std::optional<bool> readVerdict(int socket, QByteArray &answer)
+{
+    std::array<char, 1024> part{};
+    const auto size = recv(socket, part.data(), part.size(), 0);
+    if (size <= 0) {
+        return false;
+    }
+    answer.append(part.data(), size);
+    const auto lineEnd = answer.indexOf("\r\n");
+    const auto typeAt = lineEnd + 3;
+    if (lineEnd >= 0 && !answer.startsWith("OK ")) {
+        return false;
+    }
+    if (lineEnd >= 0 && answer.size() > typeAt) {
+        return answer.at(typeAt) != kError;
+    }
+    return {};
+}
+
 } // namespace
+
+bool busAnswers(const QByteArray &address, QDeadlineTimer end)
+{
+    const int socket = greetedSocket(address);
+    if (socket < 0) {
+        return false;
+    }
+    QByteArray answer;
+    std::optional<bool> verdict;
+    pollfd readable{socket, POLLIN, 0};
+    while (!verdict && poll(&readable, 1, int(end.remainingTime())) > 0) {
+        verdict = readVerdict(socket, answer);
+    }
+    ::close(socket);
+    return verdict.value_or(false);
+}
 
 std::optional<QByteArray> firstUnixBusAddress(const QByteArray &addresses)
 {
@@ -135,7 +193,8 @@ BusProbe::~BusProbe()
 
 void BusProbe::start()
 {
-    if (!greet()) {
+    m_socket = greetedSocket(m_address);
+    if (m_socket < 0) {
         m_patience.start(0s);
         return;
     }
@@ -144,36 +203,10 @@ void BusProbe::start()
     m_patience.start(kPatience);
 }
 
-/// A local socket connects at once or not at all, and so small a text always fits its buffer.
-bool BusProbe::greet()
-{
-    const auto address = socketAddress(m_address);
-    m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-    if (!address || m_socket < 0) {
-        return false;
-    }
-    const QByteArray text = greeting();
-    const auto *name = reinterpret_cast<const sockaddr *>(&address->name);
-    return ::connect(m_socket, name, address->length) == 0 &&
-           send(m_socket, text.constData(), std::size_t(text.size()), MSG_NOSIGNAL) == text.size();
-}
-
-/// Looks for the line that lets us in and, behind it, for a message that is no error.
 void BusProbe::readAnswer()
 {
-    std::array<char, 1024> part{};
-    const auto size = recv(m_socket, part.data(), part.size(), 0);
-    if (size <= 0) {
-        finish(false);
-        return;
-    }
-    m_answer.append(part.data(), size);
-    const auto lineEnd = m_answer.indexOf("\r\n");
-    const auto typeAt = lineEnd + 3;
-    if (lineEnd >= 0 && !m_answer.startsWith("OK ")) {
-        finish(false);
-    } else if (lineEnd >= 0 && m_answer.size() > typeAt) {
-        finish(m_answer.at(typeAt) != kError);
+    if (const auto verdict = readVerdict(m_socket, m_answer)) {
+        finish(*verdict);
     }
 }
 

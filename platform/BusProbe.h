@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -15,6 +16,10 @@ namespace platform {
 /// written there; none when there is no such entry. Every daemon of a Linux desktop has one;
 /// addresses that would start a daemon are left alone on purpose.
 std::optional<QByteArray> firstUnixBusAddress(const QByteArray &addresses);
+
+/// Whether the message bus at \p address, one entry as firstUnixBusAddress() gives it, takes us in
+/// before \p end. Makes the caller wait so long: for the time before there is an event loop.
+bool busAnswers(const QByteArray &address, QDeadlineTimer end);
 
 /// Asks, without ever waiting, whether a message bus at an address takes us in. QtDBus connects and
 /// says hello synchronously, which lasts 25 seconds when the daemon hangs and aborts the process
@@ -35,7 +40,6 @@ Q_SIGNALS:
     void finished(bool answered);
 
 private:
-    bool greet();
     void readAnswer();
     void finish(bool answered);
 

@@ -23,48 +23,56 @@ bool hasPlatformPlugin(const char *pattern)
     return !plugins.entryList({QLatin1StringView(pattern)}, QDir::Files).isEmpty();
 }
 
-bool waylandAnswers()
+DisplayConnection connectToWayland()
 {
     const QByteArray name = qgetenv("WAYLAND_DISPLAY");
     if (name.isEmpty())
-        return false;
+        return nullptr;
     const QByteArray path = name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name;
     sockaddr_un address = {};
     if (path.size() >= qsizetype(sizeof address.sun_path))
-        return false;
+        return nullptr;
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
     const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     if (socket < 0)
-        return false;
-    const bool connected =
-        ::connect(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
-    ::close(socket);
-    return connected;
+        return nullptr;
+    const std::shared_ptr<int> connection(new int(socket), [](const int *open) {
+        ::close(*open);
+        delete open;
+    });
+    const auto *to = reinterpret_cast<const sockaddr *>(&address);
+    return ::connect(socket, to, sizeof address) == 0 ? connection : nullptr;
 }
 
 } // namespace
 
-std::optional<QByteArray> reachablePlatform()
+std::optional<ReachableDisplay> reachableDisplay()
 {
     const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
-    const QByteArray chosenName = chosen.split(':').first();
-    const bool any = chosen.isEmpty();
-    if ((any || chosenName.startsWith("wayland")) && waylandAnswers() &&
-        hasPlatformPlugin("libqwayland*"))
-        return any ? QByteArray("wayland") : chosen;
-    if ((any || chosenName.startsWith("xcb")) && xServerAnswers())
-        return any ? QByteArray("xcb") : chosen;
-    const bool needsDisplay = chosenName.startsWith("wayland") || chosenName.startsWith("xcb");
-    return any || needsDisplay ? std::nullopt : std::optional(chosen);
+    const auto entries = (chosen.isEmpty() ? "wayland;xcb" : chosen).split(';');
+    QByteArrayList others;
+    for (const QByteArray &entry : entries) {
+        DisplayConnection connection;
+        if (entry.startsWith("wayland"))
+            connection = hasPlatformPlugin("libqwayland*") ? connectToWayland() : nullptr;
+        else if (entry.startsWith("xcb"))
+            connection = connectToXServer();
+        else if (!entry.isEmpty())
+            others.append(entry);
+        if (connection)
+            return ReachableDisplay{(others << entry).join(';'), connection};
+    }
+    if (others.isEmpty())
+        return std::nullopt;
+    return ReachableDisplay{others.join(';'), nullptr};
 }
 
-bool xServerAnswers()
+DisplayConnection connectToXServer()
 {
-    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return answers;
+    const std::shared_ptr<xcb_connection_t> connection(xcb_connect(nullptr, nullptr),
+                                                       xcb_disconnect);
+    return xcb_connection_has_error(connection.get()) == 0 ? connection : nullptr;
 }
 
 } // namespace platform

@@ -13,6 +13,8 @@ tamsel_script_test(host_follow_settings host/follow_settings.py ARGS $<TARGET_FI
 tamsel_script_test(host_configure host/configure.py BUS ARGS $<TARGET_FILE:tamsel-clock> LABELS host)
 tamsel_script_test(host_configure_sun host/configure_sun.py HOME BUS LABELS host
     ARGS $<TARGET_FILE:tamsel-clock> ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/pelko-location)
+tamsel_script_test(host_starting host/starting.py BUS LABELS host
+    ARGS $<TARGET_FILE:tamsel-clock> ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/pelko-location)
 tamsel_installed_test(host_xscreensaver host/xscreensaver.sh)
 tamsel_installed_test(host_mate host/mate.sh)
 tamsel_installed_test(host_xsecurelock host/xsecurelock.sh)

@@ -31,6 +31,8 @@ expect 1 'no X display' --window-id 0x123
 expect 1 /nowhere/a.png --snapshot /nowhere/a.png
 DISPLAY=:987 expect 1 'no display'
 WAYLAND_DISPLAY=wayland-9 expect 1 'no display'
+QT_QPA_PLATFORM='wayland;xcb' expect 1 'no display'
+QT_QPA_PLATFORM=nonsense expect 1 'no Qt platform plugin'
 
 mkdir -p moved/bin moved/lib/tamsel-clock
 cp "$program" moved/bin/

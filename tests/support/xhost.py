@@ -28,11 +28,11 @@ def check(condition, what):
         sys.exit(f"FAILED: {what}")
 
 
-def launch_x_server(*arguments):
+def launch_x_server(*arguments, resets=False):
     """Starts Xvfb on a free display, points DISPLAY to it and returns its process."""
     read_end, write_end = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write_end), "-noreset", "-nolisten", "tcp", *arguments],
+        ["Xvfb", "-displayfd", str(write_end), *([] if resets else ["-noreset"]), "-nolisten", "tcp", *arguments],
         pass_fds=[write_end], stderr=subprocess.DEVNULL)
     os.close(write_end)
     number = os.read(read_end, 16).decode().strip()

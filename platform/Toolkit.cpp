@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Toolkit.h"
+
+#include "platform/BusProbe.h"
+#include "platform/MessageBus.h"
+
+#include <QAccessible>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+
+#include <cstdio>
+#include <optional>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kBusPatience = 1000ms;
+constexpr char kNoBus[] = "disabled:";
+constexpr int kCouldNotRun = 1;
+
+/// Gives an environment variable another value, and its own back at the end.
+class OtherValue
+{
+public:
+    OtherValue(const char *name, const char *value) : m_name(name)
+    {
+        if (qEnvironmentVariableIsSet(name))
+            m_before = qgetenv(name);
+        qputenv(name, value);
+    }
+    ~OtherValue()
+    {
+        if (m_before)
+            qputenv(m_name, *m_before);
+        else
+            qunsetenv(m_name);
+    }
+    Q_DISABLE_COPY_MOVE(OtherValue)
+
+private:
+    const char *m_name;
+    std::optional<QByteArray> m_before;
+};
+
+/// Where the bus of assistive technology listens; empty while there is none, nothing when the
+/// session's bus at \p session or the service there does not tell.
+std::optional<QByteArray> assistiveBus(const QByteArray &session, QDeadlineTimer end)
+{
+    const QByteArray given = qgetenv("AT_SPI_BUS_ADDRESS");
+    if (!given.isEmpty())
+        return given;
+    const QString name = u"assistive technology"_s;
+    auto call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
+                                               u"org.a11y.Bus"_s, u"GetAddress"_s);
+    call.setAutoStartService(false);
+    QDBusMessage reply;
+    {
+        const auto connection = QDBusConnection::connectToBus(QString::fromUtf8(session), name);
+        reply = connection.call(call, QDBus::Block, int(end.remainingTime()));
+    }
+    QDBusConnection::disconnectFromBus(name);
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return reply.arguments().value(0).toString().toUtf8();
+    const QString error = reply.errorName();
+    return error == "org.freedesktop.DBus.Error.ServiceUnknown"_L1 ||
+                   error == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1
+               ? std::optional(QByteArray())
+               : std::nullopt;
+}
+
+bool busesAnswer()
+{
+    const QDeadlineTimer end(kBusPatience);
+    const auto session = MessageBus::address(MessageBus::Kind::Session);
+    if (!session || !busAnswers(*session, end))
+        return false;
+    const auto assistive = assistiveBus(*session, end);
+    if (!assistive || assistive->isEmpty())
+        return assistive.has_value();
+    const auto address = firstUnixBusAddress(*assistive);
+    return address && busAnswers(*address, end);
+}
+
+/// The toolkit asks for its buses late and once: here it asks while there are none.
+std::unique_ptr<QApplication> makeWithoutBuses(int &argc, char **argv)
+{
+    const OtherValue session("DBUS_SESSION_BUS_ADDRESS", kNoBus);
+    const OtherValue assistive("AT_SPI_BUS_ADDRESS", kNoBus);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    QDBusConnection::sessionBus();
+    QAccessible::setActive(false);
+    return application;
+}
+
+} // namespace
+
+void prepareEnvironment()
+{
+    qunsetenv("SESSION_MANAGER");
+    // The plain event loop wakes up and runs at less cost.
+    qputenv("QT_NO_GLIB", "1");
+    // Without a bus the D-Bus library would launch a daemon of its own that stays behind for ever.
+    const bool hasRuntimeBus =
+        QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
+    if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") && !hasRuntimeBus)
+        qputenv("DBUS_SESSION_BUS_ADDRESS", kNoBus);
+}
+
+std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, const QByteArray &qtPlatform,
+                                              Interaction interaction, QtMessageHandler handler)
+{
+    qInstallMessageHandler(handler);
+    prepareEnvironment();
+    qputenv("QT_QPA_PLATFORM", qtPlatform);
+    if (interaction == Interaction::Watching) {
+        qunsetenv("QT_IM_MODULE");
+        qunsetenv("QT_IM_MODULES");
+    } else if (busesAnswer()) {
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return makeWithoutBuses(argc, argv);
+}
+
+void endIfFatal(const char *program, QtMsgType type, const QString &text)
+{
+    if (type != QtFatalMsg)
+        return;
+    std::fprintf(stderr, "%s: %s\n", program, text.simplified().toLocal8Bit().constData());
+    ::_exit(kCouldNotRun);
+}
+
+} // namespace platform
