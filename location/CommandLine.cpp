@@ -34,6 +34,8 @@ Request parseCommandLine(const QStringList &arguments)
         return ShowWindow{};
     if (option == "--help"_L1 || option == "-h"_L1)
         return ShowHelp{};
+    if (option == "--version"_L1)
+        return ShowVersion{};
     if (option == "--show"_L1)
         return ShowLocation{};
     if (option == "--forget"_L1)
@@ -51,6 +53,7 @@ Without an option a window opens.
   --show         Print the saved location and today's sunrise and sunset.
   --forget       Remove the saved location.
   --help         Print this help.
+  --version      Print the version.
 
 Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong usage.
 )"_s;

@@ -16,6 +16,9 @@ struct ShowWindow
 struct ShowHelp
 {
 };
+struct ShowVersion
+{
+};
 /// Print the saved location and today's sun.
 struct ShowLocation
 {
@@ -34,8 +37,8 @@ struct UsageError
     QString text;
 };
 
-using Request =
-    std::variant<ShowWindow, ShowHelp, ShowLocation, SetLocation, ForgetLocation, UsageError>;
+using Request = std::variant<ShowWindow, ShowHelp, ShowVersion, ShowLocation, SetLocation,
+                             ForgetLocation, UsageError>;
 
 /// What \p arguments (the program's name first) ask for.
 Request parseCommandLine(const QStringList &arguments);

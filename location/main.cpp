@@ -127,6 +127,9 @@ int main(int argc, char **argv)
         return complain(error->text, kWrongUsage);
     if (std::holds_alternative<location::ShowHelp>(request))
         return print(location::helpText());
+    if (std::holds_alternative<location::ShowVersion>(request))
+        return print(
+            QStringLiteral("%1 " TAMSEL_VERSION "\n").arg(QLatin1StringView(kProgramName)));
     // The options are ours alone; Qt would take some of its own out of the command line.
     int programNameOnly = 1;
     return std::holds_alternative<location::ShowWindow>(request)

@@ -1,3 +1,3 @@
 # bash completion for pelko-location                      -*- shell-script -*-
 
-complete -W '--set --show --forget --help' pelko-location
+complete -W '--set --show --forget --help --version' pelko-location

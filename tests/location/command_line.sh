@@ -1,7 +1,7 @@
 #!/bin/bash
 # SPDX-License-Identifier: MIT
 # The companion program without a window: what it prints, writes and announces, and its exit statuses.
-# Argument: the program.
+# Arguments: the program, its version.
 set -u
 program=$1
 file="$HOME/Library/Application Support/Tamsel Clock/location.plist"
@@ -32,6 +32,7 @@ seen() {
 }
 
 expect 0 '^Usage: pelko-location' 0 --help
+expect 0 "^pelko-location $2\$" 0 --version
 expect 1 '^$' 1 --show
 expect 2 '^$' 1 --set 91,0
 expect 2 '^$' 1 --nonsense
