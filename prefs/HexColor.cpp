@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "prefs/HexColor.h"
 
+#include <QFloat16>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -40,6 +42,18 @@ std::optional<unsigned> scanHexInteger(QStringView text)
     return value;
 }
 
+/// The number that was rounded to \p half, which an extended-range colour keeps in half precision:
+/// the decimal number with the fewest places that is rounded to the same.
+double unroundedComponent(float half)
+{
+    for (const double scale : {1e0, 1e1, 1e2, 1e3, 1e4, 1e5}) {
+        const double decimal = std::round(double(half) * scale) / scale;
+        if (qfloat16(float(decimal)) == qfloat16(half))
+            return decimal;
+    }
+    return half;
+}
+
 QString upperWithoutNumberSigns(const QString &string)
 {
     QString text = string;
@@ -51,10 +65,11 @@ QString upperWithoutNumberSigns(const QString &string)
 QString hexStringForColor(const QColor &color)
 {
     // Only an extended-range colour is read as one: its components are half as precise.
-    const QColor rgb = !color.isValid()                      ? QColor(Qt::black)
-                       : color.spec() == QColor::ExtendedRgb ? color
-                                                             : color.toRgb();
-    const auto byte = [](float component) { return std::lround(double(component) * 255.0); };
+    const bool isExtended = color.spec() == QColor::ExtendedRgb;
+    const QColor rgb = !color.isValid() ? QColor(Qt::black) : isExtended ? color : color.toRgb();
+    const auto byte = [isExtended](float component) {
+        return std::lround(255.0 * (isExtended ? unroundedComponent(component) : component));
+    };
     char text[64];
     std::snprintf(text, sizeof text, "#%02lX%02lX%02lX", byte(rgb.redF()), byte(rgb.greenF()),
                   byte(rgb.blueF()));
