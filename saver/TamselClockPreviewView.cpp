@@ -80,8 +80,9 @@ void installPreviewAccessibility()
 TamselClockPreviewView::TamselClockPreviewView(const platform::Clocks &clocks, QWidget *parent)
     : QWidget(parent), m_clocks(clocks), m_pacer(0.0, kFrameInterval)
 {
-    setAccessibleName(QStringLiteral("Clock preview"));
+    // Before its name: a change of that is told at once, through an accessible object that stays.
     installPreviewAccessibility();
+    setAccessibleName(QStringLiteral("Clock preview"));
     m_animationTimer.setSingleShot(true);
     m_animationTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_animationTimer, &QTimer::timeout, this, &TamselClockPreviewView::tick);
