@@ -55,6 +55,8 @@ void OverlayScroller::flash()
 {
     const QScrollBar *bar = m_area->verticalScrollBar();
     if (bar->maximum() <= bar->minimum()) {
+        m_linger.stop();
+        m_fade.stop();
         hide();
         return;
     }
@@ -69,7 +71,8 @@ void OverlayScroller::flash()
 
 void OverlayScroller::fade()
 {
-    if (underMouse())
+    // The pointer leaves it, and the wait begins anew, when it is hidden below the pointer, too.
+    if (isHidden() || underMouse())
         return;
     if (appearanceOf(this).reducedMotion())
         hide();
