@@ -24,6 +24,7 @@ QString lockPath(const QString &folder, const QString &name)
 
 void bringToFront(QWidget &window)
 {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
     window.activateWindow();
