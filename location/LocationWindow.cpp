@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "location/LocationWindow.h"
 
+#include "controls/OverlayScrollArea.h"
 #include "location/CityChooser.h"
 #include "location/CoordinateFields.h"
 #include "location/ServiceFinder.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
+#include "platform/WindowPlacement.h"
 
 #include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -52,16 +55,57 @@ LocationWindow::~LocationWindow() = default;
 
 void LocationWindow::layOut()
 {
+    QWidget *content = makeContent();
+    m_footer = makeFooter();
+    const int height = content->sizeHint().height() + m_footer->sizeHint().height();
+    m_area = new OverlayScrollArea(*m_desktop.clocks, content, this);
+    m_area->setWidgetResizable(true);
+    m_area->setMinimumWidth(content->minimumSizeHint().width());
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_area, 1);
+    layout->addWidget(m_footer);
+    const QRectF frame(0, 0, kWidth, height);
+    resize(platform::frameOnScreen(frame, height, screen()->availableGeometry()).toRect().size());
+    content->installEventFilter(this);
+    installEventFilter(this);
+}
+
+/// All but the footer, which keeps its buttons in sight on a small screen.
+QWidget *LocationWindow::makeContent()
+{
+    auto *content = new QWidget(this);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, 0);
     layout->setSpacing(kSpacing);
     layout->addWidget(makeIntroduction());
     layout->addWidget(m_card);
     layout->addWidget(m_finder);
     layout->addWidget(m_chooser, 1);
     layout->addWidget(m_coordinates);
-    layout->addWidget(makeFooter());
-    resize(kWidth, sizeHint().height());
+    return content;
+}
+
+int LocationWindow::neededHeight() const
+{
+    return m_area->widget()->heightForWidth(width()) + m_footer->heightForWidth(width());
+}
+
+/// Makes room for a message, where the screen has some.
+void LocationWindow::growToContent()
+{
+    const QRect frame =
+        platform::frameOnScreen(geometry(), neededHeight(), screen()->availableGeometry()).toRect();
+    if (frame.height() > height())
+        setGeometry(frame);
+}
+
+bool LocationWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        growToContent();
+    return QDialog::eventFilter(watched, event);
 }
 
 QWidget *LocationWindow::makeIntroduction()
@@ -100,7 +144,7 @@ QWidget *LocationWindow::makeFooter()
     buttons->addWidget(close);
     buttons->addWidget(m_save);
     auto *layout = new QVBoxLayout(footer);
-    layout->setContentsMargins({});
+    layout->setContentsMargins(kMargin, kSpacing, kMargin, kMargin);
     layout->setSpacing(kButtonSpacing);
     layout->addWidget(m_message);
     layout->addLayout(buttons);
@@ -116,6 +160,7 @@ void LocationWindow::connectWays()
     connect(m_chooser, &CityChooser::chosen, this, [this](const ZoneCity &city) {
         m_finder->cancel();
         chooseCity(city);
+        m_area->reveal(m_chooser); // the arrow keys move in the list from the field above it
     });
     connect(m_chooser, &CityChooser::confirmed, m_save, qOverload<>(&QPushButton::setFocus));
     connect(m_coordinates, &CoordinateFields::edited, this,

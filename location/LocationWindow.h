@@ -11,6 +11,7 @@
 
 #include <optional>
 
+class OverlayScrollArea;
 class QLabel;
 class QPushButton;
 
@@ -38,6 +39,8 @@ public:
     const std::optional<SolarLocation> &choice() const { return m_choice; }
     ServiceFinder &finder() { return *m_finder; }
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -45,6 +48,9 @@ private:
     QWidget *makeIntroduction();
     QWidget *makeFooter();
     void layOut();
+    QWidget *makeContent();
+    int neededHeight() const;
+    void growToContent();
     void suggest(const QString &systemZone);
     void connectWays();
 
@@ -69,6 +75,8 @@ private:
     ServiceFinder *m_finder;
     CityChooser *m_chooser;
     CoordinateFields *m_coordinates;
+    OverlayScrollArea *m_area = nullptr;
+    QWidget *m_footer = nullptr;
     QLabel *m_message = nullptr;
     QPushButton *m_forget = nullptr;
     QPushButton *m_save = nullptr;

@@ -2,7 +2,7 @@
 // The building of the options sheet.
 #include "saver/TamselClockSaverView.h"
 
-#include "controls/OverlayScroller.h"
+#include "controls/OverlayScrollArea.h"
 #include "controls/PushButton.h"
 #include "controls/TamselHexField.h"
 #include "controls/TamselModeControl.h"
@@ -20,7 +20,6 @@
 #include "settings/SheetRules.h"
 
 #include <QLabel>
-#include <QScrollArea>
 
 using namespace Qt::StringLiterals;
 
@@ -116,18 +115,9 @@ void SheetBuilder::addWindow()
     window->setMovableByWindowBackground(true);
     followAppearance(window, [window] { window->setPalette(appearanceOf(window).palette()); });
 
-    auto *scroll = new QScrollArea(window);
-    m_sheet.settingsScroll = scroll;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setGeometry(window->rect());
-    scroll->setWidget(transparentView(window->rect(), nullptr));
-    // The window's rounded background shows through.
-    scroll->viewport()->setAutoFillBackground(false);
-    scroll->widget()->setAutoFillBackground(false);
-    new OverlayScroller(m_view.clocks(), scroll);
+    m_sheet.settingsScroll =
+        new OverlayScrollArea(m_view.clocks(), transparentView(window->rect(), nullptr), window);
+    m_sheet.settingsScroll->setGeometry(window->rect());
 }
 
 void SheetBuilder::addPreview(QWidget *document)

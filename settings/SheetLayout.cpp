@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetLayout.h"
 
-#include <algorithm>
+#include "platform/WindowPlacement.h"
 
 namespace {
 
@@ -10,7 +10,6 @@ constexpr double kGroupGap = 10.0;
 constexpr double kActionsGap = 32.0;
 constexpr double kActionsHeight = 24.0;
 constexpr double kBottomMargin = 28.0;
-constexpr double kScreenMargin = 70.0;
 
 } // namespace
 
@@ -33,7 +32,6 @@ SheetLayout sheetLayout(double dayHeight, double nightHeight)
 
 QRectF sheetFrame(const QRectF &frame, double contentHeight, const QRectF &screen)
 {
-    const double height = std::min(contentHeight, screen.height() - kScreenMargin);
-    const double top = std::min(frame.top(), screen.bottom() - height);
-    return {frame.left(), top, kSheetWidth, height};
+    return platform::frameOnScreen({frame.topLeft(), QSizeF(kSheetWidth, frame.height())},
+                                   contentHeight, screen);
 }

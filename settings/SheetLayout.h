@@ -29,7 +29,6 @@ struct SheetLayout
 /// The layout for a theme group and a night group of these heights.
 SheetLayout sheetLayout(double dayHeight, double nightHeight);
 
-/// The frame of a sheet that stands at \p frame and shall show \p contentHeight: as high as that,
-/// but lower by 70 than \p screen (the part of it that windows may cover), with its top edge where
-/// it was, unless it would reach below the screen.
+/// The frame of a sheet that stands at \p frame and shall show \p contentHeight, as far as \p
+/// screen (the part of it that windows may cover) allows; see platform::frameOnScreen().
 QRectF sheetFrame(const QRectF &frame, double contentHeight, const QRectF &screen);

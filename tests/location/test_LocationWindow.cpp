@@ -21,6 +21,7 @@ using location::LocationWindow;
 
 namespace {
 
+constexpr QSize kScreen(1024, 600);
 constexpr SolarLocation kHelsinki{60.1699, 24.9384};
 constexpr SolarLocation kHelsinkiOfItsZone{60 + 10 / 60.0, 24 + 58 / 60.0};
 
@@ -59,6 +60,10 @@ class test_LocationWindow : public QObject
 {
     Q_OBJECT
 
+public:
+    /// Before the application object is made.
+    static void initMain();
+
 private Q_SLOTS:
     void initTestCase();
     void init();
@@ -82,6 +87,16 @@ private:
     platform::Desktop m_desktop;
     location::ZoneCities m_cities = location::ZoneCities::ofSystem();
 };
+
+void test_LocationWindow::initMain()
+{
+    QFile screens(qEnvironmentVariable("TMPDIR") + "/screens.json");
+    QVERIFY(screens.open(QFile::WriteOnly));
+    screens.write(R"({"screens": [{"name": "small", "width": %1, "height": %2}]})"_ba
+                      .replace("%1", QByteArray::number(kScreen.width()))
+                      .replace("%2", QByteArray::number(kScreen.height())));
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+}
 
 void test_LocationWindow::initTestCase()
 {
@@ -240,10 +255,13 @@ void test_LocationWindow::everythingHasANameAndAPlaceInTheTabOrder()
     const auto window = open();
     window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    // The screen is lower than all that the window shows.
+    QCOMPARE(window->height(), kScreen.height() - 70);
     QStringList names;
     const QWidget *first = window->focusWidget();
     QWidget *widget = window->focusWidget();
     do {
+        QCOMPARE(widget->visibleRegion().boundingRect(), widget->rect());
         names.append(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name));
         QTest::keyClick(widget, Qt::Key_Tab);
         widget = window->focusWidget();

@@ -12,7 +12,7 @@ NO_PROGRAM = set(FOLDERS) - {"host", "location"}
 ALLOWED = {
     "platform": set(),
     "controls": {"platform"},
-    "location": {"night", "platform"},
+    "location": {"controls", "night", "platform"},
     "host": set(FOLDERS) - {"location"},
 }
 # The view's class is known to the headers of these folders only; elsewhere to the units that implement its operations.
