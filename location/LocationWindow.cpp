@@ -7,6 +7,7 @@
 #include "location/ServiceFinder.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
+#include "platform/DistributedNotifications.h"
 #include "platform/WindowPlacement.h"
 
 #include <QAccessible>
@@ -48,6 +49,9 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
             &LocationWindow::followAppearance);
     followAppearance();
     suggest(systemZone);
+    if (desktop.notifications)
+        desktop.notifications->observe(QString(kSolarLocationChanged), this,
+                                       [this] { followStore(); });
     m_chooser->setFocus();
 }
 
@@ -217,8 +221,11 @@ std::optional<Place> LocationWindow::placeOf(const std::optional<SolarLocation> 
     const auto sunrise = m_sun.eventOnDate(u"sunrise"_s, now);
     const auto sunset = m_sun.eventOnDate(u"sunset"_s, now);
     Place place{m_cities.placeName(*location), *location, std::nullopt};
-    if (sunrise && sunset)
+    if (sunrise && sunset) {
         place.daylight = DaylightHours{sunrise->time(), sunset->time()};
+        place.hasOtherTime = !m_cities.keepsLocalTime(*location, *sunrise) ||
+                             !m_cities.keepsLocalTime(*location, *sunset);
+    }
     return place;
 }
 
@@ -244,9 +251,24 @@ void LocationWindow::forget()
 
 void LocationWindow::refreshButtons()
 {
-    const auto saved = m_store.load();
-    m_forget->setEnabled(saved.has_value());
-    m_save->setEnabled(m_choice && m_choice != saved);
+    m_saved = m_store.load();
+    m_forget->setEnabled(m_saved.has_value());
+    m_save->setEnabled(m_choice && m_choice != m_saved);
+}
+
+/// Leaves the choice as it is.
+void LocationWindow::followStore()
+{
+    const auto known = m_saved;
+    refreshButtons();
+    if (m_saved == known)
+        return;
+    if (!m_saved)
+        tell(u"Another program forgot the saved location."_s);
+    else if (m_saved == m_choice)
+        tell(u"Another program saved this place."_s);
+    else
+        tell(u"Another program saved another place."_s);
 }
 
 void LocationWindow::tell(const QString &text, bool isFault)
@@ -269,13 +291,14 @@ void LocationWindow::followAppearance()
     tell(m_message->text());
 }
 
-/// Another program may have saved meanwhile, and another day may have begun.
+/// Another program may have saved meanwhile without a bus to tell of it, and another day may have
+/// begun.
 void LocationWindow::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_card->setPlace(placeOf(m_choice));
-        refreshButtons();
+        followStore();
     }
 }
 

@@ -62,6 +62,7 @@ private:
     void save();
     void forget();
     void refreshButtons();
+    void followStore();
     void tell(const QString &text, bool isFault = false);
     void followAppearance();
 
@@ -71,6 +72,8 @@ private:
     /// Computes the sun of the choice; loads and saves nothing.
     TamselSolarTimes m_sun;
     std::optional<SolarLocation> m_choice;
+    /// What was saved when it was last looked at.
+    std::optional<SolarLocation> m_saved;
     PlaceCard *m_card;
     ServiceFinder *m_finder;
     CityChooser *m_chooser;

@@ -9,8 +9,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <cstdlib>
-
 using namespace Qt::StringLiterals;
 
 namespace location {
@@ -23,18 +21,8 @@ constexpr int kSpacingAboveSun = 10;
 constexpr double kRadius = 10.0;
 constexpr double kNameSize = 17.0;
 constexpr double kTextSize = 13.0;
-constexpr int kDay = 24 * 60 * 60 * 1000; // in milliseconds
 /// The card stands out from the window by this much of the text's colour.
 constexpr double kCardOpacity = 0.05;
-
-/// Where noon is at another time, the times are another zone's business than the place's.
-bool isFarAway(const DaylightHours &daylight)
-{
-    const int rise = daylight.sunrise.msecsSinceStartOfDay();
-    const int length = daylight.sunrise.msecsTo(daylight.sunset);
-    const int noon = (rise + (length + (length < 0 ? kDay : 0)) / 2) % kDay;
-    return std::abs(noon - kDay / 2) > kDay / 6;
-}
 
 QString sunText(const std::optional<Place> &place)
 {
@@ -45,7 +33,7 @@ QString sunText(const std::optional<Place> &place)
     const DaylightHours &daylight = *place->daylight;
     return u"Today: sunrise %1, sunset %2%3"_s.arg(
         platform::shortTimeText(daylight.sunrise), platform::shortTimeText(daylight.sunset),
-        isFarAway(daylight) ? u" by this computer's clock"_s : QString());
+        place->hasOtherTime ? u" by this computer's clock"_s : QString());
 }
 
 QString nameText(const std::optional<Place> &place)

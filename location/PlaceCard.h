@@ -19,6 +19,8 @@ struct Place
     QString name;
     SolarLocation location;
     std::optional<DaylightHours> daylight;
+    /// Whether clocks there show the hours of the daylight otherwise than this computer's.
+    bool hasOtherTime = false;
 };
 
 /// Shows the place that is chosen, in words and as a bar of the day.

@@ -6,6 +6,7 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -146,6 +147,15 @@ std::optional<ZoneCity> ZoneCities::nearestTo(const SolarLocation &location) con
             return distance(location, a.location) < distance(location, b.location);
         });
     return nearest != m_cities.end() ? std::optional(*nearest) : std::nullopt;
+}
+
+bool ZoneCities::keepsLocalTime(const SolarLocation &location, const QDateTime &moment) const
+{
+    const auto city = nearestTo(location);
+    if (!city)
+        return false;
+    const QTimeZone zone(city->zone.toUtf8());
+    return zone.isValid() && zone.offsetFromUtc(moment) == moment.offsetFromUtc();
 }
 
 QString ZoneCities::placeName(const SolarLocation &location) const

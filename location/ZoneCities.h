@@ -3,6 +3,7 @@
 
 #include "night/SolarLocation.h"
 
+#include <QDateTime>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -50,6 +51,10 @@ public:
     std::optional<ZoneCity> ofZone(const QString &zone) const;
 
     std::optional<ZoneCity> nearestTo(const SolarLocation &location) const;
+
+    /// Whether clocks at \p location show \p moment as this computer's do, as far as the zone of
+    /// the nearest city tells; false when no city is known.
+    bool keepsLocalTime(const SolarLocation &location, const QDateTime &moment) const;
 
     /// What to call \p location: a city's name at its very place, "Near" it within 300 km, null
     /// elsewhere.

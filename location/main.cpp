@@ -64,12 +64,19 @@ int show(const platform::Desktop &desktop)
         return complain(u"no location is saved"_s, kFailure);
     const SolarLocation &location = *sun.location();
     const QDateTime now = desktop.clocks->now();
-    const QString place = location::ZoneCities::ofSystem().placeName(location);
+    const auto cities = location::ZoneCities::ofSystem();
+    const QString place = cities.placeName(location);
+    const auto sunrise = sun.eventOnDate(u"sunrise"_s, now);
+    const auto sunset = sun.eventOnDate(u"sunset"_s, now);
+    const auto hasOtherTime = [&](const std::optional<QDateTime> &time) {
+        return time && !cities.keepsLocalTime(location, *time);
+    };
     return print(u"Location: %1,%2%3\n"_s.arg(location::degreesText(location.latitude),
                                               location::degreesText(location.longitude),
                                               place.isNull() ? QString() : u" (%1)"_s.arg(place)) +
-                 sunLine(u"Sunrise: "_s, sun.eventOnDate(u"sunrise"_s, now)) +
-                 sunLine(u"Sunset:  "_s, sun.eventOnDate(u"sunset"_s, now)));
+                 sunLine(u"Sunrise: "_s, sunrise) + sunLine(u"Sunset:  "_s, sunset) +
+                 (hasOtherTime(sunrise) || hasOtherTime(sunset) ? u"Clock:   this computer's\n"_s
+                                                                : QString()));
 }
 
 int carryOut(const location::Request &request, int argc, char **argv)

@@ -56,6 +56,8 @@ assert plistlib.load(open(suite, "rb"))["SolarLocation"] == location
 ' "$file" || fail "what was saved is not what was said"
 expect 0 '^Location: -33.87,151.21 \(Near Sydney, Australia\)$' 0 --show
 expect 0 '^Sunset: +[0-9]' 0 --show
+expect 0 "^Clock: +this computer's$" 0 --show
+[[ $(TZ=Australia/Melbourne "$program" --show) == *Clock* ]] && fail "Sydney has Melbourne's time"
 
 expect 0 '^$' 0 --forget
 [ -e "$file" ] && fail "the file is still there"

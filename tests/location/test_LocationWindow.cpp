@@ -3,6 +3,7 @@
 #include "location/LocationWindow.h"
 #include "location/ServiceFinder.h"
 #include "platform/Clocks.h"
+#include "platform/DistributedNotifications.h"
 #include "tests/support/GeoClue.h"
 
 #include <QAccessible>
@@ -78,6 +79,8 @@ private Q_SLOTS:
     void choosingOtherwiseEndsTheRequest();
     void tellsWhenSavingFails();
     void forgets();
+    void hearsOfOtherPrograms_data();
+    void hearsOfOtherPrograms();
     void everythingHasANameAndAPlaceInTheTabOrder();
 
 private:
@@ -248,6 +251,39 @@ void test_LocationWindow::forgets()
     QVERIFY(says(*window, u"Forgotten"_s));
     QVERIFY(!SolarLocationStore(m_desktop).load());
     QVERIFY(!named<QPushButton>(*window, u"Forget location"_s)->isEnabled());
+}
+
+void test_LocationWindow::hearsOfOtherPrograms_data()
+{
+    QTest::addColumn<bool>("hasBus");
+    QTest::newRow("at once") << true;
+    QTest::newRow("in front again") << false;
+}
+
+void test_LocationWindow::hearsOfOtherPrograms()
+{
+    QFETCH(bool, hasBus);
+    const SolarLocationStore other(m_desktop);
+    QVERIFY(other.save(kHelsinki));
+    platform::DistributedNotifications ours;
+    platform::DistributedNotifications theirs;
+    if (hasBus)
+        m_desktop.notifications = &ours;
+    const auto window = open();
+    const auto *save = named<QPushButton>(*window, u"Save"_s);
+    QVERIFY(!save->isEnabled());
+    QVERIFY(other.save({-33.87, 151.21}));
+    QWidget front;
+    if (!hasBus) {
+        front.show();
+        front.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&front));
+        window->activateWindow();
+    }
+    // Until the window listens, the bus has nobody to tell.
+    QTRY_VERIFY((hasBus ? theirs.post(QString(kSolarLocationChanged)) : void(), save->isEnabled()));
+    QVERIFY(says(*window, u"Another program saved another place"_s));
+    QCOMPARE(window->choice(), kHelsinki);
 }
 
 void test_LocationWindow::everythingHasANameAndAPlaceInTheTabOrder()

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void namesPlaces_data();
     void namesPlaces();
     void readsTheSystemsDatabase();
+    void knowsWhoseClockDiffers();
 
 private:
     ZoneCities m_cities{kZones, kCountries, kLinks};
@@ -130,6 +131,15 @@ void test_ZoneCities::readsTheSystemsDatabase()
     QCOMPARE(cities.ofZone(u"Asia/Calcutta"_s).value_or(ZoneCity()).fullName(),
              u"Kolkata, India"_s);
     QVERIFY(!cities.ofZone(u"Etc/UTC"_s));
+}
+
+void test_ZoneCities::knowsWhoseClockDiffers()
+{
+    const SolarLocation turku{60.45, 22.27};
+    const QDateTime summer({2026, 7, 1}, {12, 0}, Qt::OffsetFromUTC, 3 * 3600);
+    QVERIFY(m_cities.keepsLocalTime(turku, summer));
+    QVERIFY(!m_cities.keepsLocalTime(turku, summer.addMonths(6)));
+    QVERIFY(!ZoneCities({}, {}, {}).keepsLocalTime(turku, summer));
 }
 
 QTEST_GUILESS_MAIN(test_ZoneCities)
