@@ -75,7 +75,7 @@ int show(const platform::Desktop &desktop)
                                               location::degreesText(location.longitude),
                                               place.isNull() ? QString() : u" (%1)"_s.arg(place)) +
                  sunLine(u"Sunrise: "_s, sunrise) + sunLine(u"Sunset:  "_s, sunset) +
-                 (hasOtherTime(sunrise) || hasOtherTime(sunset) ? u"Clock:   this computer's\n"_s
+                 (hasOtherTime(sunrise) || hasOtherTime(sunset) ? u"Clock:    this computer's\n"_s
                                                                 : QString()));
 }
 

@@ -1,6 +1,5 @@
 tamsel_test(night/test_TamselSolarTimes.cpp LIBS tamsel_clock_core)
 tamsel_test(night/test_SunTimes.cpp LIBS tamsel_clock_core)
-target_sources(test_SunTimes PRIVATE support/NoaaSun.cpp)
 
 add_executable(sun_change_check night/sun_change_check.cpp)
 set_target_properties(sun_change_check PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
