@@ -303,6 +303,51 @@ private Q_SLOTS:
         QVERIFY(!picker.displayFormat().contains(u's'));
     }
 
+    void timesAreTypedInEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QTime>("from");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QTime>("to");
+        const QTime morning(6, 30);
+        const QTime evening(21, 30);
+        const auto row = [](const char *language, QTime from, const QString &typed, QTime to) {
+            QTest::addRow("%s %s", language, qPrintable(typed)) << language << from << typed << to;
+        };
+        row("en_US", evening, u"12:00 AM"_s, {0, 0});
+        row("en_US", evening, u"1200a"_s, {0, 0});
+        row("en_US", morning, u"12:00 p.m."_s, {12, 0});
+        row("en_US", evening, u"9:5 am"_s, {9, 5});
+        row("en_US", evening, u"945"_s, {21, 45});
+        row("ko_KR", evening, u"1015"_s, {22, 15});
+        row("ko_KR", evening, u"a 10:15"_s, {10, 15});
+        row("ko_KR", evening, u"오전1015"_s, {10, 15});
+        row("zh_TW", evening, u"1015上午"_s, {10, 15});
+        row("sq_AL", morning, u"1015 e pas"_s, {22, 15});
+        row("ar_EG", evening, u"١٠١٥ ص"_s, {10, 15});
+        row("fr_CA", evening, u"10 h 15"_s, {10, 15});
+    }
+
+    void timesAreTypedInEveryLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QTime, from);
+        QFETCH(QString, typed);
+        m_window->setLocale(QLocale(language));
+        TimePicker picker(m_window.get());
+        QVERIFY(!picker.displayFormat().contains(u'B'));
+        picker.setTime(from);
+        picker.show();
+        turnWheel(&picker, {0, 120}); // on the way past it
+        QCOMPARE(picker.time(), from);
+        picker.setFocus();
+        QTest::keySequence(&picker, QKeySequence(QKeySequence::SelectAll));
+        for (const QChar sign : typed)
+            QTest::sendKeyEvent(QTest::Click, &picker, Qt::Key_unknown, QString(sign), {});
+        picker.clearFocus();
+        QTEST(picker.time(), "to");
+    }
+
     void settingsWindowMovesByItsBackground()
     {
         TamselSettingsWindow window;
