@@ -9,7 +9,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from optionswindow import FOLDER, SUITE, OptionsWindow  # noqa: E402
-from screenreader import act, actions, click, has, start_desktop, until, xdotool  # noqa: E402
+from screenreader import act, actions, click, has, role_of, start_desktop, until, xdotool  # noqa: E402
 from xhost import check, wait_for  # noqa: E402
 
 EQUAL_TIMES = "Night mode start and end times must be different."
@@ -44,7 +44,7 @@ EXPECTED = [
 
 
 def described(node):
-    role = node.get_role_name()
+    role = role_of(node)
     value = None
     if role in ("text", "spin button"):
         value = node.get_text(0, -1)
@@ -83,7 +83,7 @@ in_reading_order = [described(n) for n in window.application.nodes()
 expect(in_reading_order, EXPECTED, "reading order")
 expect(tab_order(), [control[:3] for control in EXPECTED], "tab order")
 
-roles = [node.get_role_name() for node in window.application.nodes()]
+roles = [role_of(node) for node in window.application.nodes()]
 check(roles.count("separator") == 4 and "ShowMenu" in actions(window.control("push button", "Night mode end setting")),
       "separators and menus are told")
 

@@ -13,7 +13,7 @@ from Xlib.error import ConnectionClosedError
 from Xlib.ext import record
 from xhost import Host, check, wait_for
 
-from screenreader import Application, click, everything, has, until, xdotool
+from screenreader import Application, click, everything, has, role_of, until, xdotool
 
 FOLDER = pathlib.Path(os.environ["XDG_CONFIG_HOME"], "tamsel-clock")
 MODULE = "org.tamsel.VornakClockSaver.plist"
@@ -69,13 +69,13 @@ class OptionsWindow:
     @staticmethod
     def click_in(node, name):
         """Clicks the button of that name in the node."""
-        click(next(n for n in everything(node) if (n.get_role_name(), n.get_name()) == ("push button", name)))
+        click(next(n for n in everything(node) if (role_of(n), n.get_name()) == ("push button", name)))
 
     def tab_to(self, role, name):
         """Goes there by the Tab key alone."""
         for _ in range(40):
             focused = self.application.focused()
-            if focused and (focused.get_role_name(), focused.get_name()) == (role, name):
+            if focused and (role_of(focused), focused.get_name()) == (role, name):
                 return
             xdotool("key", "Tab")
         check(False, f"Tab reaches {role} {name}")
@@ -92,7 +92,7 @@ class OptionsWindow:
         xdotool("type", text)
 
     def preview_shows(self, colour):
-        box = self.control("filler", "Clock preview").get_extents(0)
+        box = self.control("image", "Clock preview").get_extents(0)
         return self.host.shows(colour, box.x + 12, box.y + 12)
 
     def expect_preview(self, colour):

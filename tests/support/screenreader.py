@@ -57,6 +57,11 @@ def has(node, state):
     return node.get_state_set().contains(getattr(Atspi.StateType, state))
 
 
+def role_of(node):
+    """What it is, by the constant's name: names for people are translated and have changed."""
+    return node.get_role().value_nick.replace("-", " ")
+
+
 def actions(node):
     return [node.get_action_name(i) for i in range(node.get_n_actions())]
 
@@ -98,7 +103,7 @@ class Application:
 
     def find(self, role, name):
         """The first node on screen with that role and name, else one that is hidden, else None."""
-        found = [n for n in everything(self.root) if n.get_role_name() == role and n.get_name() == name]
+        found = [n for n in everything(self.root) if role_of(n) == role and n.get_name() == name]
         return next((n for n in found if has(n, "SHOWING")), found[0] if found else None)
 
     def focused(self):
