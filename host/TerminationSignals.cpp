@@ -3,7 +3,9 @@
 
 #include <QCoreApplication>
 
+#include <cerrno>
 #include <csignal>
+#include <ctime>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -13,43 +15,69 @@ namespace {
 
 constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
-/// A handler may do little more than write to a pipe, and only a file-level variable can tell it
-/// which.
-int g_wakeUpPipe[2] = {-1, -1};
+/// How long the event loop and what it takes down may need. Waiting for a display server or a bus
+/// that does not answer they could need for ever.
+constexpr itimerspec kGrace = {.it_interval = {},
+                               .it_value = {.tv_sec = 0, .tv_nsec = 100'000'000}};
 
-void wakeUp(int)
+/// A handler may do little more than write to a pipe and set a timer, and only file-level variables
+/// can tell it which.
+int g_wakeUpPipe[2] = {-1, -1};
+timer_t g_deadline;
+
+void endOrderly(int)
 {
+    const int fault = errno;
+    ::timer_settime(g_deadline, 0, &kGrace, nullptr);
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = ::write(g_wakeUpPipe[1], &byte, 1);
+    errno = fault;
 }
 
-void handleWith(void (*handler)(int))
+/// Nothing is lost: files are replaced as a whole, and locks are freed with the process.
+void endAtOnce(int)
+{
+    ::_exit(0);
+}
+
+void handle(int signal, void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
-    for (const int signal : kSignals)
-        ::sigaction(signal, &action, nullptr);
+    ::sigaction(signal, &action, nullptr);
+}
+
+bool makeDeadline()
+{
+    sigevent event = {};
+    event.sigev_notify = SIGEV_SIGNAL;
+    event.sigev_signo = SIGALRM;
+    return ::timer_create(CLOCK_MONOTONIC, &event, &g_deadline) == 0;
 }
 
 } // namespace
 
 TerminationSignals::TerminationSignals()
 {
-    // Without a pipe the default action stays, which ends the process as well.
-    if (::pipe2(g_wakeUpPipe, O_CLOEXEC | O_NONBLOCK) != 0)
+    // Without pipe or timer the default action stays, which ends the process as well.
+    if (!makeDeadline() || ::pipe2(g_wakeUpPipe, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
     m_notifier = std::make_unique<QSocketNotifier>(g_wakeUpPipe[0], QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, qApp,
                      [] { QCoreApplication::exit(0); });
-    handleWith(wakeUp);
+    handle(SIGALRM, endAtOnce);
+    for (const int signal : kSignals)
+        handle(signal, endOrderly);
 }
 
+/// The deadline stays: what is destroyed after this may wait for somebody, too.
 TerminationSignals::~TerminationSignals()
 {
     if (!m_notifier)
         return;
-    handleWith(SIG_DFL);
+    for (const int signal : kSignals)
+        handle(signal, SIG_DFL);
     ::close(g_wakeUpPipe[0]);
     ::close(g_wakeUpPipe[1]);
 }

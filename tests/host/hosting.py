@@ -1,21 +1,23 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The program inside windows of another process, as the screen-saver hosts make them."""
+import itertools
 import os
 import pathlib
 import plistlib
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
-from xhost import ORANGE, Host, X, check, is_alive, start_x_server, stop, wait_for  # noqa: E402
+from xhost import ORANGE, Host, X, check, is_alive, launch_x_server, stop, wait_for  # noqa: E402
 
 PROGRAM = sys.argv[1]
-start_x_server("-screen", "0", "1280x720x24")
+server = launch_x_server("-screen", "0", "1280x720x24")
 host = Host()
 HOSTS_OWN = (255, 0, 255)
 # A platform that the session prefers must not win over the host's window.
@@ -154,6 +156,34 @@ def resources_may_vanish():
     window.destroy()
 
 
+def signals_end_it_whoever_does_not_answer():
+    window = host.window()
+    silent_bus = socket.socket(socket.AF_UNIX)
+    silent_bus.bind(os.path.join(os.environ["TMPDIR"], "bus"))
+    silent_bus.listen()
+    bus = {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={silent_bus.getsockname()}"}
+    # How long it runs before the server stops, and how long with it.
+    states = [({}, 0.5, 0), (bus, 0.5, 0), ({}, 0.5, 0.1), ({}, 0, 0.3), (bus, 0, 0.3)]
+    programs = [[PROGRAM, "--window-id", hex(window.id)], [PROGRAM], [PROGRAM, "--configure"],
+                [os.path.join(os.path.dirname(PROGRAM), "pelko-location")]]
+    numbers = itertools.cycle([signal.SIGTERM, signal.SIGINT, signal.SIGHUP])
+    for (variables, running, stopped), command in itertools.product(states, programs):
+        if running == 0:
+            server.send_signal(signal.SIGSTOP)
+        program = subprocess.Popen(command, env={**environment, **variables})
+        time.sleep(running)
+        if stopped:
+            server.send_signal(signal.SIGSTOP)
+        time.sleep(stopped)
+        number = next(numbers)
+        try:
+            status = stop(program, number, within=0.3)
+        finally:
+            server.send_signal(signal.SIGCONT)
+        check(status in (0, 3, -number), f"signal {number} ends {command}, not {status}")
+    window.destroy()
+
+
 ways_to_name_the_window()
 sizes_follow_the_window()
 fractional_density_leaves_no_strip()
@@ -161,3 +191,4 @@ the_host_keeps_pointer_and_clicks()
 dead_windows_open_nothing()
 the_root_window_is_drawn_when_no_other_is_named()
 resources_may_vanish()
+signals_end_it_whoever_does_not_answer()
