@@ -16,6 +16,7 @@ struct NameOfRequest
 {
     QString operator()(const location::ShowWindow &) const { return u"window"_s; }
     QString operator()(const location::ShowHelp &) const { return u"help"_s; }
+    QString operator()(const location::ShowVersion &) const { return u"version"_s; }
     QString operator()(const location::ShowLocation &) const { return u"show"_s; }
     QString operator()(const location::ForgetLocation &) const { return u"forget"_s; }
     QString operator()(const location::UsageError &) const { return u"error"_s; }
@@ -96,6 +97,7 @@ void test_Coordinates::readsTheCommandLine_data()
     QTest::addColumn<QString>("request");
     QTest::newRow("none") << QStringList{} << u"window"_s;
     QTest::newRow("help") << QStringList{u"--help"_s} << u"help"_s;
+    QTest::newRow("version") << QStringList{u"--version"_s} << u"version"_s;
     QTest::newRow("show") << QStringList{u"--show"_s} << u"show"_s;
     QTest::newRow("forget") << QStringList{u"--forget"_s} << u"forget"_s;
     QTest::newRow("set") << QStringList{u"--set"_s, u"-33.87,151.21"_s} << u"-33.87,151.21"_s;
