@@ -27,6 +27,10 @@ constexpr auto kBusPatience = 1000ms;
 constexpr char kNoBus[] = "disabled:";
 constexpr int kCouldNotRun = 1;
 
+constexpr char kScaleVariable[] = "QT_SCALE_FACTOR";
+constexpr double kSmallestScale = 0.1;
+constexpr double kLargestScale = 16.0;
+
 /// Gives an environment variable another value, and its own back at the end.
 class OtherValue
 {
@@ -50,6 +54,16 @@ private:
     const char *m_name;
     std::optional<QByteArray> m_before;
 };
+
+/// Removes a scale from the environment at which no window could be shown; the toolkit takes the
+/// number as it is.
+void dropUnusableScale()
+{
+    // Not a number is neither above nor below any.
+    const double scale = qgetenv(kScaleVariable).toDouble();
+    if (!(scale >= kSmallestScale && scale <= kLargestScale))
+        qunsetenv(kScaleVariable);
+}
 
 /// Where the bus of assistive technology listens; empty while there is none, nothing when the
 /// session's bus at \p session or the service there does not tell.
@@ -105,6 +119,7 @@ std::unique_ptr<QApplication> makeWithoutBuses(int &argc, char **argv)
 
 void prepareEnvironment()
 {
+    dropUnusableScale();
     qunsetenv("SESSION_MANAGER");
     // The plain event loop wakes up and runs at less cost.
     qputenv("QT_NO_GLIB", "1");

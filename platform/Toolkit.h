@@ -15,7 +15,8 @@ enum class Interaction {
 };
 
 /// Keeps the toolkit from starting helpers or registering with session services that none of our
-/// programs has business with. To be called before any application object exists.
+/// programs has business with, and from scales at which nothing can be shown. To be called before
+/// any application object exists.
 void prepareEnvironment();
 
 /// Makes the application object on the toolkit's platform \p qtPlatform; its messages go to

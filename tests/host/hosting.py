@@ -69,12 +69,13 @@ def sizes_follow_the_window():
     check(program.stderr.read() == "", "the end is quiet")
 
 
-def fractional_density_leaves_no_strip():
-    window = host.window(100, 50, 1000, 601)
-    program = start("--root", XSCREENSAVER_WINDOW=hex(window.id), QT_SCALE_FACTOR="3")
-    wait_for("a picture at density 3", lambda: fills(100, 50, 1000, 601))
-    stop(program, signal.SIGTERM)
-    window.destroy()
+def any_density_leaves_no_strip():
+    for density in ["3", "0", "-1", "nan", "1e9"]:
+        window = host.window(100, 50, 1000, 601)
+        program = start("--root", XSCREENSAVER_WINDOW=hex(window.id), QT_SCALE_FACTOR=density)
+        wait_for(f"a picture at density {density}", lambda: fills(100, 50, 1000, 601))
+        stop(program, signal.SIGTERM)
+        window.destroy()
 
 
 def the_host_keeps_pointer_and_clicks():
@@ -186,7 +187,7 @@ def signals_end_it_whoever_does_not_answer():
 
 ways_to_name_the_window()
 sizes_follow_the_window()
-fractional_density_leaves_no_strip()
+any_density_leaves_no_strip()
 the_host_keeps_pointer_and_clicks()
 dead_windows_open_nothing()
 the_root_window_is_drawn_when_no_other_is_named()
