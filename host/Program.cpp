@@ -17,6 +17,7 @@
 #include "platform/DisplayServer.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/FileLock.h"
+#include "platform/FileReplacement.h"
 #include "platform/LoginSession.h"
 #include "platform/Toolkit.h"
 
@@ -217,14 +218,25 @@ int print(const QString &text)
     return kSuccess;
 }
 
+/// Where nobody else can put a lock. The preferences serve when the runtime folder is missing and
+/// the one that the toolkit would make for it is not ours.
+QString privateFolder()
+{
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (!runtime.isEmpty())
+        return runtime;
+    const QString preferences = platform::userPreferencesFolder();
+    platform::makePrivateFolder(preferences);
+    return preferences;
+}
+
 /// One waits per session, and a session is known by its display.
 QString idleLockPath()
 {
     const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
     QString display = wayland.isEmpty() ? qEnvironmentVariable("DISPLAY") : wayland;
     display.replace(u'/', u'_');
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-           "/tamsel-clock-idle-%1.lock"_L1.arg(display);
+    return privateFolder() + "/tamsel-clock-idle-%1.lock"_L1.arg(display);
 }
 
 int waitForIdleUser(const Options &options, int argc, char **argv)
@@ -236,14 +248,16 @@ int waitForIdleUser(const Options &options, int argc, char **argv)
     const DisplayLifeline display;
     if (!display.isConnected() || !platform::reachableDisplay())
         return failWithoutDisplay();
-    const platform::FileLock only(idleLockPath(), std::chrono::milliseconds(0));
-    if (!only.isHeld())
+    const QString lockPath = idleLockPath();
+    const platform::FileLock only(lockPath, std::chrono::milliseconds(0));
+    if (only.isTaken())
         return complainAndFail(u"already waiting in this session"_s);
+    if (!only.isHeld())
+        return complainAndFail(u"cannot lock %1"_s.arg(lockPath));
 
     const platform::Clocks &clocks = platform::systemClocks();
     const double seconds = options.idleMinutes * kSecondsPerMinute;
-    IdleService service(seconds, idleSources(seconds, clocks),
-                        QCoreApplication::applicationFilePath(), clocks);
+    IdleService service(seconds, idleSources(seconds, clocks), platform::programPath(), clocks);
     QObject::connect(&display, &DisplayLifeline::ended, &application,
                      [] { QCoreApplication::exit(kSuccess); });
     QObject::connect(&service, &IdleService::helpless, &application, [] {

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Bundle.h"
 
-#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+
+#include <sys/auxv.h>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -12,13 +16,25 @@ constexpr QLatin1StringView kBundleBesidePrograms("../lib/tamsel-clock/VornakClo
 constexpr QLatin1StringView kBundleAroundHelpers("../../../VornakClockSaver.saver");
 } // namespace
 
+QString programPath()
+{
+    const QString running = QFileInfo(u"/proc/self/exe"_s).canonicalFilePath();
+    if (!running.isEmpty())
+        return running;
+    const auto *started = reinterpret_cast<const char *>(::getauxval(AT_EXECFN));
+    return QFileInfo(QFile::decodeName(started)).canonicalFilePath();
+}
+
 Bundle::Bundle(QString path) : m_path(std::move(path))
 {
 }
 
 Bundle Bundle::ofProgram()
 {
-    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString program = programPath();
+    if (program.isEmpty())
+        return Bundle(program);
+    const QDir programs = QFileInfo(program).dir();
     for (const QLatin1StringView candidate : {kBundleBesidePrograms, kBundleAroundHelpers}) {
         const QString path = QDir::cleanPath(programs.filePath(candidate));
         if (QFileInfo(path).isDir())

@@ -5,6 +5,11 @@
 
 namespace platform {
 
+/// Full path of the file that runs, links resolved; empty when it cannot be told. Where /proc is
+/// missing the toolkit would guess from the program's name, in the current folder at worst; the
+/// kernel also tells what it has started.
+QString programPath();
+
 /// The folder of real files that makes up the saver module: artwork, symbols, fonts, scripts and
 /// the companion program. A plain value; looking something up asks the file system each time.
 class Bundle
@@ -14,7 +19,7 @@ public:
     explicit Bundle(QString path);
 
     /// The module's bundle, found relative to the running program: the build tree and an
-    /// installation have the same shape.
+    /// installation have the same shape. One of nothing when the program's own place is unknown.
     static Bundle ofProgram();
 
     QString path() const { return m_path; }

@@ -1,10 +1,12 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The clock that waits for an idle user, on a bare X server and under a played GNOME."""
+import getpass
 import os
 import signal
 import subprocess
 import sys
+import tempfile
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
@@ -20,8 +22,8 @@ SESSION = "org.gnome.SessionManager"
 SESSION_PATH = "/org/gnome/SessionManager"
 
 
-def wait_idle(minutes):
-    return subprocess.Popen([PROGRAM, "--idle", str(minutes)], env=environment, stderr=subprocess.PIPE, text=True)
+def wait_idle(minutes, **variables):
+    return subprocess.Popen([PROGRAM, "--idle", str(minutes)], env={**environment, **variables}, stderr=subprocess.PIPE, text=True)
 
 
 def shows_clock():
@@ -65,6 +67,18 @@ def with_the_x_server_alone():
     check(stop(service, signal.SIGTERM, within=1.5) == 0, "SIGTERM ends the waiting with status 0")
     wait_for("the end of its clock", shows_desktop)
     check(service.stderr.read() == "", "the waiting is silent")
+
+
+def where_the_runtime_folder_is_not_ours():
+    away = {"XDG_RUNTIME_DIR": "", "TMPDIR": tempfile.mkdtemp()}
+    os.symlink("/", f"{away['TMPDIR']}/runtime-{getpass.getuser()}")
+    service = wait_idle(60, **away)
+    time.sleep(0.5)
+    check(is_alive(service), "the waiting needs no runtime folder")
+    for changed, reason in (({}, "already waiting"), ({"XDG_CONFIG_HOME": "/dev/null/none"}, "cannot lock")):
+        second = wait_idle(60, **away, **changed)
+        check(second.wait(5) == 1 and reason in second.stderr.read(), f"the second ends: {reason}")
+    check(stop(service, signal.SIGTERM, within=1.5) == 0, "SIGTERM ends the waiting")
 
 
 def play(service, path):
@@ -131,5 +145,6 @@ def the_end_of_the_session_ends_it():
 
 
 with_the_x_server_alone()
+where_the_runtime_folder_is_not_ours()
 under_gnome()
 the_end_of_the_session_ends_it()
