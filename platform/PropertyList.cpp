@@ -8,7 +8,7 @@ namespace platform::PropertyList {
 
 namespace {
 
-constexpr qsizetype kLargestInput = 8 * 1024 * 1024;
+constexpr qsizetype kLargestInput = 8LL * 1024 * 1024;
 
 } // namespace
 

@@ -9,7 +9,7 @@ import random
 import struct
 import sys
 
-COUNT = 300
+COUNT = 150
 NO_XML = "\r\0\1\x1f\ufffe"
 LETTERS = "aé日😀<&>\"' \t\n\x7f\x85\u2028\ufeff" + NO_XML
 EDGES = [sign * 2**bits + step for bits in (0, 7, 8, 15, 16, 31, 32, 63) for sign in (1, -1) for step in (-1, 0, 1)]
