@@ -222,10 +222,10 @@ int print(const QString &text)
 /// the one that the toolkit would make for it is not ours.
 QString privateFolder()
 {
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (!runtime.isEmpty())
         return runtime;
-    const QString preferences = platform::userPreferencesFolder();
+    QString preferences = platform::userPreferencesFolder();
     platform::makePrivateFolder(preferences);
     return preferences;
 }

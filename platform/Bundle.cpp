@@ -18,9 +18,10 @@ constexpr QLatin1StringView kBundleAroundHelpers("../../../VornakClockSaver.save
 
 QString programPath()
 {
-    const QString running = QFileInfo(u"/proc/self/exe"_s).canonicalFilePath();
+    QString running = QFileInfo(u"/proc/self/exe"_s).canonicalFilePath();
     if (!running.isEmpty())
         return running;
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the kernel gives the address as a number.
     const auto *started = reinterpret_cast<const char *>(::getauxval(AT_EXECFN));
     return QFileInfo(QFile::decodeName(started)).canonicalFilePath();
 }
