@@ -17,8 +17,7 @@ constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
 /// How long the event loop and what it takes down may need. Waiting for a display server or a bus
 /// that does not answer they could need for ever.
-constexpr itimerspec kGrace = {.it_interval = {},
-                               .it_value = {.tv_sec = 0, .tv_nsec = 100'000'000}};
+constexpr itimerspec kGrace = {.it_interval = {}, .it_value = {.tv_sec = 0, .tv_nsec = 75'000'000}};
 
 /// A handler may do little more than write to a pipe and set a timer, and only file-level variables
 /// can tell it which.

@@ -8,7 +8,7 @@
 namespace host {
 
 /// While it lives, SIGTERM, SIGINT and SIGHUP end the event loop with status 0 at once, and the
-/// process a tenth of a second later if it waits for somebody who does not answer. One per process.
+/// process shortly after if it waits for somebody who does not answer. One per process.
 class TerminationSignals
 {
 public:

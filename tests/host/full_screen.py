@@ -52,7 +52,7 @@ def every_screen_has_its_dial():
     monitors(LEFT, RIGHT)
     program = start()
     wait_for("two dials", lambda: dial_at(320, 360) and dial_at(960, 360))
-    monitors(("L", "1280/320x720/180+0+0"))
+    monitors(("W", "1280/320x720/180+0+0"))
     wait_for("one dial after a screen went", lambda: dial_at(640, 360))
     monitors(LEFT, RIGHT)
     wait_for("two dials after a screen came", lambda: dial_at(320, 360) and dial_at(960, 360))
@@ -90,7 +90,7 @@ def only_a_person_ends_it():
 
 
 def ordinary_window():
-    monitors(("L", "1280/320x720/180+0+0"))
+    monitors(("W", "1280/320x720/180+0+0"))
     program = start("--window", "--size", "400x300")
     window = wait_for("an ordinary window", lambda: subprocess.run(
         ["xdotool", "search", "--onlyvisible", "--name", "Tamsel Clock"], capture_output=True,

@@ -178,7 +178,7 @@ def signals_end_it_whoever_does_not_answer():
         time.sleep(stopped)
         number = next(numbers)
         try:
-            status = stop(program, number, within=0.3)
+            status = stop(program, number)
         finally:
             server.send_signal(signal.SIGCONT)
         check(status in (0, 3, -number), f"signal {number} ends {command}, not {status}")
