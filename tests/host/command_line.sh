@@ -23,7 +23,6 @@ expect() {
 }
 
 expect 2 bogus --bogus
-expect 2 size --size
 expect 1 'no display'
 expect 1 'no display' --window
 expect 1 'no X display' --root

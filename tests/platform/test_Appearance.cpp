@@ -6,8 +6,6 @@
 #include "tests/support/TestBus.h"
 
 #include <QApplication>
-#include <QFontDatabase>
-#include <QFontInfo>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -36,7 +34,6 @@ private Q_SLOTS:
     void takesOnlyWhatMakesSense();
     void reducedMotionAsksInOrder_data();
     void reducedMotionAsksInOrder();
-    void fontHasTheAskedSize();
     void followsThePaletteWithoutAPortal();
     void followsThePortal_data();
     void followsThePortal();
@@ -132,17 +129,6 @@ void test_Appearance::reducedMotionAsksInOrder()
     QFETCH(DesktopSettings, settings);
     QFETCH(bool, reduced);
     QCOMPARE(settings.wantsReducedMotion(), reduced);
-}
-
-void test_Appearance::fontHasTheAskedSize()
-{
-    const QFont font = platform::systemFont(13.4, QFont::DemiBold);
-    QCOMPARE(font.pixelSize(), 13);
-    QCOMPARE(font.weight(), QFont::DemiBold);
-    QCOMPARE(platform::systemFont(0.0).pixelSize(), 1);
-    if (QFontDatabase::hasFamily("Inter")) {
-        QCOMPARE(QFontInfo(font).family(), "Inter");
-    }
 }
 
 void test_Appearance::followsThePaletteWithoutAPortal()
