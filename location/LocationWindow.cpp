@@ -31,6 +31,7 @@ constexpr int kButtonHeight = 30;
 constexpr int kWidth = 440;
 constexpr double kTitleSize = 20.0;
 constexpr double kTextSize = 13.0;
+constexpr std::chrono::milliseconds kNoWaiting(0);
 
 } // namespace
 
@@ -233,20 +234,22 @@ void LocationWindow::save()
 {
     if (!m_choice)
         return;
-    if (m_store.save(*m_choice))
-        tell(u"Saved. Clocks that are running follow at once."_s);
-    else
-        tell(u"The location could not be saved in your home folder."_s, true);
-    refreshButtons();
+    write([this, location = *m_choice] { return m_store.save(location, kNoWaiting); },
+          u"Saved. Clocks that are running follow at once."_s);
 }
 
 void LocationWindow::forget()
 {
-    if (m_store.forget())
-        tell(u"Forgotten. A clock that is running keeps its sun times until it ends."_s);
-    else
-        tell(u"The saved location could not be removed."_s, true);
-    refreshButtons();
+    write([this] { return m_store.forget(kNoWaiting); },
+          u"Forgotten. A clock that is running keeps its sun times until it ends."_s);
+}
+
+void LocationWindow::write(const platform::PatientWrite::Attempt &attempt, const QString &done)
+{
+    m_write.start(attempt, [this, done](const platform::StoreOutcome &outcome) {
+        tell(outcome ? done : outcome.text() + u'.', !outcome);
+        refreshButtons();
+    });
 }
 
 void LocationWindow::refreshButtons()

@@ -6,6 +6,7 @@
 #include "night/SolarLocation.h"
 #include "night/TamselSolarTimes.h"
 #include "platform/Desktop.h"
+#include "platform/PatientWrite.h"
 
 #include <QDialog>
 
@@ -61,6 +62,8 @@ private:
 
     void save();
     void forget();
+    /// Carries out \p attempt and tells \p done, or why it could not be done.
+    void write(const platform::PatientWrite::Attempt &attempt, const QString &done);
     void refreshButtons();
     void followStore();
     void tell(const QString &text, bool isFault = false);
@@ -69,6 +72,8 @@ private:
     platform::Desktop m_desktop;
     ZoneCities m_cities;
     SolarLocationStore m_store;
+    /// Saves or forgets.
+    platform::PatientWrite m_write;
     /// Computes the sun of the choice; loads and saves nothing.
     TamselSolarTimes m_sun;
     std::optional<SolarLocation> m_choice;

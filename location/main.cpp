@@ -86,13 +86,12 @@ int carryOut(const location::Request &request, int argc, char **argv)
     const platform::Desktop desktop = desktopWith(notifications);
     const SolarLocationStore store(desktop);
     if (const auto *set = std::get_if<location::SetLocation>(&request)) {
-        return store.save(set->location)
-                   ? kSuccess
-                   : complain(u"cannot write %1"_s.arg(TamselSolarLocationPath()), kFailure);
+        const auto saved = store.save(set->location);
+        return saved ? kSuccess : complain(saved.text(), kFailure);
     }
     if (std::holds_alternative<location::ForgetLocation>(request)) {
-        return store.forget() ? kSuccess
-                              : complain(u"cannot remove the saved location"_s, kFailure);
+        const auto forgotten = store.forget();
+        return forgotten ? kSuccess : complain(forgotten.text(), kFailure);
     }
     return show(desktop);
 }

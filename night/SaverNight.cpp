@@ -13,9 +13,8 @@ QVariantMap TamselClockSaverView::storedNightSettings()
 
 void TamselClockSaverView::storeNightSettings(const QVariantMap &record)
 {
-    const PreferenceStores &stores = m_stored.stores();
-    for (const auto *store : {&stores.suite, &stores.saverDefaults})
-        store->setValue(kNightSettingsKey, record);
+    m_writer.write({&PreferenceStores::suite, &PreferenceStores::saverDefaults}, kNightSettingsKey,
+                   record);
     postVariantChanged({});
 }
 

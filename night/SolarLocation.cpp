@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "night/SolarLocation.h"
 
+#include "platform/DamagedFile.h"
 #include "platform/Desktop.h"
 #include "platform/DistributedNotifications.h"
-#include "platform/FileLock.h"
 #include "platform/FileReplacement.h"
 #include "platform/PropertyList.h"
+#include "platform/SmallFile.h"
 #include "prefs/PreferenceStores.h"
 
 #include <QFile>
@@ -17,6 +18,10 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using platform::outcomeOf;
+using platform::PreferenceDomain;
+using platform::StoreFault;
+using platform::StoreOutcome;
 
 namespace {
 
@@ -52,6 +57,22 @@ std::optional<SolarLocation> locationFrom(const QVariantMap &dictionary)
     return location.isValid() ? std::optional(location) : std::nullopt;
 }
 
+/// Whether the file \p path may hold coordinates, sound or not: it names them, or is too large to
+/// tell.
+bool mayHoldLocation(const QString &path)
+{
+    if (!QFileInfo(path).isFile())
+        return false;
+    const auto bytes = platform::readSmallFile(path);
+    return !bytes || bytes->contains(copyKey().toLatin1()) || bytes->contains("latitude");
+}
+
+StoreOutcome remove(const QString &path)
+{
+    const bool isGone = ::unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
+    return isGone ? StoreOutcome() : outcomeOf(errno, path);
+}
+
 QVariantMap dictionaryFrom(const SolarLocation &location)
 {
     return {{u"latitude"_s, location.latitude}, {u"longitude"_s, location.longitude}};
@@ -81,39 +102,64 @@ SolarLocationStore::SolarLocationStore(const platform::Desktop &desktop)
 
 std::optional<SolarLocation> SolarLocationStore::load() const
 {
-    const QVariantMap values = m_file.contents();
-    return locationFrom(values.isEmpty() ? m_suite.value(copyKey()).toMap() : values);
+    return locationFrom(m_file.holdsDictionary() ? m_file.contents()
+                                                 : m_suite.value(copyKey()).toMap());
 }
 
-bool SolarLocationStore::save(const SolarLocation &location) const
+StoreOutcome SolarLocationStore::save(const SolarLocation &location,
+                                      std::chrono::milliseconds timeout) const
 {
-    if (m_file.path().isEmpty() || !writeFile(location))
-        return false;
-    m_suite.setValue(copyKey(), dictionaryFrom(location));
+    if (m_file.path().isEmpty())
+        return {StoreFault::Other, {}};
+    const PreferenceDomain::WriteLock file(m_file, timeout);
+    if (!file.outcome())
+        return file.outcome();
+    const PreferenceDomain::WriteLock suite(m_suite, timeout);
+    if (suite.outcome().fault == StoreFault::Locked)
+        return suite.outcome();
+    const QVariantMap dictionary = dictionaryFrom(location);
+    if (auto written = m_file.replaceFile(platform::PropertyList::toBinary(dictionary)); !written)
+        return written;
+    static_cast<void>(m_suite.setValue(copyKey(), dictionary));
     announce();
-    return true;
+    return {};
 }
 
-bool SolarLocationStore::writeFile(const SolarLocation &location) const
+StoreOutcome SolarLocationStore::forget(std::chrono::milliseconds timeout) const
 {
-    if (!platform::makePrivateFolder(QFileInfo(m_file.path()).absolutePath()))
-        return false;
-    const platform::FileLock lock = platform::FileLock::forReplacing(m_file.path());
-    if (!lock.isHeld())
-        return false;
-    platform::FileReplacement replacement(m_file.path());
-    return replacement.write(platform::PropertyList::toBinary(dictionaryFrom(location))) &&
-           replacement.commit();
-}
-
-bool SolarLocationStore::forget() const
-{
-    const bool fileRemoved =
-        ::unlink(QFile::encodeName(m_file.path()).constData()) == 0 || errno == ENOENT;
-    const bool copyRemoved =
-        !m_suite.value(copyKey()).isValid() || m_suite.setValue(copyKey(), QVariant());
+    const StoreOutcome file = forgetFile();
+    const StoreOutcome copy = forgetCopy(timeout);
     announce();
-    return fileRemoved && copyRemoved;
+    return file ? copy : file;
+}
+
+/// No lock is needed: a save that is under way fails, or is made after this.
+StoreOutcome SolarLocationStore::forgetFile() const
+{
+    if (m_file.path().isEmpty())
+        return {StoreFault::Other, {}};
+    const QString path = m_file.target().value_or(m_file.path());
+    const StoreOutcome leftover = remove(platform::FileReplacement::newPath(path));
+    const StoreOutcome file = remove(path);
+    return file ? leftover : file;
+}
+
+/// A suite that is damaged goes too where it may hold the location: writing puts it aside.
+StoreOutcome SolarLocationStore::forgetCopy(std::chrono::milliseconds timeout) const
+{
+    const QString path = m_suite.target().value_or(m_suite.path());
+    StoreOutcome outcome;
+    if (mayHoldLocation(path) || mayHoldLocation(platform::FileReplacement::newPath(path))) {
+        const PreferenceDomain::WriteLock lock(m_suite, timeout);
+        outcome = m_suite.setValue(copyKey(), QVariant());
+    }
+    const QStringList copies = platform::damagedCopies(path);
+    for (const QString &copy : copies) {
+        const StoreOutcome removed = mayHoldLocation(copy) ? remove(copy) : StoreOutcome();
+        if (outcome)
+            outcome = removed;
+    }
+    return outcome;
 }
 
 void SolarLocationStore::announce() const

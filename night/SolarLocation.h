@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <optional>
 
 namespace platform {
@@ -32,6 +33,9 @@ inline constexpr QLatin1StringView
 /// environment. Null when the database has no home for them.
 QString TamselSolarLocationPath();
 
+/// How long saving and forgetting wait for other programs unless told otherwise.
+inline constexpr std::chrono::milliseconds kLocationTimeout(1000);
+
 /// The saved location, which every clock and the companion program share: a property list with
 /// "latitude" and "longitude" in the location file, with a copy in the module's preferences that
 /// stands in for a missing or damaged file.
@@ -46,14 +50,19 @@ public:
     std::optional<SolarLocation> load() const;
 
     /// Replaces the file as a whole, readable for the user alone, then the copy, and tells every
-    /// clock. False when the file could not be written; everything then stands as it was.
-    bool save(const SolarLocation &location) const;
+    /// clock. Waits at most \p timeout for each of two locks. When it fails everything stands as it
+    /// was; that the copy cannot be written is no failure.
+    platform::StoreOutcome save(const SolarLocation &location,
+                                std::chrono::milliseconds timeout = kLocationTimeout) const;
 
-    /// Removes the file and the copy and tells every clock. False when one of them is still there.
-    bool forget() const;
+    /// Removes every trace of the location, also from what a killed save or a damaged file left
+    /// behind, and tells every clock. Waits at most \p timeout. Fails with the first trace that is
+    /// still there; the others are gone.
+    platform::StoreOutcome forget(std::chrono::milliseconds timeout = kLocationTimeout) const;
 
 private:
-    bool writeFile(const SolarLocation &location) const;
+    platform::StoreOutcome forgetFile() const;
+    platform::StoreOutcome forgetCopy(std::chrono::milliseconds timeout) const;
     void announce() const;
 
     platform::PreferenceDomain m_file;

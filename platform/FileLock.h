@@ -4,7 +4,6 @@
 #include <QString>
 
 #include <chrono>
-#include <memory>
 
 namespace platform {
 
@@ -16,23 +15,27 @@ public:
     /// Makes the file \p path if needed (not its folder) and locks it, waiting at most \p timeout
     /// for other holders.
     FileLock(const QString &path, std::chrono::milliseconds timeout);
+    ~FileLock();
+    Q_DISABLE_COPY_MOVE(FileLock)
 
-    /// Keeps everybody else from replacing the file \p path, whose folder must exist, as long as
-    /// they all ask for this; waits a second for them.
-    static FileLock forReplacing(const QString &path);
+    /// The lock file of all who replace the file \p path, beside it.
+    static QString pathBeside(const QString &path);
 
-    bool isHeld() const { return m_descriptor != nullptr; }
+    bool isHeld() const { return m_error == 0; }
     /// Whether it is not held because another process holds it, and not for want of a file.
-    bool isTaken() const { return m_isTaken; }
+    bool isTaken() const;
+    /// Why it is not held: EAGAIN when it is taken, ENOLCK when the file system has no locks, else
+    /// the errno of opening the file. 0 when it is held.
+    int error() const { return m_error; }
 
 private:
-    class Descriptor;
-    static bool waitFor(const std::shared_ptr<Descriptor> &descriptor,
-                        std::chrono::milliseconds timeout);
+    int lock();
+    /// Locks or unlocks one byte of the file for this descriptor; the file stays empty.
+    int set(off_t byte, short type) const;
 
-    /// Closing the file unlocks it.
-    std::shared_ptr<Descriptor> m_descriptor;
-    bool m_isTaken = false;
+    int m_descriptor;
+    bool m_hasTurn = false;
+    int m_error = 0;
 };
 
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -55,9 +56,7 @@ bool makePrivateFolder(const QString &path)
 }
 
 FileReplacement::FileReplacement(const QString &path)
-    : m_path(QFile::encodeName(path)),
-      m_newPath(QFile::encodeName(QFileInfo(path).absolutePath() + "/."_L1 +
-                                  QFileInfo(path).fileName() + ".new"_L1))
+    : m_path(QFile::encodeName(path)), m_newPath(QFile::encodeName(newPath(path)))
 {
     ::unlink(m_newPath.constData());
 }
@@ -68,22 +67,34 @@ FileReplacement::~FileReplacement()
         ::unlink(m_newPath.constData());
 }
 
+QString FileReplacement::newPath(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.absolutePath() + "/."_L1 + file.fileName() + ".new"_L1;
+}
+
 bool FileReplacement::write(const QByteArray &contents)
 {
     const int descriptor =
         ::open(m_newPath.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (descriptor < 0)
-        return false;
-    const bool flushed = writeAll(descriptor, contents) && ::fsync(descriptor) == 0;
-    m_complete = ::close(descriptor) == 0 && flushed;
+    const bool flushed =
+        descriptor >= 0 && writeAll(descriptor, contents) && ::fsync(descriptor) == 0;
+    m_error = flushed ? 0 : std::max(errno, 1);
+    if (descriptor >= 0 && ::close(descriptor) != 0 && flushed)
+        m_error = errno;
+    m_complete = m_error == 0;
     return m_complete;
 }
 
 bool FileReplacement::commit()
 {
-    m_committed = m_complete && ::rename(m_newPath.constData(), m_path.constData()) == 0;
-    if (!m_committed)
+    if (!m_complete)
         return false;
+    m_committed = ::rename(m_newPath.constData(), m_path.constData()) == 0;
+    if (!m_committed) {
+        m_error = errno;
+        return false;
+    }
     flushFolder(m_path.left(m_path.lastIndexOf('/') + 1));
     return true;
 }

@@ -23,16 +23,23 @@ public:
     ~FileReplacement();
     Q_DISABLE_COPY_MOVE(FileReplacement)
 
+    /// Where the new version of the file \p path stands until it is committed, or for good when its
+    /// writer was killed.
+    static QString newPath(const QString &path);
+
     /// Writes the new version, readable for the user alone, and flushes it to the disk.
     bool write(const QByteArray &contents);
     /// Puts the version that was written in place; on failure the old one stands.
     bool commit();
+    /// The errno of the step that failed; 0 when none did.
+    int error() const { return m_error; }
 
 private:
     QByteArray m_path;
     QByteArray m_newPath;
     bool m_complete = false;
     bool m_committed = false;
+    int m_error = 0;
 };
 
 } // namespace platform

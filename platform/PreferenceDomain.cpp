@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/PreferenceDomain.h"
 
+#include "platform/DamagedFile.h"
 #include "platform/FileLock.h"
 #include "platform/FileReplacement.h"
 #include "platform/PropertyList.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <ctime>
 #include <optional>
 #include <sys/stat.h>
@@ -28,7 +30,7 @@ namespace {
 /// without its times showing it until they are older than this.
 constexpr qint64 kFreshNanoseconds = 20'000'000;
 constexpr int kMaxLinks = 40;
-constexpr int kMaxDamagedFiles = 100;
+constexpr std::chrono::milliseconds kWriteTimeout(1000);
 
 std::optional<QVariantMap> dictionary(const QByteArray &bytes)
 {
@@ -77,61 +79,72 @@ bool isFresh(const Identity &identity)
     return std::abs(nanoseconds(now) - identity.changed) < kFreshNanoseconds;
 }
 
-/// The file that \p path leads to, which need not exist; none for a loop of links or for what is no
-/// ordinary file.
-std::optional<QString> writableTarget(const QString &path)
-{
-    QFileInfo file(path);
-    for (int i = 0; i < kMaxLinks; ++i) {
-        if (!file.isSymbolicLink())
-            return file.isFile() || !file.exists() ? std::optional(file.absoluteFilePath())
-                                                   : std::nullopt;
-        file.setFile(file.symLinkTarget());
-    }
-    return std::nullopt;
-}
-
 /// What a writer starts from.
 struct Stored
 {
-    QVariantMap values;
+    QVariantMap values = {};
     bool isDamaged = false;
 };
 
-/// What the file \p path holds now; none when something stands there that cannot be read, or not
-/// be written back, and so must not be replaced.
-std::optional<Stored> readForWriting(const QString &path)
+/// Reads what the file \p path holds now into \p stored. Fails when something stands there that
+/// cannot be read, or not be written back, and so must not be replaced.
+StoreOutcome readForWriting(const QString &path, Stored &stored)
 {
     struct stat status = {};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0)
-        return errno == ENOENT ? std::optional(Stored()) : std::nullopt;
+        return errno == ENOENT ? StoreOutcome() : outcomeOf(errno, path);
+    stored.isDamaged = true;
     if (S_ISREG(status.st_mode) && status.st_size > kSmallFileLimit)
-        return Stored{.values = {}, .isDamaged = true};
+        return {};
+    errno = EISDIR; // what it is, unless opening it fails
     const auto bytes = readSmallFile(path);
     if (!bytes)
-        return std::nullopt;
+        return outcomeOf(errno, path);
     const auto root = PropertyList::parse(*bytes);
     if (root && PropertyList::toXmlOrBinary(*root).isEmpty())
-        return std::nullopt;
-    const auto values = dictionary(*bytes);
-    return Stored{.values = values.value_or(QVariantMap()), .isDamaged = !values};
+        return {StoreFault::NotKeepable, path};
+    if (const auto values = dictionary(*bytes))
+        stored = {.values = *values};
+    return {};
 }
 
-/// Gives the file \p path a second name that no later write will touch.
-bool keepDamaged(const QString &path)
+StoreOutcome replace(const QString &path, const QByteArray &contents, bool isDamaged)
 {
-    for (int i = 1; i <= kMaxDamagedFiles; ++i) {
-        const QString number = i == 1 ? QString() : u'-' + QString::number(i);
-        const QString kept = path + ".damaged"_L1 + number;
-        if (::link(QFile::encodeName(path).constData(), QFile::encodeName(kept).constData()) == 0)
-            return true;
-        if (errno != EEXIST)
-            return false;
-    }
-    return false;
+    FileReplacement replacement(path);
+    if (!replacement.write(contents))
+        return outcomeOf(replacement.error(), path);
+    if (isDamaged && !putDamagedAside(path))
+        return outcomeOf(errno, path);
+    return replacement.commit() ? StoreOutcome() : outcomeOf(replacement.error(), path);
 }
 
 } // namespace
+
+struct PreferenceDomain::HeldLock
+{
+    HeldLock(const PreferenceDomain &domain, std::chrono::milliseconds timeout)
+    {
+        const auto found = domain.target();
+        if (!found) {
+            outcome = {StoreFault::NotAFile, domain.path()};
+            return;
+        }
+        target = *found;
+        errno = ENOTDIR;
+        if (!makePrivateFolder(QFileInfo(target).absolutePath())) {
+            outcome = outcomeOf(errno, target);
+            return;
+        }
+        const QString lockPath = FileLock::pathBeside(target);
+        lock.emplace(lockPath, timeout);
+        outcome = outcomeOf(lock->error(), lock->isTaken() ? target : lockPath);
+    }
+
+    /// The file that is replaced.
+    QString target;
+    std::optional<FileLock> lock;
+    StoreOutcome outcome;
+};
 
 /// The contents of one file as this process last saw them.
 class PreferenceDomain::SharedFile
@@ -153,6 +166,7 @@ public:
 
     QString path() const { return m_path; }
     const QVariantMap &values() const { return m_values; }
+    bool holdsDictionary() const { return m_holdsDictionary; }
     quint64 generation() const { return m_generation; }
 
     /// Looks whether the file is still the one that was read, and reads it if not.
@@ -170,13 +184,18 @@ public:
         take(bytes.value_or(QByteArray()));
     }
 
+    /// The lock under which this process writes now, if any.
+    std::weak_ptr<const HeldLock> heldLock;
+
 private:
     void take(const QByteArray &bytes)
     {
         if (bytes == m_bytes)
             return;
         m_bytes = bytes;
-        m_values = dictionary(bytes).value_or(QVariantMap());
+        const auto values = dictionary(bytes);
+        m_holdsDictionary = values.has_value();
+        m_values = values.value_or(QVariantMap());
         m_generation = nextGeneration();
     }
 
@@ -192,6 +211,7 @@ private:
     bool m_isSettled = false;
     QByteArray m_bytes;
     QVariantMap m_values;
+    bool m_holdsDictionary = false;
     quint64 m_generation = nextGeneration();
 };
 
@@ -202,6 +222,18 @@ PreferenceDomain::PreferenceDomain(const QString &path) : m_file(SharedFile::at(
 QString PreferenceDomain::path() const
 {
     return m_file->path();
+}
+
+std::optional<QString> PreferenceDomain::target() const
+{
+    QFileInfo file(path());
+    for (int i = 0; i < kMaxLinks; ++i) {
+        if (!file.isSymbolicLink())
+            return file.isFile() || !file.exists() ? std::optional(file.absoluteFilePath())
+                                                   : std::nullopt;
+        file.setFile(file.symLinkTarget());
+    }
+    return std::nullopt;
 }
 
 QVariant PreferenceDomain::value(const QString &key) const
@@ -222,27 +254,57 @@ quint64 PreferenceDomain::generation() const
     return m_file->generation();
 }
 
-bool PreferenceDomain::setValue(const QString &key, const QVariant &value) const
+bool PreferenceDomain::holdsDictionary() const
 {
-    const auto path = writableTarget(m_file->path());
-    if (!path || (value.isValid() && PropertyList::toXmlOrBinary(value).isEmpty()))
-        return false;
-    if (!makePrivateFolder(QFileInfo(*path).absolutePath()))
-        return false;
-    const FileLock lock = FileLock::forReplacing(*path);
-    auto stored = lock.isHeld() ? readForWriting(*path) : std::nullopt;
-    if (!stored)
-        return false;
+    m_file->refresh();
+    return m_file->holdsDictionary();
+}
+
+StoreOutcome PreferenceDomain::setValue(const QString &key, const QVariant &value) const
+{
+    const WriteLock lock(*this, kWriteTimeout);
+    if (!lock.outcome())
+        return lock.outcome();
+    Stored stored;
+    if (auto read = readForWriting(lock.target(), stored); !read)
+        return read;
     if (value.isValid())
-        stored->values.insert(key, value);
+        stored.values.insert(key, value);
     else
-        stored->values.remove(key);
-    const QByteArray bytes = PropertyList::toXmlOrBinary(stored->values);
-    if (bytes.size() > kSmallFileLimit || !dictionary(bytes))
-        return false;
-    FileReplacement replacement(*path);
-    return replacement.write(bytes) && (!stored->isDamaged || keepDamaged(*path)) &&
-           replacement.commit();
+        stored.values.remove(key);
+    const QByteArray bytes = PropertyList::toXmlOrBinary(stored.values);
+    if ((value.isValid() && PropertyList::toXmlOrBinary(value).isEmpty()) ||
+        bytes.size() > kSmallFileLimit || !dictionary(bytes))
+        return {StoreFault::NotKeepable, lock.target()};
+    return replace(lock.target(), bytes, stored.isDamaged);
+}
+
+StoreOutcome PreferenceDomain::replaceFile(const QByteArray &contents) const
+{
+    const WriteLock lock(*this, kWriteTimeout);
+    return lock.outcome() ? replace(lock.target(), contents, false) : lock.outcome();
+}
+
+PreferenceDomain::WriteLock::WriteLock(const PreferenceDomain &domain,
+                                       std::chrono::milliseconds timeout)
+    : m_held(domain.m_file->heldLock.lock())
+{
+    if (m_held)
+        return;
+    m_held = std::make_shared<const HeldLock>(domain, timeout);
+    domain.m_file->heldLock = m_held;
+}
+
+PreferenceDomain::WriteLock::~WriteLock() = default;
+
+const StoreOutcome &PreferenceDomain::WriteLock::outcome() const
+{
+    return m_held->outcome;
+}
+
+const QString &PreferenceDomain::WriteLock::target() const
+{
+    return m_held->target;
 }
 
 } // namespace platform

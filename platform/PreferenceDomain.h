@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/StoreOutcome.h"
+
 #include <QString>
 #include <QVariant>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 namespace platform {
 
@@ -22,6 +26,9 @@ public:
     explicit PreferenceDomain(const QString &path);
 
     QString path() const;
+    /// The file that the path leads to by symbolic links, which need not exist; none for a loop of
+    /// links or for what is no ordinary file.
+    std::optional<QString> target() const;
 
     /// The value under \p key; an invalid QVariant when the key, or a readable file, is missing.
     /// Costs one look at the file's status.
@@ -35,22 +42,49 @@ public:
     /// change. Never 0. A caller that remembers it need not read values again.
     quint64 generation() const;
 
+    /// Whether the file holds a dictionary, be it an empty one, for the same one look.
+    bool holdsDictionary() const;
+
+    class WriteLock;
+
     /// Changes one key (an invalid \p value removes it) and leaves all others as they are in the
     /// file at that moment, also against other writers. The file is replaced as a whole and flushed
-    /// to the disk before the call returns. False when it could not be written, when \p value is no
-    /// property list, or when another writer kept the domain locked for a second; the file then
-    /// stands as it was.
+    /// to the disk before the call returns; when it fails the file stands as it was. Waits for a
+    /// second at most while another process writes, unless this one has a WriteLock.
     ///
     /// The file is XML if that form can hold all its values, else binary. A file that holds what
     /// neither could give back is not written.
     ///
-    /// A damaged file is first kept beside as "<file>.damaged", or with a number after that when
-    /// there are such files already; what cannot be read at all is never replaced.
-    bool setValue(const QString &key, const QVariant &value) const;
+    /// A damaged file is put aside (see putDamagedAside); what cannot be read at all is never
+    /// replaced.
+    [[nodiscard]] StoreOutcome setValue(const QString &key, const QVariant &value) const;
+
+    /// Replaces the whole file by \p contents, as they are, in the same way.
+    [[nodiscard]] StoreOutcome replaceFile(const QByteArray &contents) const;
 
 private:
     class SharedFile;
+    struct HeldLock;
     std::shared_ptr<SharedFile> m_file;
+};
+
+/// Keeps other processes from writing a domain. As long as it lives, this process writes there
+/// without waiting: under this lock, or not at all when the lock was refused.
+class PreferenceDomain::WriteLock
+{
+public:
+    /// Makes the folder if needed and waits at most \p timeout for other writers.
+    WriteLock(const PreferenceDomain &domain, std::chrono::milliseconds timeout);
+    ~WriteLock();
+    Q_DISABLE_COPY_MOVE(WriteLock)
+
+    /// True when the lock is held.
+    const StoreOutcome &outcome() const;
+    /// The file that a write replaces.
+    const QString &target() const;
+
+private:
+    std::shared_ptr<const HeldLock> m_held;
 };
 
 } // namespace platform

@@ -9,14 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Writes \p value under \p key to each store in turn; a store that cannot be written is passed
-/// over.
-void write(std::initializer_list<const platform::PreferenceDomain *> stores, const QString &key,
-           const QVariant &value)
-{
-    for (const platform::PreferenceDomain *store : stores)
-        store->setValue(key, value);
-}
+/// Where the variant and the calendar's switch are stored.
+constexpr std::initializer_list<SettingsWriter::Store> kSwitchStores{
+    &PreferenceStores::suite, &PreferenceStores::standardDefaults, &PreferenceStores::saverDefaults,
+    &PreferenceStores::shortNameDefaults};
 
 QColor colorOr(const QColor &color, const QColor &fallback)
 {
@@ -35,9 +31,7 @@ void TamselClockSaverView::storeSelectedVariant(const QString &variant)
     QString stored = variant == "black"_L1 ? u"nero"_s : variant;
     if (!popupVariants().contains(stored))
         stored = u"orange"_s;
-    const PreferenceStores &s = m_stored.stores();
-    write({&s.suite, &s.standardDefaults, &s.saverDefaults, &s.shortNameDefaults},
-          kSelectedVariantKey, stored);
+    m_writer.write(kSwitchStores, kSelectedVariantKey, stored);
     postVariantChanged({{kSelectedVariantKey, stored}});
 }
 
@@ -48,9 +42,7 @@ bool TamselClockSaverView::storedCalendarEnabled()
 
 void TamselClockSaverView::storeCalendarEnabled(bool enabled)
 {
-    const PreferenceStores &s = m_stored.stores();
-    write({&s.suite, &s.standardDefaults, &s.saverDefaults, &s.shortNameDefaults},
-          kCalendarEnabledKey, enabled);
+    m_writer.write(kSwitchStores, kCalendarEnabledKey, enabled);
     m_settings.calendarEnabled = enabled;
     m_settings.lastStoredCalendarEnabled = enabled;
     postVariantChanged({{kCalendarEnabledKey, enabled}});
@@ -65,9 +57,9 @@ QColor TamselClockSaverView::colorForKey(const QString &key, const QColor &fallb
 
 void TamselClockSaverView::storeColor(const QColor &color, const QString &key)
 {
-    const PreferenceStores &s = m_stored.stores();
-    write({&s.suite, &s.saverDefaults, &s.shortNameDefaults, &s.standardDefaults}, key,
-          hexStringForColor(color));
+    m_writer.write({&PreferenceStores::suite, &PreferenceStores::saverDefaults,
+                    &PreferenceStores::shortNameDefaults, &PreferenceStores::standardDefaults},
+                   key, hexStringForColor(color));
 }
 
 void TamselClockSaverView::postVariantChanged(const QVariantMap &userInfo) const

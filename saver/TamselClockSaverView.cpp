@@ -21,7 +21,8 @@ constexpr double kFrameInterval = 1.0 / 30.0;
 TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,
                                            QWidget *parent)
     : ScreenSaverView(*desktop.clocks, isPreview, parent), m_desktop(desktop),
-      m_stored(PreferenceStores(desktop.preferencesFolder, QCoreApplication::applicationName()))
+      m_stored(PreferenceStores(desktop.preferencesFolder, QCoreApplication::applicationName())),
+      m_writer(m_stored.stores())
 {
     TamselRegisterCalendarFonts(m_desktop.bundle);
     setAnimationTimeInterval(kFrameInterval);

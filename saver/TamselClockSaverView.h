@@ -4,6 +4,7 @@
 #include "calendar/TamselCalendarLayout.h"
 #include "platform/Desktop.h"
 #include "platform/ScreenSaverView.h"
+#include "prefs/SettingsWriter.h"
 #include "prefs/StoredSettings.h"
 #include "saver/Artwork.h"
 #include "saver/ClockFrame.h"
@@ -213,7 +214,8 @@ public:
     void scheduleChanged();
     /// \p palette is "night" or "day".
     void swapColors(const QString &palette);
-    /// Stores the draft and dismisses the sheet; beeps when the schedule is not valid.
+    /// Stores the draft and dismisses the sheet; beeps when the schedule is not valid. What cannot
+    /// be stored is told on the sheet, which stays.
     virtual void saveConfiguration();
     void cancelConfiguration();
     void colorSwatchClicked(TamselSwatchButton *sender);
@@ -250,6 +252,9 @@ private:
     void reloadPalette(bool nightFlip);
     void postVariantChanged(const QVariantMap &userInfo) const;
 
+    /// Without waiting for other processes.
+    platform::StoreOutcome storeDraft();
+    void endSave(const platform::StoreOutcome &outcome);
     void forgetSheet();
     void moveSheet();
     void applySheetState(const SheetState &state);
@@ -257,6 +262,7 @@ private:
 
     platform::Desktop m_desktop;
     SettingsReader m_stored;
+    SettingsWriter m_writer;
     LoadedPalette m_palette;
     AppliedSettings m_settings;
     PaletteTransition m_transition;

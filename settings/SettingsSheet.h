@@ -3,6 +3,7 @@
 
 #include "controls/TamselColorPopover.h"
 #include "controls/TamselSettingsWindow.h"
+#include "platform/PatientWrite.h"
 #include "settings/SheetTransition.h"
 
 #include <QHash>
@@ -66,6 +67,8 @@ struct SettingsSheet
 
     TamselSettingsView *settingsActions = nullptr;
     PushButton *saveButton = nullptr;
+    /// Stores the draft after OK.
+    platform::PatientWrite saving;
 
     /// False until the first layout after the sheet was built or dismissed, which does not move.
     bool settingsLayoutInitialized = false;

@@ -2,6 +2,7 @@
 // The draft of the settings, which the sheet's controls hold: filling, checking, showing, saving.
 #include "saver/TamselClockSaverView.h"
 
+#include "controls/Alert.h"
 #include "controls/PushButton.h"
 #include "controls/TamselHexField.h"
 #include "controls/TamselModeControl.h"
@@ -153,6 +154,8 @@ bool TamselClockSaverView::validateSchedule()
         scheduleIsValid(s.nightSwitch->isChecked(), minutesForPicker(*s.nightFromPicker),
                         minutesForPicker(*s.nightToPicker));
     s.saveButton->setEnabled(valid);
+    if (!valid)
+        m_sheet->saving.cancel();
     s.nightToPicker->setToolTip(valid ? QString() : u"Choose a different end time."_s);
     s.nightToPicker->setRefused(!valid);
     s.nightToPicker->setAccessibleDescription(
@@ -186,11 +189,21 @@ void TamselClockSaverView::updateSettingsPreview()
 
 void TamselClockSaverView::saveConfiguration()
 {
+    if (m_sheet->saving.isWaiting())
+        return;
     endEditing();
     if (!validateSchedule()) {
         QApplication::beep();
         return;
     }
+    m_sheet->saving.start([this] { return storeDraft(); },
+                          [this](const platform::StoreOutcome &outcome) { endSave(outcome); });
+}
+
+platform::StoreOutcome TamselClockSaverView::storeDraft()
+{
+    if (auto begun = m_writer.begin(); !begun)
+        return begun;
     const SettingsSheet &s = *m_sheet;
     storeSelectedVariant(selectedVariantFromRadioButtons());
     storeCalendarEnabled(s.calendarCheckbox->isChecked());
@@ -202,6 +215,18 @@ void TamselClockSaverView::saveConfiguration()
         {kNightBaseKey, hexStringForColor(draftColorForKey(kNightBaseColorKey))},
         {kNightMarkKey, hexStringForColor(draftColorForKey(kNightMarkColorKey))},
     });
+    return m_writer.end();
+}
+
+void TamselClockSaverView::endSave(const platform::StoreOutcome &outcome)
+{
+    if (!outcome) {
+        auto *alert = new Alert(u"Could not save the options"_s, outcome.text() + u'.',
+                                m_sheet->configurationSheet);
+        alert->addButton(u"OK"_s);
+        alert->present();
+        return;
+    }
     m_palette.activeVariant = QString();
     loadSelectedVariant();
     dismissConfiguration();
@@ -223,6 +248,7 @@ void TamselClockSaverView::cancelConfiguration()
 void TamselClockSaverView::dismissConfiguration()
 {
     SettingsSheet &s = *m_sheet;
+    s.saving.cancel();
     s.previewMode->visibilityTimer().stop();
     s.settingsLayoutTimer.stop();
     s.settingsLayoutInitialized = false;

@@ -63,6 +63,10 @@ expect 0 '^$' 0 --forget
 [ -e "$file" ] && fail "the file is still there"
 expect 1 '^$' 1 --show
 QT_QPA_PLATFORM=xcb expect 1 '^$' 1 # there is no display
+unshare --mount --map-root-user sh -c 'mount --bind "$HOME" "$HOME" && mount -o remount,bind,ro "$HOME" &&
+    "$0" --set 60.17,24.94' "$program" 2>"$TMPDIR/err"
+[ $? = 1 ] && grep -qE 'location.plist.* cannot be changed: the disk is read-only$' "$TMPDIR/err" ||
+    fail "a read-only disk: $(cat "$TMPDIR/err")"
 rm -rf "$HOME/Library" && touch "$HOME/Library"
 expect 1 '^$' 1 --set 60.17,24.94
 exit $((failures > 0))

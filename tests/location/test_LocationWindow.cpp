@@ -239,7 +239,7 @@ void test_LocationWindow::tellsWhenSavingFails()
     QVERIFY(inTheWay.open(QFile::WriteOnly));
     const auto window = open();
     named<QPushButton>(*window, u"Save"_s)->click();
-    QVERIFY(says(*window, u"could not be saved"_s));
+    QVERIFY(says(*window, u"cannot be changed: something else stands in its place."_s));
     QVERIFY(named<QPushButton>(*window, u"Save"_s)->isEnabled());
 }
 

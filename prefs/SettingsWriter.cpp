@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "prefs/SettingsWriter.h"
+
+#include <utility>
+
+using platform::PreferenceDomain;
+using platform::StoreOutcome;
+
+SettingsWriter::SettingsWriter(PreferenceStores stores) : m_stores(std::move(stores))
+{
+}
+
+StoreOutcome SettingsWriter::begin()
+{
+    m_outcome = {};
+    for (const PreferenceDomain *store : {&m_stores.suite, &m_stores.saverDefaults,
+                                          &m_stores.shortNameDefaults, &m_stores.standardDefaults})
+        m_locks.push_back(
+            std::make_unique<PreferenceDomain::WriteLock>(*store, std::chrono::milliseconds(0)));
+    StoreOutcome suite = m_locks.front()->outcome();
+    if (!suite)
+        m_locks.clear();
+    return suite;
+}
+
+/// Without the suite a later store must not be changed either: it may be the one that is read.
+void SettingsWriter::write(std::initializer_list<Store> stores, const QString &key,
+                           const QVariant &value)
+{
+    for (const Store store : stores) {
+        const StoreOutcome outcome = (m_stores.*store).setValue(key, value);
+        if (outcome || store != &PreferenceStores::suite)
+            continue;
+        if (m_outcome)
+            m_outcome = outcome;
+        return;
+    }
+}
+
+StoreOutcome SettingsWriter::end()
+{
+    m_locks.clear();
+    return std::exchange(m_outcome, {});
+}
