@@ -6,7 +6,7 @@
 #include "controls/ViewAppearance.h"
 #include "platform/WindowPlacement.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QWindow>
@@ -21,11 +21,26 @@ constexpr int kGap = 4;
 
 constexpr Qt::WindowFlags kFlags = Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
 
-bool covers(const QWidget *view, const QPointF &globalPosition)
+/// Gives \p view an event that came to another one.
+void passOn(const QMouseEvent &event, QWidget *view)
 {
-    if (!view)
-        return false;
-    return QRectF({}, view->size()).contains(view->mapFromGlobal(globalPosition));
+    const QPointF position = event.globalPosition();
+    QMouseEvent again(event.type(), view->mapFromGlobal(position),
+                      view->window()->mapFromGlobal(position), position, event.button(),
+                      event.buttons(), event.modifiers(), event.pointingDevice());
+    again.setTimestamp(event.timestamp());
+    QCoreApplication::sendEvent(view, &again);
+}
+
+/// Moves the focus as a press on \p view by the user does.
+void focusByClick(QWidget *view)
+{
+    for (; view && !view->isWindow(); view = view->parentWidget()) {
+        if (view->isEnabled() && (view->focusPolicy() & Qt::ClickFocus) != 0) {
+            view->setFocus(Qt::MouseFocusReason);
+            return;
+        }
+    }
 }
 
 } // namespace
@@ -48,6 +63,8 @@ Popover::Popover(QWidget *content, QWidget *anchor)
 {
     setAppearanceOf(this, appearanceOf(anchor));
     setAttribute(Qt::WA_TranslucentBackground);
+    // It passes on outside presses itself; the toolkit does so on some platforms only.
+    setAttribute(Qt::WA_NoMouseReplay);
     setFixedSize(content->size());
     setMask(roundedShape(size(), kRadius));
     content->setParent(this);
@@ -100,6 +117,13 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
     case QEvent::WindowStateChange:
         close();
         break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        // No control took what was passed on, and a window cannot be moved during this grab.
+        if (watched != parentWidget())
+            break;
+        close();
+        return true;
     default:
         break;
     }
@@ -129,10 +153,63 @@ void Popover::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
+QWidget *Popover::controlAt(const QPointF &globalPosition) const
+{
+    QWidget *view = QApplication::widgetAt(globalPosition.toPoint());
+    if (!view || view == m_anchor || view->window() != parentWidget())
+        return nullptr;
+    return view;
+}
+
+// It stays open, and with it the grab, until the button is released: an X server may lose the
+// release of a short click when the grab ends before it.
+
 void Popover::mousePressEvent(QMouseEvent *event)
 {
-    setAttribute(Qt::WA_NoMouseReplay, covers(m_anchor, event->globalPosition()));
-    QWidget::mousePressEvent(event);
+    if (rect().contains(event->position().toPoint())) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    if (!m_pressed) {
+        m_pressed = controlAt(event->globalPosition());
+        focusByClick(m_pressed);
+    }
+    const QPointer<Popover> self(this);
+    if (m_pressed)
+        passOn(*event, m_pressed);
+    if (self && !m_pressed)
+        close();
+}
+
+void Popover::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_pressed)
+        passOn(*event, m_pressed);
+}
+
+// What may open another popup is passed on last: no popup should close below another one.
+
+void Popover::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<QWidget> pressed = m_pressed;
+    if (!pressed)
+        return;
+    if (event->buttons() == Qt::NoButton)
+        close();
+    if (pressed)
+        passOn(*event, pressed);
+}
+
+void Popover::contextMenuEvent(QContextMenuEvent *event)
+{
+    const QPointer<QWidget> pressed = m_pressed;
+    if (pressed)
+        close();
+    if (!pressed)
+        return;
+    QContextMenuEvent again(event->reason(), pressed->mapFromGlobal(event->globalPos()),
+                            event->globalPos(), event->modifiers());
+    QCoreApplication::sendEvent(pressed, &again);
 }
 
 void Popover::paintEvent(QPaintEvent *)

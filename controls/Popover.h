@@ -10,8 +10,8 @@ QPoint popoverPosition(const QRect &anchor, const QSize &size, const QRect &boun
 
 /// A small floating panel that belongs to an anchor. It closes on a press outside it, on Escape,
 /// when the anchor goes or hides, when the anchor's window moves, hides or loses the focus, and
-/// when its owner closes it; however it ends, it reports it once. A press on the anchor only closes
-/// it, so the anchor works as a switch.
+/// when its owner closes it; however it ends, it reports it once. A press outside also reaches the
+/// control of the window it is made on, except the anchor, which so works as a switch.
 class Popover : public QWidget
 {
     Q_OBJECT
@@ -36,13 +36,19 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void closeUnlessFocused();
     void focusFirst(Qt::FocusReason reason);
+    QWidget *controlAt(const QPointF &globalPosition) const;
     void reportOnce();
 
     QPointer<QWidget> m_anchor;
+    /// What was pressed outside and gets the pointer's events until its release.
+    QPointer<QWidget> m_pressed;
     bool m_reported = false;
 };

@@ -36,6 +36,17 @@ struct Sheet
         editor->showFor(swatch, Qt::red);
     }
 
+    /// Presses a control of the sheet that does \p what on that.
+    void press(const std::function<void(QWidget *)> &what)
+    {
+        auto *control = new PushButton(u"Outside"_s, window.get());
+        control->show();
+        QObject::connect(control, &QAbstractButton::pressed, control, [=] { what(control); });
+        QWidget *popover = editor->popover();
+        const QPoint middle = control->mapToGlobal(control->rect().center());
+        QTest::mousePress(popover, Qt::LeftButton, {}, popover->mapFromGlobal(middle));
+    }
+
     PushButton *panelButton() const { return editor->view()->findChild<PushButton *>(); }
 };
 
@@ -65,6 +76,10 @@ private Q_SLOTS:
             const QPoint anchor = it.swatch->mapToGlobal(QPoint(14, 14));
             QTest::mousePress(popover, Qt::LeftButton, {}, popover->mapFromGlobal(anchor));
         });
+        add("press that destroys its control",
+            [](Sheet &it) { it.press([](QWidget *control) { delete control; }); });
+        add("press that destroys the window",
+            [](Sheet &it) { it.press([&](QWidget *) { it.window.reset(); }); });
         add("escape", [](Sheet &it) { QTest::keyClick(it.editor->hueSlider(), Qt::Key_Escape); });
         add(
             "panel button", [](Sheet &it) { QTest::mouseClick(it.panelButton(), Qt::LeftButton); },

@@ -10,7 +10,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from optionswindow import FOLDER, MODULE, SUITE, Bells, OptionsWindow, stored  # noqa: E402
-from screenreader import has, start_desktop, xdotool  # noqa: E402
+from screenreader import click, has, start_desktop, xdotool  # noqa: E402
 from xhost import ORANGE, Host, check, is_alive, stop, wait_for  # noqa: E402
 
 PROGRAM = sys.argv[1]
@@ -77,6 +77,17 @@ wait_for("the end of the full panel", lambda: not options.shown("text", "HTML:")
 options.click("push button", "Swap colors")
 options.expect_preview((0xC0, 0xFF, 0xEE))
 options.expect_text("Day primary hex color", "#8A1C2B")
+
+# A click beside the editor closes it, and does what it does without.
+swatches = [options.control("push button", name) for name in ("Day primary color", "Day background color")]
+calendar = options.control("check box", "Monthly calendar")
+for on in (True, False) * 5:
+    for swatch in swatches:
+        click(swatch)
+        wait_for("its editor alone", lambda: [s for s in swatches if has(s, "EXPANDED")] == [swatch])
+    click(calendar)
+    wait_for("a switched toggle", lambda: has(calendar, "CHECKED") == on)
+    check(not any(has(swatch, "EXPANDED") for swatch in swatches), "no editor is open")
 
 # A night whose ends are the same is refused; the end is marked.
 options.click("check box", "Night Mode")
