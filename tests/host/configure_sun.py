@@ -71,6 +71,13 @@ wait_for("today's times in the rows", lambda: helps() == sun())
 os.kill(process, signal.SIGTERM)
 wait_for("the end of the companion", lambda: not companions())
 
+# Its item in the menu starts it, too.
+options.click("push button", "Sunset")
+xdotool("key", "Up", "key", "Return")
+wait_for("the companion's window again", companions)
+os.kill(int(xdotool("getwindowpid", companions()[-1])), signal.SIGTERM)
+wait_for("its end", lambda: not companions())
+
 # A place that comes while a menu is open leaves the menu alone.
 options.click("push button", "Sunset")
 save_place("-33.87,151.21")

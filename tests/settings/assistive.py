@@ -9,7 +9,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from optionswindow import FOLDER, SUITE, OptionsWindow  # noqa: E402
-from screenreader import act, actions, click, has, role_of, start_desktop, until, xdotool  # noqa: E402
+from screenreader import act, actions, click, has, middle, role_of, start_desktop, until, xdotool  # noqa: E402
 from xhost import check, wait_for  # noqa: E402
 
 EQUAL_TIMES = "Night mode start and end times must be different."
@@ -75,7 +75,7 @@ FOLDER.mkdir(parents=True)
 SUITE.write_bytes(plistlib.dumps({
     "SelectedVariant": "custom", "CustomBaseColor": "#112233", "CustomMarkColor": "#AABBCC",
     "NightSettings": {"enabled": True, "from": 1200, "to": 1200, "fromMode": "custom", "toMode": "custom"}}))
-window = OptionsWindow(sys.argv[1], start_desktop("900x900"))
+window = OptionsWindow(sys.argv[1], start_desktop("900x720"))
 ok = window.control("push button", "OK")
 check(not has(ok, "ENABLED"), "OK is disabled with a night without length")
 in_reading_order = [described(n) for n in window.application.nodes()
@@ -103,6 +103,13 @@ for close in (lambda: click(window.control("label", "Theme")), lambda: click(swa
     check(not has(swatch, "EXPANDED"), "the click that closed it does not open it again")
 check(swatch.get_description() == window.text("Day primary hex color") == "#BBCCAA", "colour and text go together")
 
+# The wheel scrolls the sheet past a time that is not being edited.
+start = window.control("spin button", "Night mode starts at")
+before = middle(start)
+xdotool("mousemove", *before, "click", 4)
+wait_for("a scrolled sheet", lambda: middle(start)[1] > before[1])
+check(start.get_text(0, -1) == "20:00", f"the wheel changes no time: {start.get_text(0, -1)}")
+
 # What it does to a control counts as the user's own doing.
 end = window.control("spin button", "Night mode ends at")
 check((end.get_current_value(), end.get_maximum_value()) == (1200, 1439), "a time has a value in minutes")
@@ -114,5 +121,6 @@ for role, name, present in (("check box", "Night Mode", "push button Night mode 
     check(act(window.control(role, name), "Toggle"), f"{name} is switched")
     gone_role, gone_name = " ".join(present.split()[:2]), " ".join(present.split()[2:])
     wait_for(f"the end of {present}", lambda: not window.shown(gone_role, gone_name))
+check(not window.application.find("radio button", "Preview night colors"), "nothing hidden in the preview is told")
 check(act(ok, "Press"), "OK is pressed")
 window.expect_end(0)
