@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Starts in sessions that are not well: buses that hang, a display server that resets, lists of platforms."""
+"""Starts in sessions that are not well: buses that hang, a display server that resets, lists of platforms; and second
+starts, whose window is there already."""
 import os
 import re
 import signal
@@ -8,7 +9,7 @@ import subprocess
 import sys
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
-from screenreader import start_desktop  # noqa: E402
+from screenreader import start_desktop, xdotool  # noqa: E402
 from xhost import ORANGE, Host, check, launch_x_server, wait_for  # noqa: E402
 
 PROGRAM, COMPANION = sys.argv[1:]
@@ -62,6 +63,21 @@ for name, bus in (("session", daemon("--session")), ("assistive", daemon("--addr
 
 for platforms in ("wayland;xcb", "wayland-egl:option;xcb:option", "nonsense;xcb"):
     expect_start(platforms, [PROGRAM, "--window"], {"QT_QPA_PLATFORM": platforms}, shows_window)
+
+# A second start brings back a window that was minimised.
+manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
+wait_for("the window manager", lambda: subprocess.run(["xdotool", "get_num_desktops"], capture_output=True,
+                                                      check=False).returncode == 0)
+for command in ([PROGRAM, "--configure"], [COMPANION]):
+    first = subprocess.Popen(command, env=environment)
+    xdotool("windowminimize", wait_for(f"{command}", lambda: shows_window(first)).split()[-1].decode())
+    wait_for("a minimised window", lambda: not shows_window(first))
+    subprocess.run(command, env=environment, check=True, timeout=20)
+    wait_for(f"the window of {command} again", lambda: shows_window(first))
+    first.kill()
+    first.wait()
+manager.kill()
+manager.wait()
 
 # Nobody else uses this server: it begins afresh whenever a client leaves it alone.
 launch_x_server("-screen", "0", "64x64x24", resets=True)
