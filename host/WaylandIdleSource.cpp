@@ -2,6 +2,8 @@
 #include "host/WaylandIdleSource.h"
 
 #include <cstring>
+#include <memory>
+#include <type_traits>
 
 #include "ext-idle-notify-v1-client-protocol.h"
 #include <wayland-client.h>
@@ -12,36 +14,35 @@ namespace {
 
 constexpr double kMilliseconds = 1000.0;
 
-/// Binds the global \p name as \p Object if it is of that \p interface and the first of its kind.
-template <typename Object>
-void bindFirst(Object *&object, wl_registry *registry, quint32 name, const char *kind,
+/// An object of the connection, which does not end with it, and the request that destroys it.
+template <typename Object, auto destroy>
+using Owned = std::unique_ptr<Object, decltype([](Object *object) { destroy(object); })>;
+
+/// Binds the global \p name as \p object if it is of that \p interface and the first of its kind.
+void bindFirst(auto &object, wl_registry *registry, quint32 name, const char *kind,
                const wl_interface &interface)
 {
-    if (object == nullptr && std::strcmp(kind, interface.name) == 0)
-        object = static_cast<Object *>(wl_registry_bind(registry, name, &interface, 1));
+    using Object = typename std::remove_reference_t<decltype(object)>::element_type;
+    if (!object && std::strcmp(kind, interface.name) == 0)
+        object.reset(static_cast<Object *>(wl_registry_bind(registry, name, &interface, 1)));
 }
 
 } // namespace
 
-/// The objects of the connection; they go with it.
 struct WaylandIdleSource::Protocol
 {
     WaylandIdleSource &source;
     quint32 idleMilliseconds;
-    wl_display *display = wl_display_connect(nullptr);
-    wl_registry *registry = nullptr;
-    wl_seat *seat = nullptr;
-    ext_idle_notifier_v1 *notifier = nullptr;
+    Owned<wl_display, wl_display_disconnect> display{wl_display_connect(nullptr)};
+    Owned<wl_registry, wl_registry_destroy> registry;
+    Owned<wl_callback, wl_callback_destroy> allAnnounced;
+    Owned<wl_seat, wl_seat_destroy> seat;
+    Owned<ext_idle_notifier_v1, ext_idle_notifier_v1_destroy> notifier;
+    Owned<ext_idle_notification_v1, ext_idle_notification_v1_destroy> notification;
 
     Protocol(WaylandIdleSource &owner, double idleSeconds)
         : source(owner), idleMilliseconds(quint32(idleSeconds * kMilliseconds))
     {
-    }
-    Q_DISABLE_COPY_MOVE(Protocol)
-    ~Protocol()
-    {
-        if (display != nullptr)
-            wl_display_disconnect(display);
     }
 
     void begin();
@@ -62,10 +63,11 @@ void WaylandIdleSource::Protocol::begin()
     static constexpr wl_callback_listener kAllAnnounced = {
         .done = [](void *data, wl_callback *, quint32) { static_cast<Protocol *>(data)->watch(); },
     };
-    registry = wl_display_get_registry(display);
-    wl_registry_add_listener(registry, &kGlobals, this);
-    wl_callback_add_listener(wl_display_sync(display), &kAllAnnounced, this);
-    wl_display_flush(display);
+    registry.reset(wl_display_get_registry(display.get()));
+    wl_registry_add_listener(registry.get(), &kGlobals, this);
+    allAnnounced.reset(wl_display_sync(display.get()));
+    wl_callback_add_listener(allAnnounced.get(), &kAllAnnounced, this);
+    wl_display_flush(display.get());
 }
 
 void WaylandIdleSource::Protocol::watch()
@@ -80,14 +82,14 @@ void WaylandIdleSource::Protocol::watch()
                 Q_EMIT static_cast<Protocol *>(data)->source.becameActive();
             },
     };
-    if (seat == nullptr || notifier == nullptr) {
+    if (!seat || !notifier) {
         Q_EMIT source.unavailable();
         return;
     }
-    auto *notification =
-        ext_idle_notifier_v1_get_idle_notification(notifier, idleMilliseconds, seat);
-    ext_idle_notification_v1_add_listener(notification, &kNotification, this);
-    wl_display_flush(display);
+    notification.reset(
+        ext_idle_notifier_v1_get_idle_notification(notifier.get(), idleMilliseconds, seat.get()));
+    ext_idle_notification_v1_add_listener(notification.get(), &kNotification, this);
+    wl_display_flush(display.get());
     Q_EMIT source.available();
 }
 
@@ -100,11 +102,11 @@ WaylandIdleSource::~WaylandIdleSource() = default;
 
 void WaylandIdleSource::start()
 {
-    if (m_protocol->display == nullptr) {
+    if (!m_protocol->display) {
         Q_EMIT unavailable();
         return;
     }
-    m_notifier = std::make_unique<QSocketNotifier>(wl_display_get_fd(m_protocol->display),
+    m_notifier = std::make_unique<QSocketNotifier>(wl_display_get_fd(m_protocol->display.get()),
                                                    QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &WaylandIdleSource::dispatch);
     m_protocol->begin();
@@ -113,7 +115,7 @@ void WaylandIdleSource::start()
 /// There is something to read, so this does not wait.
 void WaylandIdleSource::dispatch()
 {
-    if (wl_display_dispatch(m_protocol->display) >= 0)
+    if (wl_display_dispatch(m_protocol->display.get()) >= 0)
         return;
     m_notifier->setEnabled(false);
     Q_EMIT unavailable();

@@ -211,6 +211,7 @@ void test_Appearance::forcedSchemeWins()
     }
     look.setForcedScheme({});
     QCOMPARE(changed.size(), 3);
+    delete &look;
 }
 
 QTEST_MAIN(test_Appearance)
