@@ -35,10 +35,11 @@ QList<QByteArray> logicalLines(const QByteArray &file)
     return lines;
 }
 
-/// The place of the resource \p key in \p lines, -1 when there is none. The last one counts.
-qsizetype indexOfResource(const QList<QByteArray> &lines, const char *key)
+/// The place of the resource \p key among the first \p count of \p lines, -1 when there is none.
+/// The last one counts.
+qsizetype indexOfResource(const QList<QByteArray> &lines, const char *key, qsizetype count)
 {
-    for (qsizetype i = lines.size() - 1; i >= 0; --i) {
+    for (qsizetype i = count - 1; i >= 0; --i) {
         const qsizetype colon = lines.at(i).indexOf(':');
         if (colon > 0 && lines.at(i).left(colon).trimmed().toLower() == key)
             return i;
@@ -159,7 +160,7 @@ std::optional<Span> clockProgram(const QByteArray &entry)
 /// Lowers the number in the resource "selected" by the entries before it that are \p gone.
 void followRemoval(QList<QByteArray> &lines, const QList<bool> &gone)
 {
-    const qsizetype at = indexOfResource(lines, "selected");
+    const qsizetype at = indexOfResource(lines, "selected", lines.size());
     if (at < 0)
         return;
     QByteArray &line = lines[at];
@@ -174,13 +175,39 @@ void followRemoval(QList<QByteArray> &lines, const QList<bool> &gone)
         line.replace(begin, digits.size(), QByteArray::number(selected - lower));
 }
 
+/// Takes the clock out of the list \p at that place of \p lines. True when the list was made for
+/// the clock, see withClockListed(), and has gone as a whole.
+bool removeClock(QList<QByteArray> &lines, qsizetype at)
+{
+    ProgramList list(lines.at(at));
+    QList<bool> gone;
+    for (const QByteArray &entry : std::as_const(list.entries))
+        gone.append(clockProgram(entry).has_value());
+    if (!gone.contains(true))
+        return false;
+    const bool wasMadeForClock = !list.head.endsWith(kContinued);
+    while (!list.entries.isEmpty() && gone.at(list.entries.size() - 1))
+        list.removeLast();
+    QList<QByteArray> kept;
+    for (qsizetype i = 0; i < list.entries.size(); ++i) {
+        if (!gone.at(i))
+            kept.append(list.entries.at(i));
+    }
+    list.entries = kept;
+    const bool goes = wasMadeForClock && kept.isEmpty();
+    lines[at] = goes ? QByteArray() : list.joined();
+    if (!goes)
+        followRemoval(lines, gone);
+    return goes;
+}
+
 } // namespace
 
 QByteArray withClockListed(const QByteArray &file, const QByteArray &program)
 {
     const QByteArray entry = "\"Tamsel Clock\"\t" + program + " --root";
     QList<QByteArray> lines = logicalLines(file);
-    const qsizetype at = indexOfResource(lines, "programs");
+    const qsizetype at = indexOfResource(lines, "programs", lines.size());
     // Before all others, a new resource meets no line that is still open. An empty list of the
     // user's is continued on a line of the clock's own, which tells the two apart later.
     if (at < 0)
@@ -202,26 +229,11 @@ QByteArray withClockListed(const QByteArray &file, const QByteArray &program)
 QByteArray withClockUnlisted(const QByteArray &file)
 {
     QList<QByteArray> lines = logicalLines(file);
-    const qsizetype at = indexOfResource(lines, "programs");
-    if (at < 0)
-        return file;
-    ProgramList list(lines.at(at));
-    QList<bool> gone;
-    for (const QByteArray &entry : std::as_const(list.entries))
-        gone.append(clockProgram(entry).has_value());
-    if (!gone.contains(true))
-        return file;
-    const bool wasMadeForClock = !list.head.endsWith(kContinued); // see withClockListed()
-    while (!list.entries.isEmpty() && gone.at(list.entries.size() - 1))
-        list.removeLast();
-    QList<QByteArray> kept;
-    for (qsizetype i = 0; i < list.entries.size(); ++i) {
-        if (!gone.at(i))
-            kept.append(list.entries.at(i));
-    }
-    list.entries = kept;
-    lines[at] = wasMadeForClock && kept.isEmpty() ? QByteArray() : list.joined();
-    followRemoval(lines, gone);
+    // Without a list that goes as a whole, the one before it counts.
+    qsizetype at = lines.size();
+    do
+        at = indexOfResource(lines, "programs", at);
+    while (at >= 0 && removeClock(lines, at));
     return lines.join();
 }
 

@@ -47,16 +47,6 @@ std::optional<double> number(const QVariant &value)
     }
 }
 
-std::optional<SolarLocation> locationFrom(const QVariantMap &dictionary)
-{
-    const auto latitude = number(dictionary.value(u"latitude"_s));
-    const auto longitude = number(dictionary.value(u"longitude"_s));
-    if (!latitude || !longitude)
-        return std::nullopt;
-    const SolarLocation location{*latitude, *longitude};
-    return location.isValid() ? std::optional(location) : std::nullopt;
-}
-
 /// Whether the file \p path may hold coordinates, sound or not: it names them, or is too large to
 /// tell.
 bool mayHoldLocation(const QString &path)
@@ -83,6 +73,16 @@ QVariantMap dictionaryFrom(const SolarLocation &location)
 bool SolarLocation::isValid() const
 {
     return std::abs(latitude) <= kLargestLatitude && std::abs(longitude) <= kLargestLongitude;
+}
+
+std::optional<SolarLocation> locationFrom(const QVariantMap &dictionary)
+{
+    const auto latitude = number(dictionary.value(u"latitude"_s));
+    const auto longitude = number(dictionary.value(u"longitude"_s));
+    if (!latitude || !longitude)
+        return std::nullopt;
+    const SolarLocation location{*latitude, *longitude};
+    return location.isValid() ? std::optional(location) : std::nullopt;
 }
 
 QString TamselSolarLocationPath()

@@ -25,6 +25,9 @@ struct SolarLocation
     bool isValid() const;
 };
 
+/// The place that the dictionary of a location file names; none when it is no place on earth.
+std::optional<SolarLocation> locationFrom(const QVariantMap &dictionary);
+
 /// Posted by whoever saved or forgot the location.
 inline constexpr QLatin1StringView
     kSolarLocationChanged("org.tamsel.TamselClockSaver.solarLocationChanged");

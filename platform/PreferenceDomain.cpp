@@ -24,6 +24,14 @@ using namespace Qt::StringLiterals;
 
 namespace platform {
 
+std::optional<QVariantMap> domainFrom(const QByteArray &bytes)
+{
+    const auto root = PropertyList::parse(bytes);
+    if (!root || root->typeId() != QMetaType::QVariantMap)
+        return std::nullopt;
+    return root->toMap();
+}
+
 namespace {
 
 /// File times advance with the kernel's tick, at most 10 ms long: a file may change once more
@@ -31,14 +39,6 @@ namespace {
 constexpr qint64 kFreshNanoseconds = 20'000'000;
 constexpr int kMaxLinks = 40;
 constexpr std::chrono::milliseconds kWriteTimeout(1000);
-
-std::optional<QVariantMap> dictionary(const QByteArray &bytes)
-{
-    const auto root = PropertyList::parse(bytes);
-    if (!root || root->typeId() != QMetaType::QVariantMap)
-        return std::nullopt;
-    return root->toMap();
-}
 
 qint64 nanoseconds(const timespec &time)
 {
@@ -103,7 +103,7 @@ StoreOutcome readForWriting(const QString &path, Stored &stored)
     const auto root = PropertyList::parse(*bytes);
     if (root && PropertyList::toXmlOrBinary(*root).isEmpty())
         return {StoreFault::NotKeepable, path};
-    if (const auto values = dictionary(*bytes))
+    if (const auto values = domainFrom(*bytes))
         stored = {.values = *values};
     return {};
 }
@@ -193,7 +193,7 @@ private:
         if (bytes == m_bytes)
             return;
         m_bytes = bytes;
-        const auto values = dictionary(bytes);
+        const auto values = domainFrom(bytes);
         m_holdsDictionary = values.has_value();
         m_values = values.value_or(QVariantMap());
         m_generation = nextGeneration();
@@ -274,7 +274,7 @@ StoreOutcome PreferenceDomain::setValue(const QString &key, const QVariant &valu
         stored.values.remove(key);
     const QByteArray bytes = PropertyList::toXmlOrBinary(stored.values);
     if ((value.isValid() && PropertyList::toXmlOrBinary(value).isEmpty()) ||
-        bytes.size() > kSmallFileLimit || !dictionary(bytes))
+        bytes.size() > kSmallFileLimit || !domainFrom(bytes))
         return {StoreFault::NotKeepable, lock.target()};
     return replace(lock.target(), bytes, stored.isDamaged);
 }

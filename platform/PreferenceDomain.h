@@ -12,6 +12,9 @@
 
 namespace platform {
 
+/// The values of a domain from the \p bytes of its file; none when they are damaged.
+std::optional<QVariantMap> domainFrom(const QByteArray &bytes);
+
 /// One store of string-keyed, typed values: a property list in a file that several processes share.
 /// A domain object is a cheap handle made for each read or write; parsed contents are shared within
 /// the process and read again only when the file changed. For the main thread only.
