@@ -36,7 +36,8 @@ ScrollerKnob scrollerKnob(double track, double page, double content, double valu
 }
 
 OverlayScroller::OverlayScroller(const platform::Clocks &clocks, QScrollArea *area)
-    : QWidget(area), m_area(area), m_fade(clocks, kFadeDuration, [this](double alpha, bool atEnd) {
+    : QWidget(area), m_area(area), m_linger(this),
+      m_fade(clocks, kFadeDuration, [this](double alpha, bool atEnd) {
           setAlphaValue(this, alpha);
           setVisible(!atEnd);
       })

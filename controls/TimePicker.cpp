@@ -15,6 +15,9 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -28,25 +31,22 @@ constexpr double kSpaceBelow = 5.0;
 /// Late enough to have two digits everywhere, and the longer half of a day.
 constexpr QTime kWidestTime = QTime::fromMSecsSinceStartOfDay((22 * 60 + 58) * 60 * 1000);
 constexpr int kHalfDay = 12; // hours
+constexpr int kLastHour = 23;
+constexpr int kLastMinute = 59;
 
-bool isLetter(QChar c)
+/// The hour of the day that a clock with halves calls \p hour, where 12 is the same as 0.
+int hourOf(int hour, bool evening)
 {
-    return c.isLetter() || c.isMark() || c.isSurrogate();
+    return hour % kHalfDay + (evening ? kHalfDay : 0);
 }
 
 /// The letters of \p text alone, so that "a. m." is the same as "AM".
 QString lettersOf(const QString &text)
 {
     QString letters;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(letters), isLetter);
+    std::copy_if(text.begin(), text.end(), std::back_inserter(letters),
+                 [](QChar c) { return c.isLetter() || c.isMark() || c.isSurrogate(); });
     return letters.toCaseFolded();
-}
-
-/// Whether \p letters begin the name of the half of the day that has the local name \p local and
-/// the Latin one \p latin.
-bool begins(const QString &letters, const QString &local, QLatin1StringView latin)
-{
-    return lettersOf(local).startsWith(letters) || latin.startsWith(letters);
 }
 
 /// What a key types; empty for shortcuts and keys without a sign.
@@ -54,8 +54,9 @@ QString typedText(const QKeyEvent &event)
 {
     const bool isCommand =
         (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    return isCommand || event.text().isEmpty() || !event.text().front().isPrint() ? QString()
-                                                                                  : event.text();
+    const bool isSign =
+        !event.text().isEmpty() && QChar::isPrint(event.text().toUcs4().constFirst());
+    return isSign && !isCommand ? event.text() : QString();
 }
 
 } // namespace
@@ -94,64 +95,117 @@ QSize TimePicker::sizeHint() const
 bool TimePicker::eventFilter(QObject *watched, QEvent *event)
 {
     const bool handled = QTimeEdit::eventFilter(watched, event);
-    // With the caret inside a number the editor refuses every digit.
     if (event->type() == QEvent::MouseButtonRelease)
         QMetaObject::invokeMethod(this, &TimePicker::selectCurrentSection, Qt::QueuedConnection);
     return handled;
 }
 
+void TimePicker::focusInEvent(QFocusEvent *event)
+{
+    forgetTyped();
+    QTimeEdit::focusInEvent(event);
+}
+
 void TimePicker::keyPressEvent(QKeyEvent *event)
 {
     const QString text = typedText(*event);
+    if (!text.isEmpty()) {
+        for (const char32_t sign : text.toUcs4())
+            typeSign(sign);
+        return;
+    }
+    forgetTyped();
     if (event->matches(QKeySequence::SelectAll) || event->matches(QKeySequence::MoveToStartOfLine))
-        setSelectedSection(sectionAt(startsWithHalf() ? 1 : 0));
+        setSelectedSection(HourSection);
     else if (event->matches(QKeySequence::MoveToEndOfLine))
         setSelectedSection(sectionAt(sectionCount() - 1));
-    else if (!text.isEmpty() && displayedSections().testFlag(AmPmSection) && takesSign(text))
-        return;
     else
         QTimeEdit::keyPressEvent(event);
-    m_typedHalf.clear();
 }
 
-bool TimePicker::startsWithHalf() const
+bool TimePicker::hasHalves() const
 {
-    return sectionAt(0) == AmPmSection;
+    return displayedSections().testFlag(AmPmSection);
 }
 
-bool TimePicker::takesSign(const QString &sign)
+// The toolkit refuses digits beyond 16 bits, does not read every time that it writes, and takes
+// 130 for half past ten.
+
+void TimePicker::typeSign(char32_t sign)
 {
-    if (isLetter(sign.front())) {
-        typeHalf(sign.toCaseFolded());
-        return true;
+    const int digit = QChar::digitValue(sign);
+    const QString text = QString::fromUcs4(&sign, 1);
+    if (digit >= 0) {
+        typeDigit(digit);
+    } else if (hasHalves() && !lettersOf(text).isEmpty()) {
+        typeHalf(text.toCaseFolded());
+    } else if (m_typedNumber) {
+        m_typedNumber.reset();
+        setSelectedSection(MinuteSection);
     }
-    if (currentSection() != AmPmSection)
-        return sign.front().isSpace() && lineEdit()->hasSelectedText();
-    if (startsWithHalf())
-        setSelectedSection(sectionAt(1));
-    return !sign.front().isDigit();
+}
+
+void TimePicker::typeDigit(int digit)
+{
+    if (currentSection() == AmPmSection) {
+        if (sectionAt(0) != AmPmSection)
+            return;
+        setSelectedSection(HourSection);
+    }
+    const Section section = currentSection();
+    const int last = section == MinuteSection ? kLastMinute : hasHalves() ? kHalfDay : kLastHour;
+    const int number = 10 * m_typedNumber.value_or(0) + digit;
+    if (number > last) { // an hour of one digit is followed by the minute
+        m_typedNumber.reset();
+        setSelectedSection(MinuteSection);
+        typeDigit(digit);
+        return;
+    }
+    const bool isComplete = m_typedNumber || 10 * number > last;
+    m_typedNumber = isComplete ? std::nullopt : std::optional(number);
+    setNumber(section, number);
+    lineEdit()->home(false); // the toolkit knows another section by a caret that moves
+    setSelectedSection(isComplete ? MinuteSection : section);
+}
+
+void TimePicker::setNumber(Section section, int number)
+{
+    const QTime now = time();
+    if (section == MinuteSection)
+        setTime({now.hour(), number});
+    else
+        setTime({hasHalves() ? hourOf(number, now.hour() >= kHalfDay) : number, now.minute()});
 }
 
 void TimePicker::typeHalf(const QString &letter)
 {
+    m_typedNumber.reset();
     for (const QString &letters : {m_typedHalf + letter, letter}) {
-        const bool isMorning = begins(letters, locale().amText(), QLatin1StringView("am"));
-        const bool isEvening = begins(letters, locale().pmText(), QLatin1StringView("pm"));
-        if (!isMorning && !isEvening)
-            continue;
-        m_typedHalf = letters;
-        if (isMorning != isEvening)
-            setHalf(isEvening);
-        return;
+        for (const auto &[am, pm] :
+             {std::pair(locale().amText(), locale().pmText()), std::pair(u"AM"_s, u"PM"_s)}) {
+            const bool isMorning = lettersOf(am).startsWith(letters);
+            const bool isEvening = lettersOf(pm).startsWith(letters);
+            if (!isMorning && !isEvening)
+                continue;
+            m_typedHalf = letters;
+            if (isMorning != isEvening)
+                setHalf(isEvening);
+            return;
+        }
     }
     m_typedHalf.clear();
 }
 
 void TimePicker::setHalf(bool evening)
 {
-    interpretText();
-    setTime({time().hour() % kHalfDay + (evening ? kHalfDay : 0), time().minute()});
+    setTime({hourOf(time().hour(), evening), time().minute()});
     setSelectedSection(AmPmSection);
+}
+
+void TimePicker::forgetTyped()
+{
+    m_typedHalf.clear();
+    m_typedNumber.reset();
 }
 
 void TimePicker::wheelEvent(QWheelEvent *event)
@@ -165,6 +219,7 @@ void TimePicker::wheelEvent(QWheelEvent *event)
 
 void TimePicker::selectCurrentSection()
 {
+    forgetTyped();
     setSelectedSection(currentSection());
 }
 

@@ -3,9 +3,12 @@
 
 #include <QTimeEdit>
 
+#include <optional>
+
 /// An hour and a minute, typed or stepped one at a time, without frame, buttons or background of
 /// its own. It follows the user's way to write a time. Where that has halves of the day, letters
-/// choose one, by its local or its Latin name, whichever number is being typed.
+/// choose one, by its local or its Latin name, whichever number is being typed. Digits of every
+/// script are taken.
 class TimePicker : public QTimeEdit
 {
     Q_OBJECT
@@ -21,6 +24,7 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
@@ -29,14 +33,18 @@ private:
     /// Lets the next digits replace the hour or minute that the caret stands in.
     void selectCurrentSection();
     void takeColors();
-    /// Whether the half of the day is written before the numbers.
-    bool startsWithHalf() const;
-    /// Takes what is no part of a number; whether nothing is left for the toolkit to do.
-    bool takesSign(const QString &sign);
+    /// Whether the time is written with halves of the day.
+    bool hasHalves() const;
+    void typeSign(char32_t sign);
+    void typeDigit(int digit);
     void typeHalf(const QString &letter);
+    void setNumber(Section section, int number);
     void setHalf(bool evening);
+    void forgetTyped();
 
     /// The letters of a half's name that were typed so far.
     QString m_typedHalf;
+    /// What was typed of a number that may get another digit.
+    std::optional<int> m_typedNumber;
     bool m_isRefused = false;
 };
