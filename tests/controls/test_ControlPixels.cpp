@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Geometry and colours of every control, measured from its pixels at scale 1 and 2.
+// What the controls tell by their pixels.
 #include "controls/Symbol.h"
 #include "controls/TamselGradientSlider.h"
 #include "controls/TamselHSBColor.h"
@@ -8,12 +8,10 @@
 #include "controls/TamselInputFill.h"
 #include "controls/TamselModeControl.h"
 #include "controls/TamselRainbowImage.h"
-#include "controls/TamselSeparator.h"
-#include "controls/TamselSettingsView.h"
 #include "controls/TamselSwatchButton.h"
+#include "controls/TamselSymbolButton.h"
 #include "controls/TamselTimeInput.h"
 #include "controls/TamselTimeMenu.h"
-#include "controls/TamselToggle.h"
 #include "controls/TimePicker.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -26,213 +24,7 @@ using platform::Appearance;
 
 namespace {
 
-const QColor kClear(0, 0, 0, 0);
 const QColor kOrange(0xE8, 0x5D, 0x25);
-
-struct Probe
-{
-    double x;
-    double y;
-    QColor expected;
-    /// Only at this scale; 0 is any.
-    int scale = 0;
-};
-
-/// What one control in one state must look like.
-struct Look
-{
-    const char *name;
-    QSize size;
-    std::function<QWidget *(QWidget *parent)> make;
-    std::function<QList<Probe>(const Appearance &)> probes;
-};
-
-template <typename Control>
-std::function<QWidget *(QWidget *)> made(std::function<void(Control &)> adjust = {})
-{
-    return [adjust](QWidget *parent) {
-        auto *control = new Control(parent);
-        if (adjust)
-            adjust(*control);
-        return control;
-    };
-}
-
-QColor inputFill(const Appearance &look)
-{
-    return look.isDark() ? TamselHex(0x303030) : TamselHex(0xE8E8E8);
-}
-
-Look swatch(const char *name, const QColor &shown, bool ring,
-            std::function<void(TamselSwatchButton &)> adjust)
-{
-    const auto probes = [=](const Appearance &look) {
-        const QColor white = Qt::white;
-        const QColor rim = composed(shown, withAlpha(look.isDark() ? white : Qt::black, 0.2));
-        const QColor around = !ring ? kClear : (look.isDark() ? white : look.controlAccentColor());
-        return QList<Probe>{{14, 14, shown},    {4.1, 14, rim},       {23.9, 14, rim},
-                            {4.75, 14, rim, 1}, {4.75, 14, shown, 2}, {3.5, 14, kClear},
-                            {2.1, 14, kClear},  {0.1, 0.1, kClear},   {1.2, 14, around},
-                            {26.8, 14, around}, {14, 1.2, around},    {0.2, 14, kClear, 2}};
-    };
-    return {name, {28, 28}, made<TamselSwatchButton>(adjust), probes};
-}
-
-Look toggle(const char *name, bool on)
-{
-    const auto probes = [=](const Appearance &look) {
-        const QColor off = withAlpha(look.labelColor(), 0.16);
-        const QColor track = on ? look.controlAccentColor() : off;
-        const double left = on ? 22 : 2;
-        return QList<Probe>{{left + 6, 8, Qt::white},    {left + 0.6, 8, Qt::white},
-                            {left + 11.4, 8, Qt::white}, {left - 1, 8, track},
-                            {left + 12.6, 8, track},     {18, 0.2, track},
-                            {18, 15.8, track},           {0.2, 0.2, kClear}};
-    };
-    return {name, {36, 16}, made<TamselToggle>([=](auto &it) { it.setChecked(on); }), probes};
-}
-
-Look slider(const char *name, int component, double value)
-{
-    const auto adjust = [=](TamselGradientSlider &it) {
-        it.setComponent(component);
-        it.setSelectedSaturation(1.0);
-        it.setSelectedBrightness(1.0);
-        it.setDoubleValue(value);
-    };
-    const auto probes = [=](const Appearance &) {
-        TamselGradientSlider colors;
-        adjust(colors);
-        const double centre = value * 252 + 14;
-        const double away = value < 0.5 ? 200.5 : 60.5;
-        return QList<Probe>{{centre, 14, colors.colorAtValue(value)},
-                            {centre - 12, 14, Qt::white},
-                            {centre + 12, 14, Qt::white},
-                            {centre, 2, Qt::white},
-                            {away, 14, colors.colorAtValue((away - 1) / 278)},
-                            {away, 1, kClear, 2},
-                            {0.3, 14, kClear, 2},
-                            {1.2, 3, kClear}};
-    };
-    return {name, {280, 28}, made<TamselGradientSlider>(adjust), probes};
-}
-
-enum class Touch { None, Hovered, Pressed };
-
-Look timeMenu(const char *name, const QString &title, Touch touch)
-{
-    const double width = title.isEmpty() ? 20 : 90;
-    const double height = title.isEmpty() ? 20 : 24;
-    const auto adjust = [=](TamselTimeMenu &menu) {
-        menu.setFont(platform::systemFont(13));
-        menu.setText(title);
-        menu.setDown(touch == Touch::Pressed);
-        if (touch == Touch::Hovered) {
-            QEnterEvent enters({1, 1}, {1, 1}, {1, 1});
-            QCoreApplication::sendEvent(&menu, &enters);
-        }
-    };
-    const auto probes = [=](const Appearance &look) {
-        const QColor fill = inputFill(look);
-        const QColor outside = touch != Touch::None && !title.isEmpty() ? fill : kClear;
-        QList<Probe> points{{width - 10, height / 2 - 9.5, fill},
-                            {width - 19.5, height / 2, fill},
-                            {width - 19, height / 2 - 9, outside},
-                            {width - 0.3, 0.3, kClear}};
-        if (!title.isEmpty())
-            points << Probe{2, 12, outside} << Probe{width - 26, 12, outside}
-                   << Probe{width / 2, 0.5, outside};
-        return points;
-    };
-    return {name, QSizeF(width, height).toSize(), made<TamselTimeMenu>(adjust), probes};
-}
-
-QList<Look> swatches()
-{
-    struct State
-    {
-        const char *name;
-        bool checked;
-        bool pickerCounts;
-        bool pickerOpen;
-        bool ring;
-    };
-    QList<Look> looks{swatch("swatch without a colour", Qt::black, false, nullptr)};
-    for (const State &state :
-         {State{"swatch", false, false, false, false},
-          State{"swatch switched on", true, false, false, true},
-          State{"swatch on, but its picker counts", true, true, false, false},
-          State{"swatch with its picker open", false, true, true, true},
-          State{"swatch whose picker does not count", false, false, true, false}})
-        looks += swatch(state.name, kOrange, state.ring, [state](TamselSwatchButton &it) {
-            it.setSwatchColor(kOrange);
-            it.setCheckable(state.checked);
-            it.setChecked(state.checked);
-            it.setUsesPickerSelection(state.pickerCounts);
-            it.setPickerActive(state.pickerOpen);
-        });
-    return looks;
-}
-
-/// A plain ground with corners of \p radius.
-Look ground(const char *name, const QSize &size, double radius,
-            const std::function<QWidget *(QWidget *)> &make,
-            const std::function<QColor(const Appearance &)> &color)
-{
-    const auto probes = [=](const Appearance &look) {
-        const QColor fill = color(look);
-        const double w = size.width();
-        const double h = size.height();
-        const QColor corner = radius > 0 ? kClear : fill;
-        return QList<Probe>{{w / 2, 0.2, fill},
-                            {w / 2, h - 0.2, fill},
-                            {0.2, h / 2, fill},
-                            {w - 0.2, h / 2, fill},
-                            {0.3, 0.3, corner},
-                            {w - 0.3, h - 0.3, corner},
-                            {0.42 * radius, 0.42 * radius, fill}};
-    };
-    return {name, size, make, probes};
-}
-
-QList<Look> grounds()
-{
-    const auto group = [](TamselSettingsView &it) {
-        it.setGroup(true);
-        it.setGroupRadius(12);
-        it.setGroupContrast(0.2);
-    };
-    const QSize field(85, 24);
-    return {ground("hex field", field, 6, made<TamselHexField>(), inputFill),
-            ground("time input", field, 6, made<TamselTimeInput>(), inputFill),
-            ground("symbol button", field, 6,
-                   made<TamselSymbolButton>([](auto &it) { it.setRadius(6); }), inputFill),
-            ground("mode control", {50, 24}, 6,
-                   made<TamselModeControl>([](auto &it) { it.setInk(kOrange); }),
-                   [](const Appearance &) { return withAlpha(kOrange, 0.1); }),
-            ground("separator", {100, 1}, 0, made<TamselSeparator>(),
-                   [](const Appearance &look) { return withAlpha(look.labelColor(), 0.05); }),
-            ground("group", {100, 40}, 12, made<TamselSettingsView>(group),
-                   [](const Appearance &look) { return withAlpha(look.labelColor(), 0.2); })};
-}
-
-const QList<Look> &allLooks()
-{
-    static const QList<Look> all =
-        swatches() + grounds() +
-        QList<Look>{toggle("toggle off", false),
-                    toggle("toggle on", true),
-                    slider("hue at the left end", 0, 0.0),
-                    slider("saturation in the middle", 1, 0.5),
-                    slider("brightness at the right end", 2, 1.0),
-                    timeMenu("time menu, bare", {}, Touch::None),
-                    timeMenu("time menu, bare, hovered", {}, Touch::Hovered),
-                    timeMenu("time menu, bare, pressed", {}, Touch::Pressed),
-                    timeMenu("time menu", u"Sunset"_s, Touch::None),
-                    timeMenu("time menu, hovered", u"Sunset"_s, Touch::Hovered),
-                    timeMenu("time menu, pressed", u"Sunset"_s, Touch::Pressed)};
-    return all;
-}
 
 /// The sum of all alpha: how much ink there is.
 double inkIn(const QImage &image)
@@ -268,38 +60,74 @@ class TestControlPixels : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void looks_data()
+    void theRingTellsWhatIsSelected_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("scale");
-        QTest::addColumn<bool>("dark");
-        for (int index = 0; index < allLooks().size(); ++index)
-            for (const int scale : {1, 2})
-                for (const bool dark : {false, true})
-                    QTest::addRow("%s, %s, scale %d", allLooks()[index].name,
-                                  dark ? "dark" : "light", scale)
-                        << index << scale << dark;
+        QTest::addColumn<bool>("checked");
+        QTest::addColumn<bool>("pickerCounts");
+        QTest::addColumn<bool>("pickerOpen");
+        QTest::addColumn<bool>("ring");
+        QTest::newRow("off") << false << false << false << false;
+        QTest::newRow("on") << true << false << false << true;
+        QTest::newRow("on, but its picker counts") << true << true << false << false;
+        QTest::newRow("picker open") << false << true << true << true;
+        QTest::newRow("a picker that does not count") << false << false << true << false;
     }
 
-    void looks()
+    void theRingTellsWhatIsSelected()
     {
-        QFETCH(int, index);
-        QFETCH(int, scale);
-        QFETCH(bool, dark);
-        const Appearance appearance(dark ? Appearance::Scheme::Dark : Appearance::Scheme::Light);
-        QWidget parent;
-        setAppearanceOf(&parent, appearance);
-        const Look &look = allLooks()[index];
-        QWidget *control = look.make(&parent);
-        control->resize(look.size);
-        const QImage image = picture(control, scale);
-        for (const Probe &probe : look.probes(appearance)) {
-            if (probe.scale != 0 && probe.scale != scale)
-                continue;
-            const QColor found = pixelAt(image, probe.x, probe.y);
-            const QString text = u"at %1, %2: %3 instead of %4"_s.arg(probe.x).arg(probe.y).arg(
-                found.name(QColor::HexArgb), probe.expected.name(QColor::HexArgb));
-            QVERIFY2(alike(found, probe.expected, 18), qPrintable(text));
+        QFETCH(bool, checked);
+        QFETCH(bool, pickerCounts);
+        QFETCH(bool, pickerOpen);
+        QFETCH(bool, ring);
+        for (const auto scheme : {Appearance::Scheme::Light, Appearance::Scheme::Dark}) {
+            const Appearance look(scheme);
+            TamselSwatchButton swatch;
+            setAppearanceOf(&swatch, look);
+            swatch.resize(28, 28);
+            swatch.setSwatchColor(kOrange);
+            swatch.setCheckable(checked);
+            swatch.setChecked(checked);
+            swatch.setUsesPickerSelection(pickerCounts);
+            swatch.setPickerActive(pickerOpen);
+            const QImage image = picture(&swatch, 2);
+            QVERIFY(alike(pixelAt(image, 14, 14), kOrange));
+            QCOMPARE(pixelAt(image, 2.6, 14).alpha(), 0); // the gap between both
+            for (const QPointF at : {QPointF(1.2, 14), QPointF(26.8, 14), QPointF(14, 1.2)})
+                QCOMPARE(pixelAt(image, at.x(), at.y()).alpha() > 200, ring);
+        }
+    }
+
+    void theKnobStandsOnTheColourItChooses()
+    {
+        for (const double value : {0.0, 0.5, 1.0}) {
+            TamselGradientSlider slider;
+            slider.resize(280, 28);
+            slider.setSelectedSaturation(1.0);
+            slider.setSelectedBrightness(1.0);
+            slider.setDoubleValue(value);
+            const QImage image = picture(&slider, 2);
+            const double centre = 14 + 252 * value;
+            const double away = value < 0.5 ? 200.5 : 60.5;
+            QVERIFY(alike(pixelAt(image, centre, 14), slider.colorAtValue(value), 18));
+            QVERIFY(alike(pixelAt(image, centre - 12, 14), Qt::white));
+            QVERIFY(alike(pixelAt(image, away, 14), slider.colorAtValue((away - 1) / 278), 18));
+        }
+    }
+
+    void aTitledMenuFillsUnderThePointer()
+    {
+        QWidget window;
+        window.resize(200, 60);
+        TamselTimeMenu menu(&window);
+        menu.setText(u"Sunset"_s);
+        menu.setHoverInk(Qt::red);
+        menu.setGeometry(20, 20, 90, 24);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        for (const bool inside : {false, true, false}) {
+            QTest::mouseMove(window.windowHandle(), inside ? QPoint(30, 30) : QPoint(150, 10));
+            QCOMPARE(pixelAt(picture(&menu, 1), 2, 12).alpha() > 0, inside);
+            QCOMPARE(menu.displayInk() == QColor(Qt::red), inside);
         }
     }
 

@@ -6,7 +6,6 @@
 #include "controls/TamselSwatchButton.h"
 
 #include <QPointer>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -19,7 +18,6 @@ struct Sheet
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
     QPointer<TamselSwatchButton> swatch = new TamselSwatchButton(window.get());
     std::unique_ptr<TamselColorPopover> editor = std::make_unique<TamselColorPopover>();
-    QList<QColor> colors;
     int dismissed = 0;
     int panels = 0;
 
@@ -30,7 +28,6 @@ struct Sheet
         swatch->setAccessibleName(u"Day primary color"_s);
         window->show();
         window->activateWindow();
-        editor->colorChanged = [this](const QColor &color) { colors.append(color); };
         editor->dismissed = [this] { ++dismissed; };
         editor->openPanel = [this] { ++panels; };
         editor->showFor(swatch, Qt::red);
@@ -88,10 +85,6 @@ private Q_SLOTS:
             "panel button by key",
             [](Sheet &it) { QTest::keyClick(it.panelButton(), Qt::Key_Space); }, true);
         add("owner", [](Sheet &it) { it.editor->popover()->close(); });
-        add("owner, twice", [](Sheet &it) {
-            it.editor->popover()->close();
-            it.editor->popover()->close();
-        });
         add("window moved", [](Sheet &it) { it.window->move(10, 10); });
         add("window hidden", [](Sheet &it) { it.window->hide(); });
         add("window closed", [](Sheet &it) { it.window->close(); });
@@ -182,17 +175,6 @@ private Q_SLOTS:
         QVERIFY(!popover);
     }
 
-    void callbacksMayBeUnset()
-    {
-        Sheet sheet;
-        sheet.editor->colorChanged = nullptr;
-        sheet.editor->dismissed = nullptr;
-        sheet.editor->openPanel = nullptr;
-        sheet.editor->hueSlider()->edit(0.5);
-        QTest::mouseClick(sheet.panelButton(), Qt::LeftButton);
-        QVERIFY(!sheet.editor->popover()->isVisible());
-    }
-
     void opensOnAColor_data()
     {
         QTest::addColumn<QColor>("color");
@@ -218,38 +200,6 @@ private Q_SLOTS:
                                   editor.brightnessSlider()->doubleValue()};
         for (int i = 0; i < 3; ++i)
             QVERIFY2(qAbs(found[i] - expected[i]) < 1e-4, qPrintable(QString::number(found[i])));
-    }
-
-    void colorsComeBackAsTheyWent()
-    {
-        Sheet sheet;
-        sheet.editor->hueSlider()->edit(0.37);
-        sheet.editor->saturationSlider()->edit(0.61);
-        sheet.editor->brightnessSlider()->edit(0.83);
-        QCOMPARE(sheet.colors.size(), 3);
-        QCOMPARE(sheet.colors.last().spec(), QColor::Rgb);
-        QCOMPARE(sheet.colors.last().alpha(), 255);
-        TamselColorPopover again;
-        again.setColor(sheet.colors.last());
-        QVERIFY(qAbs(again.hueSlider()->doubleValue() - 0.37) < 1e-3);
-        QVERIFY(qAbs(again.saturationSlider()->doubleValue() - 0.61) < 1e-3);
-        QVERIFY(qAbs(again.brightnessSlider()->doubleValue() - 0.83) < 1e-3);
-        QCOMPARE(sheet.editor->brightnessSlider()->colorAtValue(0.83), sheet.colors.last());
-    }
-
-    void tabGoesRound()
-    {
-        Sheet sheet;
-        QTRY_VERIFY(sheet.editor->hueSlider()->hasFocus());
-        QWidget *popover = sheet.editor->popover();
-        QList<QWidget *> order;
-        for (int i = 0; i < 4; ++i) {
-            QTest::keyClick(popover->window()->focusWidget(), Qt::Key_Tab);
-            order.append(popover->focusWidget());
-        }
-        QCOMPARE(order, (QList<QWidget *>{sheet.editor->saturationSlider(),
-                                          sheet.editor->brightnessSlider(), sheet.panelButton(),
-                                          sheet.editor->hueSlider()}));
     }
 
     void staysOnTheScreen_data()
