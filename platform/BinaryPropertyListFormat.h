@@ -28,6 +28,10 @@ enum Kind : quint8 {
     kDictionary = 0xD,
 };
 
+/// What a whole tree may cost: bytes of text and data, and this much for every object.
+inline constexpr quint64 kBudget = 8ULL * 1024 * 1024;
+inline constexpr quint64 kObjectCost = 32;
+
 inline constexpr quint64 kFalse = 0x8;
 inline constexpr quint64 kTrue = 0x9;
 

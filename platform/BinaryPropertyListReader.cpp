@@ -17,9 +17,6 @@ using PropertyList::ForeignObject;
 using PropertyList::kMaxDepth;
 
 constexpr quint64 kTrailerSize = 32;
-/// What the whole tree may cost: bytes of text and data, and this much for every object.
-constexpr quint64 kBudget = 8ULL * 1024 * 1024;
-constexpr quint64 kObjectCost = 32;
 
 class Reader
 {

@@ -156,7 +156,7 @@ QByteArray binaryPropertyList(const QVariant &value)
         offsets.push_back(bytes.size());
         bytes += object;
     }
-    if (offsets.empty())
+    if (offsets.empty() || quint64(bytes.size()) + offsets.size() * kObjectCost > kBudget)
         return {};
     const auto table = quint64(bytes.size());
     const int offsetSize = 1 << widthExponent(table);

@@ -22,7 +22,8 @@ std::optional<QVariant> parse(const QByteArray &bytes)
 
 QByteArray toXml(const QVariant &value)
 {
-    return xmlPropertyList(value);
+    const QByteArray text = xmlPropertyList(value);
+    return text.size() <= kLargestInput ? text : QByteArray();
 }
 
 QByteArray toBinary(const QVariant &value)

@@ -32,7 +32,8 @@ std::optional<QVariant> parse(const QByteArray &bytes);
 
 /// Writes \p value as an XML or binary property list that parse() reads as the same value. Besides
 /// what parse() returns, the narrower numbers are taken. Empty when \p value holds, at any depth,
-/// what the form cannot; the binary form can hold everything but a ForeignObject without bytes.
+/// what the form cannot, or is larger than what parse() reads; the binary form can hold everything
+/// but a ForeignObject without bytes.
 QByteArray toXml(const QVariant &value);
 QByteArray toBinary(const QVariant &value);
 
