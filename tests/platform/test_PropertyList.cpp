@@ -276,7 +276,9 @@ void TestPropertyList::writesAllOrNothing()
     QVariant tooDeep;
     for (int i = 0; i < 65; ++i)
         tooDeep = QVariantList{tooDeep};
-    for (const QVariant &value : QVariantList{QVariant(), QTime(1, 2), QDateTime(), tooDeep})
+    const QVariantList tooLarge(1'000'000, true);
+    for (const QVariant &value :
+         QVariantList{QVariant(), QTime(1, 2), QDateTime(), tooDeep, QVariant(tooLarge)})
         QCOMPARE(PropertyList::toXmlOrBinary(QVariantMap{{u"a"_s, true}, {u"b"_s, value}}), "");
 }
 
