@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What the month adds to a frame of the full-screen clock: it may at most double it.
 #include "calendar/TamselCalendarLayout.h"
+#include "clock/ClockFrame.h"
 #include "platform/Bundle.h"
-#include "saver/ClockFrame.h"
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What a frame costs beside a plain fill of the same surface: drawn afresh, painted from what is
 // kept, and only where it changed. And what loading the artwork costs.
+#include "clock/ClockFrame.h"
+#include "clock/FrameDamage.h"
+#include "clock/FramePainter.h"
 #include "platform/Bundle.h"
-#include "saver/ClockFrame.h"
-#include "saver/FrameDamage.h"
-#include "saver/FramePainter.h"
 
 #include "calendar/TamselCalendarLayout.h"
 

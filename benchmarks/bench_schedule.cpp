@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a frame's change check costs with a night from sunset to sunrise, beside one without a
 // night.
-#include "night/TamselScheduledSaverView.h"
+#include "saver/TamselScheduledSaverView.h"
 #include "tests/support/SaverFixture.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 function(tamsel_compile_options target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
-        -Woverloaded-virtual -Wcast-align -Wnull-dereference -Wimplicit-fallthrough)
+        -Woverloaded-virtual -Wcast-align -Wimplicit-fallthrough)
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS
         QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -10,7 +10,6 @@
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
 #include "host/XScreenSaverRegistration.h"
-#include "night/TamselScheduledSaverView.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
@@ -20,6 +19,7 @@
 #include "platform/FileReplacement.h"
 #include "platform/LoginSession.h"
 #include "platform/Toolkit.h"
+#include "saver/TamselScheduledSaverView.h"
 
 #include <QApplication>
 #include <QFileInfo>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "night/TamselSolarTimes.h"
 
-#include "night/NightSettings.h"
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 #include "platform/ScriptContext.h"
 #include "platform/SmallFile.h"
+#include "prefs/NightSettings.h"
 
 #include <cmath>
 #include <cstdlib>

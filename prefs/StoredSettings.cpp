@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "prefs/StoredSettings.h"
 
-#include "night/NightSettings.h"
-#include "prefs/HexColor.h"
+#include "platform/HexColor.h"
+#include "prefs/NightSettings.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,14 +3,13 @@
 
 #include "calendar/TamselCalendarFont.h"
 #include "calendar/TamselCalendarLayout.h"
+#include "clock/FrameDamage.h"
+#include "night/NightSchedule.h"
 #include "platform/Clocks.h"
-#include "platform/DistributedNotifications.h"
 #include "platform/FramePresenter.h"
 #include "platform/LoginSession.h"
-#include "saver/FrameDamage.h"
-#include "settings/SettingsSheet.h"
+#include "settings/OptionsSheet.h"
 
-#include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -20,9 +19,15 @@ constexpr double kFrameInterval = 1.0 / 30.0;
 
 TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,
                                            QWidget *parent)
+    : TamselClockSaverView(desktop, isPreview, parent, std::make_unique<ClockSchedule>())
+{
+}
+
+TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,
+                                           QWidget *parent, std::unique_ptr<NightSchedule> schedule)
     : ScreenSaverView(*desktop.clocks, isPreview, parent), m_desktop(desktop),
-      m_stored(PreferenceStores(desktop.preferencesFolder, QCoreApplication::applicationName())),
-      m_writer(m_stored.stores())
+      m_preferences(m_desktop), m_schedule(std::move(schedule)),
+      m_palette(m_desktop, m_preferences, *m_schedule)
 {
     TamselRegisterCalendarFonts(m_desktop.bundle);
     setAnimationTimeInterval(kFrameInterval);
@@ -34,18 +39,16 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
                 ScreenSaverView::startAnimation();
         });
     }
-    if (desktop.notifications) {
-        desktop.notifications->observe(kVariantChangedNotification, this,
-                                       [this] { screenSaverPreferencesMayHaveChanged(); });
-    }
-    loadSelectedVariant();
+    connect(&m_preferences, &SaverPreferences::changed, this,
+            &TamselClockSaverView::screenSaverPreferencesMayHaveChanged);
+    connect(&m_palette, &PaletteOnScreen::changed, this, qOverload<>(&QWidget::update));
+    m_palette.loadSelectedVariant();
 }
 
+/// The window's end resets the pointer, too, so it must be null by then.
 TamselClockSaverView::~TamselClockSaverView()
 {
-    if (m_sheet)
-        closeColorPanel();
-    m_sheet.reset();
+    m_options.reset();
 }
 
 void TamselClockSaverView::startAnimation()
@@ -58,6 +61,7 @@ void TamselClockSaverView::startAnimation()
 void TamselClockSaverView::animateOneFrame()
 {
     reloadVariantIfNeeded();
+    m_palette.endFinishedTransition();
     if (rests())
         return;
     if (presenter()) {
@@ -65,7 +69,7 @@ void TamselClockSaverView::animateOneFrame()
         return;
     }
     const double ratio = devicePixelRatioF();
-    ClockFrame next = nextFrame(ratio);
+    ClockFrame next = frameAt(clocks().now(), ratio);
     // A surface of another density is empty, and nothing asks to paint it whole.
     if (m_shownRatio != ratio)
         update();
@@ -89,7 +93,7 @@ void TamselClockSaverView::presentFrame()
         dropPresenter();
         return;
     }
-    m_shown = nextFrame(ratio);
+    m_shown = frameAt(clocks().now(), ratio);
     QRegion changed = m_surface.show(memory, m_shown, toDevice);
     if (!m_exposed.isEmpty())
         changed += pixelsTouched(m_exposed, toDevice) & memory.picture.rect();
@@ -102,30 +106,49 @@ bool TamselClockSaverView::isSeen() const
     return ScreenSaverView::isSeen() && (!m_desktop.session || m_desktop.session->isActive());
 }
 
-ClockFrame TamselClockSaverView::nextFrame(double ratio)
+/// All that the view shows at \p now, the drift held as on screen at \p ratio device pixels per
+/// point.
+ClockFrame TamselClockSaverView::frameAt(const QDateTime &now, double ratio) const
 {
+    const bool calendar = m_palette.applied().calendarEnabled;
+    const CalendarLayoutRects rects = places(now, calendar);
     ClockFrame frame;
     frame.bounds = QRectF(rect());
-    frame.background = displayedBackgroundColor();
-    frame.tinted = paletteTransitionProgress() < 1.0;
-    if (frame.tinted || m_settings.calendarEnabled)
-        frame.mark = displayedMarkColor();
-    if (!frame.tinted)
-        m_transition = {};
-    frame.artwork = m_palette.artwork;
-    const QDateTime now = clocks().now();
-    const CalendarLayoutRects rects = places(now);
+    frame.background = m_palette.displayedBackgroundColor();
+    frame.tinted = m_palette.paletteTransitionProgress() < 1.0;
+    if (frame.tinted || calendar)
+        frame.mark = m_palette.displayedMarkColor();
+    frame.artwork = m_palette.loaded().artwork;
     frame.clockRect = rects.clock;
     frame.angles = TamselClockAnglesForDate(now);
-    if (m_settings.calendarEnabled)
+    if (calendar)
         frame.calendar = {rects.calendar,
                           {now.date(), calendarIsPortrait(frame.bounds.size()), QLocale::system()}};
     return withDriftHeld(m_shown, std::move(frame), ratio);
 }
 
+/// Where the clock stands at \p now and, with \p calendar, the calendar beside it.
+CalendarLayoutRects TamselClockSaverView::places(const QDateTime &now, bool calendar) const
+{
+    const double scale = isPreview() ? 1.0 : calendarDriftScale(now);
+    if (calendar)
+        return TamselCalendarLayout(now.date(), rect(), scale);
+    return {TamselSoloClockRect(rect(), scale), {}};
+}
+
+QRectF TamselClockSaverView::clockRect() const
+{
+    return places(clocks().now(), m_palette.applied().calendarEnabled).clock;
+}
+
+QRectF TamselClockSaverView::calendarRect() const
+{
+    return places(clocks().now(), true).calendar;
+}
+
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 {
-    drawFrame(painter, nextFrame(devicePixelRatioF()), m_scratch);
+    drawFrame(painter, frameAt(clocks().now(), devicePixelRatioF()), m_scratch);
 }
 
 void TamselClockSaverView::showEvent(QShowEvent *event)
@@ -144,18 +167,33 @@ void TamselClockSaverView::paintEvent(QPaintEvent *event)
         return;
     }
     if (covers(event->region(), rect()) || m_shown.bounds != QRectF(rect()))
-        m_shown = nextFrame(devicePixelRatioF());
+        m_shown = frameAt(clocks().now(), devicePixelRatioF());
     QPainter painter(this);
     m_painter.paint(painter, m_shown, event->region());
-}
-
-void TamselClockSaverView::screenSaverPreferencesMayHaveChanged()
-{
-    reloadVariantIfNeeded();
 }
 
 void TamselClockSaverView::resizeEvent(QResizeEvent *event)
 {
     ScreenSaverView::resizeEvent(event);
     update();
+}
+
+QWidget *TamselClockSaverView::configureSheet()
+{
+    if (!m_options) {
+        m_options = std::make_unique<OptionsSheet>(m_desktop, m_preferences, *m_schedule);
+        connect(m_options.get(), &OptionsSheet::stored, &m_palette,
+                &PaletteOnScreen::loadSelectedVariantAnew);
+        connect(m_options.get(), &OptionsSheet::ended, this,
+                &TamselClockSaverView::configurationEnded);
+        // A host may have made the window a child of its own, and destroy it with that.
+        connect(m_options->window(), &QObject::destroyed, this,
+                [this] { m_options.reset(); });
+    }
+    return m_options->configureSheet();
+}
+
+const SettingsSheet *TamselClockSaverView::settingsSheet() const
+{
+    return m_options ? &m_options->controls() : nullptr;
 }

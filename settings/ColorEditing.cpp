@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The editing of the draft's colours: popover, full panel and typed hex text.
-#include "saver/TamselClockSaverView.h"
+#include "settings/ColorEditing.h"
 
+#include "controls/TamselColorPopover.h"
 #include "controls/TamselHexField.h"
-#include "controls/TamselModeControl.h"
+#include "controls/TamselSettingsWindow.h"
 #include "controls/TamselSwatchButton.h"
-#include "prefs/HexColor.h"
+#include "platform/HexColor.h"
 #include "settings/ColorPanel.h"
 #include "settings/SettingsSheet.h"
 #include "settings/SheetRules.h"
@@ -13,39 +13,22 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFocusEvent>
+#include <QPointer>
+#include <QTimeEdit>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace {
-
-/// What edits one colour.
-struct ColorControls
-{
-    QLatin1StringView key;
-    TamselSwatchButton *SettingsSheet::*button;
-    TamselHexField *SettingsSheet::*field;
-};
-
-constexpr ColorControls kColorControls[] = {
-    {kBaseColorKey, &SettingsSheet::customBaseColorButton, &SettingsSheet::customBaseHexField},
-    {kMarkColorKey, &SettingsSheet::customMarkColorButton, &SettingsSheet::customMarkHexField},
-    {kNightBaseColorKey, &SettingsSheet::nightBaseColorButton, &SettingsSheet::nightBaseHexField},
-    {kNightMarkColorKey, &SettingsSheet::nightMarkColorButton, &SettingsSheet::nightMarkHexField},
-};
-
-const ColorControls *controlsOf(const QString &key)
-{
-    const auto *end = std::end(kColorControls);
-    const auto *found = std::find_if(std::begin(kColorControls), end,
-                                     [&](const ColorControls &c) { return c.key == key; });
-    return found == end ? nullptr : found;
-}
 
 /// The panel is the whole program's and has one target at a time.
 void clearTarget(const QColorDialog &panel)
 {
     QObject::disconnect(&panel, &QColorDialog::currentColorChanged, nullptr, nullptr);
+}
+
+/// Whether \p control takes typed text.
+bool isTextInput(const QWidget *control)
+{
+    return qobject_cast<const QLineEdit *>(control) || qobject_cast<const QTimeEdit *>(control);
 }
 
 /// Puts \p panel before every window, above \p sheet for as long as both are there.
@@ -60,163 +43,150 @@ void bringToFront(QColorDialog &panel, const QWidget *sheet)
 
 } // namespace
 
-TamselSwatchButton *TamselClockSaverView::buttonForColorKey(const QString &key) const
+ColorEditing::ColorEditing(const SettingsSheet &sheet) : m_sheet(sheet)
 {
-    const ColorControls *controls = controlsOf(key);
-    return controls && m_sheet ? (*m_sheet).*(controls->button) : nullptr;
+    for (const QLatin1StringView key :
+         {kBaseColorKey, kMarkColorKey, kNightBaseColorKey, kNightMarkColorKey}) {
+        TamselHexField *field = fieldForColorKey(key);
+        field->installEventFilter(this);
+        connect(field, &QLineEdit::returnPressed, this, [this, field] { applyHexField(field); });
+        TamselSwatchButton *swatch = buttonForColorKey(key);
+        connect(swatch, &QAbstractButton::clicked, this,
+                [this, swatch] { colorSwatchClicked(swatch); });
+    }
 }
 
-TamselHexField *TamselClockSaverView::fieldForColorKey(const QString &key) const
+ColorEditing::~ColorEditing()
 {
-    const ColorControls *controls = controlsOf(key);
-    return controls && m_sheet ? (*m_sheet).*(controls->field) : nullptr;
+    closeColorPanel();
 }
 
-QColor TamselClockSaverView::draftColorForKey(const QString &key) const
+TamselSwatchButton *ColorEditing::buttonForColorKey(const QString &key) const
+{
+    const ColorControls *controls = colorControlsOf(key);
+    return controls && m_sheet.configurationSheet ? m_sheet.*controls->button : nullptr;
+}
+
+TamselHexField *ColorEditing::fieldForColorKey(const QString &key) const
+{
+    const ColorControls *controls = colorControlsOf(key);
+    return controls && m_sheet.configurationSheet ? m_sheet.*controls->field : nullptr;
+}
+
+QColor ColorEditing::draftColorForKey(const QString &key) const
 {
     const TamselSwatchButton *button = buttonForColorKey(key);
     return button ? button->swatchColor() : QColor();
 }
 
-void TamselClockSaverView::setDraftColor(const QColor &color, const QString &key)
+void ColorEditing::setDraftColor(const QColor &color, const QString &key)
 {
-    // Through its text, so that swatch, field and what will be stored are the same colour.
     TamselSwatchButton *button = buttonForColorKey(key);
     if (!button)
         return;
+    // Through its text, so that swatch, field and what will be stored are the same colour.
     button->setSwatchColor(colorFromHexString(hexStringForColor(color)));
     setHexField(fieldForColorKey(key), button->swatchColor());
 }
 
-QColor TamselClockSaverView::currentCustomBaseColor() const
-{
-    return draftColorForKey(kBaseColorKey);
-}
-
-QColor TamselClockSaverView::currentCustomMarkColor() const
-{
-    return draftColorForKey(kMarkColorKey);
-}
-
-void TamselClockSaverView::setCustomBaseColor(const QColor &color)
-{
-    setDraftColor(color, kBaseColorKey);
-}
-
-void TamselClockSaverView::setCustomMarkColor(const QColor &color)
-{
-    setDraftColor(color, kMarkColorKey);
-}
-
-void TamselClockSaverView::setHexField(TamselHexField *field, const QColor &color)
+void ColorEditing::setHexField(TamselHexField *field, const QColor &color)
 {
     field->setText(hexStringForColor(color));
 }
 
-void TamselClockSaverView::setActiveColorPanelKey(const QString &key)
+void ColorEditing::setActiveColorPanelKey(const QString &key)
 {
-    if (TamselSwatchButton *button = buttonForColorKey(m_sheet->activeColorPanelKey))
+    if (TamselSwatchButton *button = buttonForColorKey(m_activeColorPanelKey))
         button->setPickerActive(false);
-    m_sheet->activeColorPanelKey = key;
+    m_activeColorPanelKey = key;
     if (TamselSwatchButton *button = buttonForColorKey(key))
         button->setPickerActive(true);
 }
 
-void TamselClockSaverView::applyColor(const QColor &color, const QString &key)
+void ColorEditing::applyColor(const QColor &color, const QString &key)
 {
     setDraftColor(color, key);
-    m_sheet->previewMode->setSelectedSegment(isNightColorKey(key) ? TamselModeControl::Night
-                                                                  : TamselModeControl::Day);
-    updateSettingsPreview();
+    Q_EMIT colorApplied(key);
 }
 
-void TamselClockSaverView::colorSwatchClicked(TamselSwatchButton *sender)
+void ColorEditing::colorSwatchClicked(TamselSwatchButton *sender)
 {
     endEditing();
     closeColorPanel();
     setActiveColorPanelKey(sender->objectName());
-    m_sheet->colorPopover = std::make_unique<TamselColorPopover>();
-    TamselColorPopover &popover = *m_sheet->colorPopover;
-    const QPointer<TamselClockSaverView> view(this);
-    popover.colorChanged = [view](const QColor &color) {
-        if (view)
-            view->colorPanelChanged(color);
+    m_popover = std::make_unique<TamselColorPopover>();
+    const QPointer<ColorEditing> editing(this);
+    m_popover->colorChanged = [editing](const QColor &color) {
+        if (editing)
+            editing->colorPanelChanged(color);
     };
-    popover.openPanel = [view] {
-        if (view)
-            view->openFullColorPanel();
+    m_popover->openPanel = [editing] {
+        if (editing)
+            editing->openFullColorPanel();
     };
-    popover.dismissed = [view] {
-        if (view)
-            view->closeColorPanel();
+    m_popover->dismissed = [editing] {
+        if (editing)
+            editing->closeColorPanel();
     };
-    popover.showFor(sender, draftColorForKey(sender->objectName()));
+    m_popover->showFor(sender, draftColorForKey(sender->objectName()));
 }
 
-void TamselClockSaverView::colorPanelChanged(const QColor &color)
+void ColorEditing::colorPanelChanged(const QColor &color)
 {
     // A report may come late, when its editor is closed already.
-    if (SettingsSheet *s = sheet(); s && !s->activeColorPanelKey.isNull())
-        applyColor(color, s->activeColorPanelKey);
+    if (!m_activeColorPanelKey.isNull())
+        applyColor(color, m_activeColorPanelKey);
 }
 
-void TamselClockSaverView::openFullColorPanel()
+void ColorEditing::openFullColorPanel()
 {
-    SettingsSheet &s = *m_sheet;
+    if (m_activeColorPanelKey.isNull())
+        return;
     QColorDialog &panel = sharedColorPanel();
     // The panel has no target while it is given its colour, which is no choice of the user's.
     clearTarget(panel);
-    panel.setCurrentColor(draftColorForKey(s.activeColorPanelKey));
-    connect(&panel, &QColorDialog::currentColorChanged, this,
-            &TamselClockSaverView::colorPanelChanged);
-    disconnect(s.colorPanelCloseObserver);
-    s.colorPanelCloseObserver =
-        connect(&panel, &QDialog::finished, this, &TamselClockSaverView::closeColorPanel);
-    bringToFront(panel, s.configurationSheet);
+    panel.setCurrentColor(draftColorForKey(m_activeColorPanelKey));
+    connect(&panel, &QColorDialog::currentColorChanged, this, &ColorEditing::colorPanelChanged);
+    disconnect(m_panelCloseObserver);
+    m_panelCloseObserver =
+        connect(&panel, &QDialog::finished, this, &ColorEditing::closeColorPanel);
+    bringToFront(panel, m_sheet.configurationSheet);
 }
 
-void TamselClockSaverView::closeColorPanel()
+void ColorEditing::closeColorPanel()
 {
-    SettingsSheet *s = sheet();
-    if (!s)
-        return;
-    disconnect(s->colorPanelCloseObserver);
-    if (s->colorPopover) {
-        // Its end is no news to us.
-        s->colorPopover->dismissed = nullptr;
-        s->colorPopover.reset();
+    disconnect(m_panelCloseObserver);
+    if (m_popover) {
+        // This closes it, so its report would only come back here.
+        m_popover->dismissed = nullptr;
+        m_popover.reset();
     }
-    if (sharedColorPanelExists() && !s->activeColorPanelKey.isNull()) {
+    if (sharedColorPanelExists() && !m_activeColorPanelKey.isNull()) {
         clearTarget(sharedColorPanel());
         sharedColorPanel().hide();
     }
     setActiveColorPanelKey({});
 }
 
-void TamselClockSaverView::customHexFieldChanged(TamselHexField *field)
+bool ColorEditing::eventFilter(QObject *watched, QEvent *event)
 {
-    applyHexField(field);
-}
-
-bool TamselClockSaverView::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::FocusOut && sheet()) {
+    if (event->type() == QEvent::FocusOut && m_sheet.configurationSheet) {
         // While another window or a menu has the keyboard the field is still being edited.
         const auto reason = static_cast<QFocusEvent *>(event)->reason();
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
             controlTextDidEndEditing(watched);
     }
-    return ScreenSaverView::eventFilter(watched, event);
+    return QObject::eventFilter(watched, event);
 }
 
-void TamselClockSaverView::controlTextDidEndEditing(QObject *control)
+void ColorEditing::controlTextDidEndEditing(QObject *control)
 {
     auto *field = qobject_cast<TamselHexField *>(control);
-    if (field && controlsOf(field->objectName()))
+    if (field && colorControlsOf(field->objectName()))
         applyHexField(field);
 }
 
-void TamselClockSaverView::applyHexField(TamselHexField *field)
+void ColorEditing::applyHexField(TamselHexField *field)
 {
     const QString key = field->objectName();
     const QColor color = colorFromHexString(normalizedHexStringFromString(field->text()));
@@ -226,4 +196,18 @@ void TamselClockSaverView::applyHexField(TamselHexField *field)
     }
     setHexField(field, draftColorForKey(key));
     QApplication::beep();
+}
+
+/// A button keeps the keyboard: nothing is edited there, and a user of the keys goes on from it.
+void ColorEditing::endEditing()
+{
+    QWidget *focused =
+        m_sheet.configurationSheet ? m_sheet.configurationSheet->focusWidget() : nullptr;
+    if (!focused || !isTextInput(focused))
+        return;
+    // While another window has the keyboard, nothing tells the field that its editing ends.
+    const bool isTold = focused->hasFocus();
+    focused->clearFocus();
+    if (!isTold)
+        controlTextDidEndEditing(focused);
 }

@@ -1,17 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/TamselColorPopover.h"
-#include "controls/TamselSettingsWindow.h"
-#include "platform/PatientWrite.h"
-#include "settings/SheetTransition.h"
-
 #include <QHash>
 #include <QString>
-#include <QTimer>
-
-#include <memory>
-#include <optional>
 
 class PushButton;
 class QLabel;
@@ -20,21 +11,18 @@ class TamselClockPreviewView;
 class TamselHexField;
 class TamselModeControl;
 class TamselSettingsView;
+class TamselSettingsWindow;
 class TamselSwatchButton;
+class TamselSymbolButton;
 class TamselToggle;
 class TimePicker;
 
-/// The options sheet once it was built. The window owns the controls; the values the user edits are
-/// the controls' own and kept nowhere else.
+/// The controls of the options sheet. They hold the draft of the settings, which is kept nowhere
+/// else, and belong to the window.
 struct SettingsSheet
 {
-    /// Takes \p window.
-    explicit SettingsSheet(TamselSettingsWindow *window) : configurationSheet(window) {}
-    SettingsSheet(const SettingsSheet &) = delete;
-    SettingsSheet &operator=(const SettingsSheet &) = delete;
-    ~SettingsSheet() { delete configurationSheet; }
-
-    TamselSettingsWindow *configurationSheet;
+    /// Null once the window was destroyed, and every control with it.
+    TamselSettingsWindow *configurationSheet = nullptr;
     QScrollArea *settingsScroll = nullptr;
 
     TamselClockPreviewView *customPreviewView = nullptr;
@@ -51,6 +39,7 @@ struct SettingsSheet
     TamselSwatchButton *customMarkColorButton = nullptr;
     TamselHexField *customBaseHexField = nullptr;
     TamselHexField *customMarkHexField = nullptr;
+    TamselSymbolButton *daySwapButton = nullptr;
 
     TamselSettingsView *calendarGroup = nullptr;
     TamselToggle *calendarCheckbox = nullptr;
@@ -62,24 +51,22 @@ struct SettingsSheet
     TamselSwatchButton *nightMarkColorButton = nullptr;
     TamselHexField *nightBaseHexField = nullptr;
     TamselHexField *nightMarkHexField = nullptr;
+    TamselSymbolButton *nightSwapButton = nullptr;
     TimePicker *nightFromPicker = nullptr;
     TimePicker *nightToPicker = nullptr;
 
     TamselSettingsView *settingsActions = nullptr;
+    PushButton *cancelButton = nullptr;
     PushButton *saveButton = nullptr;
-    /// Stores the draft after OK.
-    platform::PatientWrite saving;
-
-    /// False until the first layout after the sheet was built or dismissed, which does not move.
-    bool settingsLayoutInitialized = false;
-    /// Runs while the groups grow or shrink, from the first tick on.
-    QTimer settingsLayoutTimer;
-    std::optional<SheetTransition> settingsTransition;
-    std::optional<double> settingsTransitionStart;
-
-    /// The colour key whose editor is open; null when none is.
-    QString activeColorPanelKey;
-    std::unique_ptr<TamselColorPopover> colorPopover;
-    /// Hears of the full colour panel's closing while it works for this sheet.
-    QMetaObject::Connection colorPanelCloseObserver;
 };
+
+/// What edits one colour of the draft.
+struct ColorControls
+{
+    QLatin1StringView key;
+    TamselSwatchButton *SettingsSheet::*button;
+    TamselHexField *SettingsSheet::*field;
+};
+
+/// The controls for the colour \p key of SheetRules.h; null for another key.
+const ColorControls *colorControlsOf(const QString &key);

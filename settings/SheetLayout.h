@@ -9,10 +9,13 @@ inline constexpr double kSheetCornerRadius = 22.0;
 inline constexpr QRectF kPreviewFrame(28.0, 28.0, 344.0, 196.0);
 inline constexpr double kGroupLeft = 28.0;
 inline constexpr double kGroupWidth = 344.0;
-inline constexpr double kRowHeight = 42.0;
+/// From one row of a group to the next.
+inline constexpr int kRowPitch = 42;
+/// From a group's left edge to the titles of its rows.
+inline constexpr int kTitleInset = 10;
 
 /// A group shows its first row only, or what the first row's control brings up as well.
-inline constexpr double kCollapsedHeight = kRowHeight;
+inline constexpr double kCollapsedHeight = kRowPitch;
 inline constexpr double kExpandedThemeHeight = 138.0;
 inline constexpr double kExpandedNightHeight = 222.0;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetRules.h"
 
-#include "night/NightSettings.h"
+#include "prefs/NightSettings.h"
 
 #include <QTimeEdit>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetTransition.h"
 
-#include "saver/ColorBlend.h"
+#include "clock/ColorBlend.h"
 #include "settings/SheetLayout.h"
 
 #include <algorithm>

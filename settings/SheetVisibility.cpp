@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-// What of the options sheet is shown, and how it moves when that changes.
-#include "saver/TamselClockSaverView.h"
+#include "settings/SheetVisibility.h"
 
 #include "controls/TamselModeControl.h"
 #include "controls/TamselSettingsView.h"
+#include "controls/TamselSettingsWindow.h"
 #include "controls/TamselToggle.h"
 #include "controls/ViewAlpha.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
-#include "saver/TamselClockPreviewView.h"
+#include "prefs/Variants.h"
 #include "settings/SettingsSheet.h"
 #include "settings/SheetLayout.h"
+#include "settings/TamselClockPreviewView.h"
 
 #include <QLabel>
 #include <QScreen>
@@ -39,71 +40,80 @@ void applyRows(const RowsState &state, QWidget *rows)
 
 } // namespace
 
-void TamselClockSaverView::updateCustomControlsVisibility()
+SheetVisibility::SheetVisibility(const SettingsSheet &sheet, const platform::Clocks &clocks)
+    : m_sheet(sheet), m_clocks(clocks)
 {
-    SettingsSheet &s = *m_sheet;
-    const QString variant = selectedVariantFromRadioButtons();
-    const bool custom = variant == "custom"_L1;
-    const bool night = s.nightSwitch->isChecked();
-    const bool animate = s.settingsLayoutInitialized && s.configurationSheet->isVisible() &&
-                         !appearanceOf(s.configurationSheet).reducedMotion();
-    s.previewMode->setVisible(night, animate);
-    s.customPreviewView->setShowsModeSelector(night);
-    s.themeName->setText(variantLabels().value(variant));
+    m_timer.setTimerType(Qt::PreciseTimer);
+    m_timer.callOnTimeout([this] { move(); });
+}
 
-    s.settingsLayoutTimer.stop();
-    const SheetState start{rowsState(s.themeGroup, s.dayColorControls),
-                           rowsState(s.nightGroup, s.nightControls)};
+void SheetVisibility::updateCustomControlsVisibility(const QString &variant)
+{
+    const bool custom = variant == "custom"_L1;
+    const bool night = m_sheet.nightSwitch->isChecked();
+    const bool animate = m_wasLaidOut && m_sheet.configurationSheet->isVisible() &&
+                         !appearanceOf(m_sheet.configurationSheet).reducedMotion();
+    m_sheet.previewMode->setVisible(night, animate);
+    m_sheet.customPreviewView->setShowsModeSelector(night);
+    m_sheet.themeName->setText(variantLabels().value(variant));
+
+    m_timer.stop();
+    const SheetState start{rowsState(m_sheet.themeGroup, m_sheet.dayColorControls),
+                           rowsState(m_sheet.nightGroup, m_sheet.nightControls)};
     const SheetTransition transition(start, custom, night);
-    s.settingsLayoutInitialized = true;
-    s.settingsTransitionStart.reset();
+    m_wasLaidOut = true;
+    m_began.reset();
     if (animate && transition.isNeeded()) {
-        s.settingsTransition = transition;
-        s.settingsLayoutTimer.start(kTickInterval);
+        m_transition = transition;
+        m_timer.start(kTickInterval);
         return;
     }
-    s.settingsTransition.reset();
-    applySheetState(sheetAtRest(custom, night));
+    m_transition.reset();
+    apply(sheetAtRest(custom, night));
 }
 
-void TamselClockSaverView::moveSheet()
+void SheetVisibility::move()
 {
-    SettingsSheet &s = *m_sheet;
-    const double now = clocks().monotonicSeconds();
-    if (!s.settingsTransitionStart)
-        s.settingsTransitionStart = now;
-    const double t = now - *s.settingsTransitionStart;
-    applySheetState(s.settingsTransition->at(t));
-    if (t >= s.settingsTransition->duration())
-        s.settingsLayoutTimer.stop();
+    const double now = m_clocks.monotonicSeconds();
+    if (!m_began)
+        m_began = now;
+    const double t = now - *m_began;
+    apply(m_transition->at(t));
+    if (t >= m_transition->duration())
+        m_timer.stop();
 }
 
-void TamselClockSaverView::applySheetState(const SheetState &state)
+void SheetVisibility::stop()
 {
-    applyRows(state.day, m_sheet->dayColorControls);
-    applyRows(state.night, m_sheet->nightControls);
+    m_timer.stop();
+    m_wasLaidOut = false;
+}
+
+void SheetVisibility::apply(const SheetState &state)
+{
+    applyRows(state.day, m_sheet.dayColorControls);
+    applyRows(state.night, m_sheet.nightControls);
     layoutSettingsDayHeight(state.day.groupHeight, state.night.groupHeight);
 }
 
-void TamselClockSaverView::layoutSettingsDayHeight(double dayHeight, double nightHeight)
+void SheetVisibility::layoutSettingsDayHeight(double dayHeight, double nightHeight)
 {
-    SettingsSheet &s = *m_sheet;
     const SheetLayout layout = sheetLayout(dayHeight, nightHeight);
-    s.themeGroup->setGeometry(layout.themeGroup.toRect());
-    s.calendarGroup->setGeometry(layout.calendarGroup.toRect());
-    s.nightGroup->setGeometry(layout.nightGroup.toRect());
-    s.settingsActions->setGeometry(layout.settingsActions.toRect());
+    m_sheet.themeGroup->setGeometry(layout.themeGroup.toRect());
+    m_sheet.calendarGroup->setGeometry(layout.calendarGroup.toRect());
+    m_sheet.nightGroup->setGeometry(layout.nightGroup.toRect());
+    m_sheet.settingsActions->setGeometry(layout.settingsActions.toRect());
 
-    QWidget *window = s.configurationSheet;
+    QWidget *window = m_sheet.configurationSheet;
     const QRect frame =
         sheetFrame(window->geometry(), layout.contentHeight, window->screen()->availableGeometry())
             .toRect();
-    s.settingsScroll->widget()->resize(frame.width(), qRound(layout.contentHeight));
+    m_sheet.settingsScroll->widget()->resize(frame.width(), qRound(layout.contentHeight));
     // A sheet that is not on screen yet has no place to keep.
     if (window->isVisible())
         window->setGeometry(frame);
     else
         window->resize(frame.size());
-    s.settingsScroll->resize(frame.size());
-    s.settingsScroll->verticalScrollBar()->setValue(0);
+    m_sheet.settingsScroll->resize(frame.size());
+    m_sheet.settingsScroll->verticalScrollBar()->setValue(0);
 }

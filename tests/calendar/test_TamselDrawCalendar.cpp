@@ -2,8 +2,8 @@
 #include "calendar/CalendarPage.h"
 #include "calendar/TamselCalendarFont.h"
 #include "calendar/TamselDrawCalendar.h"
+#include "clock/ClockFrame.h"
 #include "platform/Bundle.h"
-#include "saver/ClockFrame.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/RecordingDevice.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "night/NightSettings.h"
-#include "prefs/HexColor.h"
+#include "platform/HexColor.h"
+#include "prefs/NightSettings.h"
 #include "prefs/StoredSettings.h"
 #include "tests/fuzz/Fuzz.h"
 

@@ -2,7 +2,7 @@
 // The change check of 300 frames with a night from sunset to sunrise, between two marks that a
 // system-call trace shows.
 #include "night/SolarLocation.h"
-#include "night/TamselScheduledSaverView.h"
+#include "saver/TamselScheduledSaverView.h"
 #include "tests/support/SaverFixture.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the stores say, and how it is read.
 #include "night/NightSchedule.h"
-#include "night/NightSettings.h"
+#include "prefs/NightSettings.h"
 #include "prefs/StoredSettings.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Painting by copying and mending against drawing every frame afresh.
-#include "saver/FrameDamage.h"
-#include "saver/FramePainter.h"
+#include "clock/FrameDamage.h"
+#include "clock/FramePainter.h"
 #include "tests/support/Frames.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/SaverFixture.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The saver view following its stored settings and the time of day.
+#include "platform/HexColor.h"
 #include "platform/LoginSession.h"
-#include "prefs/HexColor.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/SaverFixture.h"
 

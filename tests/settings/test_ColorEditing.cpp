@@ -34,14 +34,14 @@ struct Fixture : SheetFixture<TamselClockSaverView>
 
     TamselSwatchButton *swatch(const QString &key) const { return view->buttonForColorKey(key); }
 
-    TamselColorPopover *popover() const { return sheet().colorPopover.get(); }
+    TamselColorPopover *popover() const { return colors().popover(); }
 
     bool isClosed() const
     {
         bool marked = false;
         for (const QString &key : {u"base"_s, u"mark"_s, u"nightBase"_s, u"nightMark"_s})
             marked |= swatch(key)->pickerActive();
-        return !popover() && !marked && sheet().activeColorPanelKey.isNull() &&
+        return !popover() && !marked && colors().activeColorPanelKey().isNull() &&
                (!sharedColorPanelExists() || !sharedColorPanel().isVisible());
     }
 
@@ -143,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(f.open());
         f.click(f.swatch(key));
         QVERIFY(f.swatch(key)->pickerActive());
-        QCOMPARE(f.sheet().activeColorPanelKey, key);
+        QCOMPARE(f.colors().activeColorPanelKey(), key);
         f.popover()->saturationSlider()->edit(1.0);
         f.popover()->brightnessSlider()->edit(1.0);
         f.popover()->hueSlider()->edit(1.0 / 3.0);

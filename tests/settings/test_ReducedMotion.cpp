@@ -51,7 +51,7 @@ private Q_SLOTS:
         fixture.chooseVariant(u"custom"_s);
         fixture.click(sheet.calendarCheckbox);
         // Time stands still, so that what moves is where it was.
-        QCOMPARE(sheet.settingsLayoutTimer.isActive(), moves);
+        QCOMPARE(fixture.visibility().isMoving(), moves);
         QCOMPARE(sheet.dayColorControls->isHidden(), moves);
         QCOMPARE(fixture.window()->height() == height, moves);
         QCOMPARE(sheet.customPreviewView->calendarProgress(), moves ? 0.0 : 1.0);

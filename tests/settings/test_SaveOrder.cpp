@@ -4,9 +4,9 @@
 #include "tests/support/SheetFixture.h"
 
 #include "controls/Alert.h"
-#include "night/NightSettings.h"
 #include "platform/FileLock.h"
 #include "platform/PropertyList.h"
+#include "prefs/NightSettings.h"
 #include "settings/SheetRules.h"
 
 #include <QElapsedTimer>

@@ -342,7 +342,7 @@ private Q_SLOTS:
         };
         QCOMPARE(f.window()->height(), 482);
         f.chooseVariant(u"custom"_s);
-        QTRY_VERIFY(f.sheet().settingsTransitionStart); // the first tick begins the time
+        QTRY_VERIFY(f.visibility().began()); // the first tick begins the time
         QCOMPARE(heights(), QSize(42, 42));
         f.clocks.advance(0.16);
         QTRY_COMPARE(heights(), QSize(90, 42));
@@ -350,24 +350,24 @@ private Q_SLOTS:
 
         // Half-way there the night is switched on: both go on from where they are.
         f.click(f.sheet().nightSwitch);
-        QTRY_VERIFY(f.sheet().settingsTransitionStart);
+        QTRY_VERIFY(f.visibility().began());
         QCOMPARE(heights(), QSize(90, 42));
         f.clocks.advance(0.40);
         QTRY_COMPARE(heights(), QSize(138, 222));
         QTRY_VERIFY(qAbs(alphaValue(f.sheet().dayColorControls) - 0.5) < 0.01);
         f.clocks.advance(0.1);
-        QTRY_VERIFY(!f.sheet().settingsLayoutTimer.isActive());
+        QTRY_VERIFY(!f.visibility().isMoving());
         QCOMPARE(alphaValue(f.sheet().nightControls), 1.0);
         QCOMPARE(f.window()->height(), std::min(758, f.window()->screen()->size().height() - 70));
 
         // A dismissal leaves nothing running, and the next opening moves nothing.
         f.click(f.sheet().nightSwitch);
-        QVERIFY(f.sheet().settingsLayoutTimer.isActive());
+        QVERIFY(f.visibility().isMoving());
         f.view->cancelConfiguration();
-        QVERIFY(!f.sheet().settingsLayoutTimer.isActive());
+        QVERIFY(!f.visibility().isMoving());
         QVERIFY(!f.sheet().previewMode->visibilityTimer().isRunning());
         QVERIFY(f.open());
-        QVERIFY(!f.sheet().settingsLayoutTimer.isActive());
+        QVERIFY(!f.visibility().isMoving());
         QCOMPARE(heights(), QSize(42, 42));
         QCOMPARE(f.window()->height(), 482);
     }

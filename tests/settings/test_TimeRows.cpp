@@ -5,12 +5,12 @@
 
 #include "controls/Alert.h"
 #include "controls/TamselTimeMenu.h"
-#include "night/NightSettings.h"
 #include "night/SolarLocation.h"
-#include "night/TamselScheduledSaverView.h"
-#include "night/TimeRows.h"
+#include "prefs/NightSettings.h"
+#include "saver/TamselScheduledSaverView.h"
 #include "settings/ColorPanel.h"
 #include "settings/SheetRules.h"
+#include "settings/TimeRows.h"
 
 #include <QColorDialog>
 #include <QMenu>
@@ -57,15 +57,15 @@ struct Fixture : SheetFixture<TamselScheduledSaverView>
         return open();
     }
 
-    TamselTimeMenu *menuOf(int row) const { return view->timeRows()->timeMenus.at(row); }
-    QMenu *openMenu() const { return view->timeRows()->openMenu; }
+    TamselTimeMenu *menuOf(int row) const { return view->timeRows()->timeMenu(row); }
+    QMenu *openMenu() const { return view->timeRows()->openMenu(); }
     Alert *alert() const { return window()->findChild<Alert *>(); }
 
     bool isSaved() const { return stores.suite.value(kSelectedVariantKey).isValid(); }
 
     bool isAtRest() const
     {
-        return !sheet().settingsLayoutTimer.isActive() && sheet().activeColorPanelKey.isNull() &&
+        return !visibility().isMoving() && colors().activeColorPanelKey().isNull() &&
                (!sharedColorPanelExists() || !sharedColorPanel().isVisible());
     }
 };
@@ -219,7 +219,7 @@ private Q_SLOTS:
         const Step popover = [](Fixture &f) { f.click(f.sheet().nightMarkColorButton); };
         const Step panel = [=](Fixture &f) {
             popover(f);
-            f.sheet().colorPopover->fullPicker();
+            f.colors().popover()->fullPicker();
         };
         const Step growing = [](Fixture &f) { f.chooseVariant(kCustom); };
         const std::pair<const char *, Step> beginnings[] = {{"menu", menu},

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "calendar/TamselCalendarLayout.h"
+#include "clock/ClockFrame.h"
 #include "platform/Bundle.h"
-#include "saver/ClockFrame.h"
 
 #include <QImage>
 #include <QPainter>

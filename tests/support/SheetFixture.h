@@ -2,15 +2,17 @@
 #pragma once
 
 #include "controls/PushButton.h"
+#include "controls/TamselColorPopover.h"
 #include "controls/TamselHexField.h"
 #include "controls/TamselModeControl.h"
 #include "controls/TamselSettingsView.h"
+#include "controls/TamselSettingsWindow.h"
 #include "controls/TamselSwatchButton.h"
 #include "controls/TamselToggle.h"
 #include "controls/TimePicker.h"
-#include "prefs/HexColor.h"
-#include "saver/TamselClockPreviewView.h"
-#include "settings/SettingsSheet.h"
+#include "platform/HexColor.h"
+#include "settings/OptionsSheet.h"
+#include "settings/TamselClockPreviewView.h"
 #include "tests/support/SaverFixture.h"
 
 #include <QApplication>
@@ -37,6 +39,8 @@ struct SheetFixture : SaverFixture
     }
 
     const SettingsSheet &sheet() const { return *view->settingsSheet(); }
+    ColorEditing &colors() const { return view->optionsSheet()->colors(); }
+    SheetVisibility &visibility() const { return view->optionsSheet()->visibility(); }
     QWidget *window() const { return sheet().configurationSheet; }
 
     void chooseVariant(const QString &variant) const

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "clock/ColorBlend.h"
+
+double easedProgress(double p)
+{
+    return p * p * (3.0 - 2.0 * p);
+}
+
+QColor blendedColor(const QColor &from, const QColor &to, double p)
+{
+    if (!from.isValid() || p >= 1.0)
+        return to;
+    const auto e = float(easedProgress(p));
+    const QColor a = from.toRgb();
+    const QColor b = to.toRgb();
+    const auto between = [e](float x, float y) { return x + (y - x) * e; };
+    return QColor::fromRgbF(between(a.redF(), b.redF()), between(a.greenF(), b.greenF()),
+                            between(a.blueF(), b.blueF()));
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "clock/FrameSurface.h"
+
+/// Paints frames to the same pixels as drawFrame(), but by copying from a picture of its own that
+/// is only mended from frame to frame. While a fade runs there is no such picture.
+class FramePainter
+{
+public:
+    /// Paints \p frame inside \p region, which is in the painter's coordinates.
+    void paint(QPainter &painter, const ClockFrame &frame, const QRegion &region);
+
+private:
+    bool keepPicture(const ClockFrame &frame, const QTransform &toDevice);
+    void makeMemory(const QSize &size);
+    void dropMemory();
+
+    /// The device pixels of the frame, from m_origin on; null while none are kept.
+    platform::FrameMemory m_memory;
+    QImage m_room;
+    QPoint m_origin;
+    FrameSurface m_surface;
+    /// Of frames drawn while no picture is kept.
+    FrameScratch m_scratch;
+};

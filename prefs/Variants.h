@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QStringList>
+
+/// The colour variants: their identifiers, their names for the user and their plain colours.
+
+/// The variants with artwork of their own; "random" picks among exactly these.
+const QStringList &availableVariants();
+/// The values that may be stored as the selected variant.
+const QStringList &popupVariants();
+const QHash<QString, QString> &variantLabels();
+/// The background of each variant with artwork of its own.
+const QHash<QString, QColor> &backgroundColors();
+/// The marks' colour in the artwork of \p variant; black for a variant without artwork.
+QColor markColorOf(const QString &variant);
+
+/// The custom variant's colours where none are stored.
+QColor defaultCustomBaseColor();
+QColor defaultCustomMarkColor();

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "saver/TamselClockSaverView.h"
+
+#include <QStringList>
+
+class TamselSolarTimes;
+class TamselTimeMenu;
+class TimeRows;
+
+/// The saver that hosts make: its night may begin with today's sunset and end with today's sunrise
+/// instead of at fixed times.
+class TamselScheduledSaverView final : public TamselClockSaverView
+{
+    Q_OBJECT
+
+public:
+    TamselScheduledSaverView(const platform::Desktop &desktop, bool isPreview,
+                             QWidget *parent = nullptr);
+
+    static bool usesPersistentSolarLocation() { return true; }
+    /// The provider of sun times, made with the first call, the saved location looked up anew with
+    /// each.
+    TamselSolarTimes &solarTimes() const;
+    /// Another process saved a location: the colours and an open sheet follow at once.
+    void solarLocationChanged();
+
+    // Forwarders, documented at TimeRows. Without a sheet there are no rows and no modes, and the
+    // others do nothing.
+
+    TimeRows *timeRows() const;
+    QStringList timeModes() const;
+    void refreshTimeRows();
+    void showTimeMenu(TamselTimeMenu *sender);
+    void selectTimeMode(const QString &mode, int row);
+    void requestSolarLocation();
+};

@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "settings/TamselClockPreviewView.h"
+
+#include "calendar/TamselCalendarLayout.h"
+#include "clock/FrameDamage.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+#include "platform/Clocks.h"
+#include "platform/HexColor.h"
+#include "settings/PreviewLayout.h"
+
+#include <QAccessibleWidget>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kFrameInterval = 1.0 / 60.0;
+constexpr double kColorFadeSeconds = 0.28;
+/// Longer than the slide, so that a toggle moved back by this much is over already.
+constexpr double kReducedMotionShift = 2.0;
+constexpr QRgb kOrange = 0xffff9500;
+
+/// What \p draw paints on an area of \p size points, for a device of \p scale pixels per point.
+template <typename Draw>
+QPixmap pictureOf(const QSize &size, double scale, Draw draw)
+{
+    QPixmap picture((QSizeF(size) * scale).toSize());
+    picture.setDevicePixelRatio(scale);
+    QPainter painter(&picture);
+    draw(painter);
+    return picture;
+}
+
+/// A picture whose controls are found only while they are shown.
+class AccessiblePreview final : public QAccessibleWidget
+{
+public:
+    explicit AccessiblePreview(TamselClockPreviewView *preview)
+        : QAccessibleWidget(preview, QAccessible::Graphic), m_preview(preview)
+    {
+    }
+
+    int childCount() const override
+    {
+        return m_preview->showsModeSelector() ? QAccessibleWidget::childCount() : 0;
+    }
+
+    QAccessibleInterface *child(int index) const override
+    {
+        return m_preview->showsModeSelector() ? QAccessibleWidget::child(index) : nullptr;
+    }
+
+private:
+    TamselClockPreviewView *m_preview;
+};
+
+QAccessibleInterface *accessiblePreview(const QString &, QObject *object)
+{
+    auto *preview = qobject_cast<TamselClockPreviewView *>(object);
+    return preview ? new AccessiblePreview(preview) : nullptr;
+}
+
+void installPreviewAccessibility()
+{
+    static const bool installed = (QAccessible::installFactory(accessiblePreview), true);
+    Q_UNUSED(installed)
+}
+
+} // namespace
+
+TamselClockPreviewView::TamselClockPreviewView(const platform::Clocks &clocks, QWidget *parent)
+    : QWidget(parent), m_clocks(clocks), m_pacer(0.0, kFrameInterval)
+{
+    // Before its name: a change of that is told at once, through an accessible object that stays.
+    installPreviewAccessibility();
+    setAccessibleName(QStringLiteral("Clock preview"));
+    m_animationTimer.setSingleShot(true);
+    m_animationTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_animationTimer, &QTimer::timeout, this, &TamselClockPreviewView::tick);
+}
+
+void TamselClockPreviewView::setCornerRadius(double radius)
+{
+    m_cornerRadius = radius;
+    update();
+}
+
+void TamselClockPreviewView::startAnimation()
+{
+    if (m_animating)
+        return;
+    m_animating = true;
+    if (isVisible())
+        beginTicking();
+}
+
+void TamselClockPreviewView::stopAnimation()
+{
+    m_animating = false;
+    m_animationTimer.stop();
+}
+
+void TamselClockPreviewView::beginTicking()
+{
+    m_pacer = platform::FramePacer(m_clocks.monotonicSeconds(), kFrameInterval);
+    tick();
+}
+
+void TamselClockPreviewView::tick()
+{
+    m_animationTimer.start(m_pacer.untilNextFrame(m_clocks.monotonicSeconds()));
+    ClockFrame next = frame();
+    const double ratio = devicePixelRatioF();
+    if (isFading())
+        update();
+    else
+        update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));
+    m_shown = std::move(next);
+}
+
+void TamselClockPreviewView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    window()->windowHandle()->installEventFilter(this);
+    if (m_animating)
+        beginTicking();
+}
+
+void TamselClockPreviewView::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_animationTimer.stop();
+}
+
+bool TamselClockPreviewView::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *handle = window()->windowHandle();
+    if (event->type() == QEvent::Expose && watched == handle && m_animating && isVisible()) {
+        if (!handle->isExposed())
+            m_animationTimer.stop();
+        else if (!m_animationTimer.isActive())
+            beginTicking();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void TamselClockPreviewView::setCalendarEnabled(bool enabled)
+{
+    if (enabled == m_calendarEnabled)
+        return;
+    m_calendarStart = calendarProgress();
+    m_calendarTransitionStart = m_clocks.monotonicSeconds();
+    if (!isVisible() || appearanceOf(this).reducedMotion())
+        m_calendarTransitionStart -= kReducedMotionShift;
+    m_calendarEnabled = enabled;
+}
+
+double TamselClockPreviewView::calendarProgress() const
+{
+    const double passed = m_clocks.monotonicSeconds() - m_calendarTransitionStart;
+    const double target = m_calendarEnabled ? 1.0 : 0.0;
+    return m_calendarStart +
+           (target - m_calendarStart) * calendarEase(passed / kCalendarSlideSeconds);
+}
+
+void TamselClockPreviewView::beginColorTransition()
+{
+    if (!isVisible() || m_artwork.faceImage.isNull())
+        return;
+    // A slider brings several colours between two frames; what is seen is still the look kept.
+    if (!isFading() || m_transitionSeen) {
+        m_transitionImage = pictureOf(size(), devicePixelRatioF(),
+                                      [this](QPainter &painter) { drawRect(painter); });
+        m_transitionSeen = false;
+    }
+    m_transitionStart = m_clocks.monotonicSeconds();
+}
+
+ClockFrame TamselClockPreviewView::frame() const
+{
+    const double progress = calendarProgress();
+    const QDateTime now = m_clocks.now();
+    const QRectF area = displayRect();
+    const PreviewLayout layout = previewLayout(area.size(), progress);
+    ClockFrame frame;
+    frame.bounds = area;
+    frame.background = colorOr(m_backgroundColor, QColor::fromRgb(kOrange));
+    frame.mark = colorOr(m_markColor, Qt::black);
+    frame.clockRect = layout.clockRect;
+    frame.angles = TamselClockAnglesForDate(now);
+    frame.artwork = m_artwork;
+    if (progress > 0.0)
+        frame.calendar = {layout.calendarRect,
+                          {now.date(), calendarIsPortrait(area.size()), QLocale::system()}};
+    return frame;
+}
+
+void TamselClockPreviewView::drawRect(QPainter &painter)
+{
+    FrameScratch scratch;
+    drawFrame(painter, frame(), scratch);
+    if (isFading())
+        drawTransition(painter);
+}
+
+void TamselClockPreviewView::drawTransition(QPainter &painter)
+{
+    const double passed = m_clocks.monotonicSeconds() - m_transitionStart;
+    const double faded = std::min(passed / kColorFadeSeconds, 1.0);
+    m_transitionSeen = true;
+    painter.setOpacity(1.0 - faded);
+    painter.drawPixmap(rect(), m_transitionImage);
+    painter.setOpacity(1.0);
+    if (faded >= 1.0)
+        m_transitionImage = {};
+}
+
+bool TamselClockPreviewView::touchesCorners(const QRegion &region) const
+{
+    const int side = int(std::ceil(m_cornerRadius));
+    const QRect inner = rect();
+    return QRegion(inner)
+        .subtracted(inner.adjusted(0, side, 0, -side))
+        .subtracted(inner.adjusted(side, 0, -side, 0))
+        .intersects(region);
+}
+
+void TamselClockPreviewView::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    if (covers(event->region(), rect()) || isFading() || m_shown.bounds != displayRect())
+        m_shown = frame();
+    if (m_cornerRadius <= 0.0 || !touchesCorners(event->region())) {
+        m_painter.paint(painter, m_shown, event->region());
+        if (isFading())
+            drawTransition(painter);
+        return;
+    }
+    // A clip would leave the corners ragged; a filled shape has smooth ones.
+    const double scale = painter.deviceTransform().m11();
+    QPixmap picture = pictureOf(size(), scale, [this](QPainter &inside) {
+        m_painter.paint(inside, m_shown, rect());
+        if (isFading())
+            drawTransition(inside);
+    });
+    picture.setDevicePixelRatio(1.0);
+    QBrush brush(picture);
+    brush.setTransform(QTransform::fromScale(1.0 / scale, 1.0 / scale));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawRoundedRect(rect(), m_cornerRadius, m_cornerRadius);
+}

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+// The live preview: where things stand, how they move, and that nothing happens unseen.
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+#include "platform/Bundle.h"
+#include "platform/Clocks.h"
+#include "settings/PreviewLayout.h"
+#include "settings/TamselClockPreviewView.h"
+#include "tests/support/ControlPicture.h"
+#include "tests/support/Pixels.h"
+
+#include <QAccessible>
+#include <QPainter>
+#include <QScreen>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kSize(344, 196);
+
+Artwork artworkOf(const QString &variant)
+{
+    const platform::Bundle bundle(QStringLiteral(TAMSEL_TEST_BUNDLE));
+    const auto layer = [&](const QString &name) {
+        return platform::SvgImage::fromFile(bundle.pathForResource(name, u"svg"_s, variant));
+    };
+    return {layer(u"face"_s), layer(u"hour"_s), layer(u"minute"_s), layer(u"second"_s)};
+}
+
+/// A preview in a window of its own, at a moment that stands still.
+struct Fixture
+{
+    platform::FixedClocks clocks{QDateTime(QDate(2026, 3, 14), QTime(10, 8, 42)), 500.0};
+    platform::Appearance appearance{platform::Appearance::Scheme::Light};
+    TamselClockPreviewView view{clocks};
+
+    Fixture()
+    {
+        setAppearanceOf(&view, appearance);
+        view.resize(kSize);
+        view.setArtwork(artworkOf(u"orange"_s));
+        view.setBackgroundColor(Qt::red);
+    }
+
+    bool show()
+    {
+        view.show();
+        return QTest::qWaitForWindowExposed(&view);
+    }
+
+    QImage drawn()
+    {
+        QImage image(kSize, QImage::Format_RGB32);
+        QPainter painter(&image);
+        view.drawRect(painter);
+        return image;
+    }
+};
+
+} // namespace
+
+class TestTamselClockPreviewView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clockAndCalendarStandWhereTheyShould_data()
+    {
+        QTest::addColumn<double>("width");
+        QTest::addColumn<double>("progress");
+        QTest::addColumn<QRectF>("clock");
+        QTest::addColumn<QRectF>("calendar");
+        QTest::newRow("alone") << 344.0 << 0.0 << QRectF(85.8, 10.59, 173.726, 173.726)
+                               << QRectF(345.0, 35.23, 132.7, 122.0);
+        QTest::newRow("with calendar") << 344.0 << 1.0 << QRectF(26.0, 30.59, 133.813, 133.813)
+                                       << QRectF(190.12, 35.23, 132.7, 122.0);
+        QTest::newRow("half-way, doubled") << 688.0 << 0.5 << QRectF(111.8, 41.18, 307.539, 307.539)
+                                           << QRectF(535.12, 70.46, 265.4, 244.0);
+    }
+
+    void clockAndCalendarStandWhereTheyShould()
+    {
+        QFETCH(double, width);
+        QFETCH(double, progress);
+        QFETCH(QRectF, clock);
+        QFETCH(QRectF, calendar);
+        const PreviewLayout layout = previewLayout({width, width * 196.0 / 344.0}, progress);
+        const auto near = [](const QRectF &a, const QRectF &b) {
+            return qAbs(a.x() - b.x()) < 1e-9 && qAbs(a.y() - b.y()) < 1e-9 &&
+                   qAbs(a.width() - b.width()) < 1e-9 && qAbs(a.height() - b.height()) < 1e-9;
+        };
+        QVERIFY(near(layout.clockRect, clock));
+        QVERIFY(near(layout.calendarRect, calendar));
+    }
+
+    void theCalendarEasesFromRestToRest()
+    {
+        QCOMPARE(calendarEase(-0.1), 0.0);
+        QCOMPARE(calendarEase(0.0), 0.0);
+        QCOMPARE(calendarEase(1.0), 1.0);
+        QCOMPARE(calendarEase(1.1), 1.0);
+        // A point of the curve, reckoned from its parameter: x(0.5) = 0.305, y(0.5) = 0.875.
+        QVERIFY(qAbs(calendarEase(0.305) - 0.875) < 1e-6);
+        double before = 0.0;
+        for (int i = 1; i <= 100; ++i) {
+            const double now = calendarEase(i / 100.0);
+            QVERIFY2(now > before && now - before < 0.05, qPrintable(QString::number(i)));
+            before = now;
+        }
+    }
+
+    void aReversedCalendarGoesOnFromWhereItStands()
+    {
+        Fixture f;
+        QVERIFY(f.show());
+        f.view.setCalendarEnabled(true);
+        QCOMPARE(f.view.calendarProgress(), 0.0);
+        f.clocks.advance(0.5);
+        const double reached = f.view.calendarProgress();
+        QVERIFY(reached > 0.5 && reached < 1.0);
+        f.view.setCalendarEnabled(false);
+        QCOMPARE(f.view.calendarProgress(), reached);
+        f.clocks.advance(0.01);
+        QVERIFY(f.view.calendarProgress() < reached);
+        f.clocks.advance(1.75);
+        QCOMPARE(f.view.calendarProgress(), 0.0);
+    }
+
+    void anUnseenCalendarIsThereAtOnce()
+    {
+        Fixture f;
+        f.view.setCalendarEnabled(true);
+        QCOMPARE(f.view.calendarProgress(), 1.0);
+        const QImage with = f.drawn();
+        f.view.setCalendarEnabled(false);
+        QCOMPARE(f.view.calendarProgress(), 0.0);
+        QVERIFY(pixels::largestDifference(with, f.drawn()) > 100);
+    }
+
+    void coloursCrossFade()
+    {
+        Fixture f;
+        QVERIFY(f.show());
+        const auto corner = [&] { return f.drawn().pixelColor(2, 2); };
+        QCOMPARE(corner(), QColor(Qt::red));
+        f.view.beginColorTransition();
+        f.view.setBackgroundColor(Qt::blue);
+        QCOMPARE(corner(), QColor(Qt::red));
+        f.clocks.advance(0.14);
+        QVERIFY(alike(corner(), QColor(128, 0, 127), 2));
+        // A second change fades from what is seen, half of the first.
+        f.view.beginColorTransition();
+        f.view.setBackgroundColor(Qt::green);
+        QVERIFY(alike(corner(), QColor(128, 0, 127), 2));
+        f.clocks.advance(0.29);
+        QCOMPARE(corner(), QColor(Qt::green));
+        QVERIFY(!f.view.isFading());
+    }
+
+    void nothingFadesUnseen()
+    {
+        Fixture f;
+        f.view.beginColorTransition();
+        QVERIFY(!f.view.isFading());
+        QVERIFY(f.show());
+        f.view.setArtwork({});
+        f.view.beginColorTransition();
+        QVERIFY(!f.view.isFading());
+    }
+
+    void withoutColoursItIsOrangeAndBlack()
+    {
+        Fixture f;
+        f.view.setBackgroundColor({});
+        QCOMPARE(f.drawn().pixelColor(2, 2), QColor(255, 149, 0));
+    }
+
+    void itTicksOnlyWhileItCanBeSeen()
+    {
+        Fixture f;
+        f.view.startAnimation();
+        QVERIFY(f.view.isAnimating() && !f.view.isTicking());
+        QVERIFY(f.show());
+        QVERIFY(f.view.isTicking());
+        f.view.hide();
+        QVERIFY(f.view.isAnimating() && !f.view.isTicking());
+        f.view.show();
+        QVERIFY(f.view.isTicking());
+        f.view.stopAnimation();
+        QVERIFY(!f.view.isAnimating() && !f.view.isTicking());
+    }
+
+    /// On screen, where only what changed is painted: over a fade, a slide of the calendar and the
+    /// turn of a minute.
+    void whatIsOnScreenIsWhatIsDrawn()
+    {
+        Fixture f;
+        QVERIFY(f.show());
+        f.clocks.setNow(QDateTime(QDate(2026, 3, 14), QTime(10, 8, 58)));
+        f.view.startAnimation();
+        for (int i = 0; i < 200; ++i) {
+            f.clocks.advance(1.0 / 60.0);
+            if (i == 20 || i == 100)
+                f.view.setCalendarEnabled(i == 20);
+            if (i == 60) {
+                f.view.beginColorTransition();
+                f.view.setBackgroundColor(Qt::blue);
+            }
+            int difference = 255;
+            for (int look = 0; look < 100 && difference > 4; ++look) {
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+                const QImage screen = f.view.screen()->grabWindow(f.view.winId()).toImage();
+                difference = pixels::largestDifference(screen.convertToFormat(QImage::Format_RGB32),
+                                                       f.drawn());
+            }
+            QVERIFY2(difference <= 4,
+                     qPrintable(u"frame %1 differs by %2"_s.arg(i).arg(difference)));
+        }
+    }
+
+    void theCornersAreRoundAndSmooth()
+    {
+        Fixture f;
+        f.view.setCornerRadius(10.0);
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            const QImage image = picture(&f.view, scale);
+            QCOMPARE(pixelAt(image, 0.0, 0.0).alpha(), 0);
+            QCOMPARE(pixelAt(image, 172.0, 1.0), QColor(Qt::red));
+            QVERIFY(pixelAt(image, 4.0, 4.0).alpha() == 255);
+            const QRectF smooth = boundsOf(image, [](const QColor &pixel) {
+                return pixel.alpha() > 16 && pixel.alpha() < 240;
+            });
+            QCOMPARE(smooth.toAlignedRect(), QRect(QPoint(), kSize));
+        }
+    }
+
+    void theModeControlIsHeardOnlyWhileItShows()
+    {
+        Fixture f;
+        QWidget child(&f.view);
+        QAccessibleInterface *preview = QAccessible::queryAccessibleInterface(&f.view);
+        QCOMPARE(preview->childCount(), 0);
+        f.view.setShowsModeSelector(true);
+        QCOMPARE(preview->childCount(), 1);
+        QVERIFY(preview->child(0));
+    }
+};
+
+QTEST_MAIN(TestTamselClockPreviewView)
+#include "test_TamselClockPreviewView.moc"
