@@ -11,6 +11,17 @@ function(tamsel_compile_options target)
     endif()
 endfunction()
 
+# tamsel_folder(<target>): makes <target> the library of the current folder. The folder's headers are found, as
+# "folder/Name.h", by it and by what links it; an include against the direction of the libraries does not compile.
+function(tamsel_folder target)
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
+    set(root ${CMAKE_BINARY_DIR}/include/${folder})
+    file(MAKE_DIRECTORY ${root})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${folder} SYMBOLIC)
+    target_include_directories(${target} PUBLIC ${root})
+    tamsel_compile_options(${target})
+endfunction()
+
 if(TAMSEL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=address,undefined)

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "night/SunSchedule.h"
 
-#include "prefs/NightSettings.h"
 #include "night/TamselSolarTimes.h"
 #include "platform/DistributedNotifications.h"
+#include "prefs/NightSettings.h"
 
 #include <array>
 

@@ -31,12 +31,14 @@ const QHash<QString, QColor> &TamselClockSaverView::backgroundColors()
     return ::backgroundColors();
 }
 
-platform::SvgImage TamselClockSaverView::imageForVariant(const QString &variant, const QString &name) const
+platform::SvgImage TamselClockSaverView::imageForVariant(const QString &variant,
+                                                         const QString &name) const
 {
     return ::imageForVariant(m_desktop.bundle, variant, name);
 }
 
-platform::SvgImage TamselClockSaverView::customImageNamed(const QString &name, const QColor &color) const
+platform::SvgImage TamselClockSaverView::customImageNamed(const QString &name,
+                                                          const QColor &color) const
 {
     return ::customImageNamed(m_desktop.bundle, name, color);
 }

@@ -148,7 +148,8 @@ QRectF TamselClockSaverView::calendarRect() const
 
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 {
-    drawFrame(painter, frameAt(clocks().now(), devicePixelRatioF()), m_scratch);
+    FrameScratch scratch;
+    drawFrame(painter, frameAt(clocks().now(), devicePixelRatioF()), scratch);
 }
 
 void TamselClockSaverView::showEvent(QShowEvent *event)
@@ -187,8 +188,7 @@ QWidget *TamselClockSaverView::configureSheet()
         connect(m_options.get(), &OptionsSheet::ended, this,
                 &TamselClockSaverView::configurationEnded);
         // A host may have made the window a child of its own, and destroy it with that.
-        connect(m_options->window(), &QObject::destroyed, this,
-                [this] { m_options.reset(); });
+        connect(m_options->window(), &QObject::destroyed, this, [this] { m_options.reset(); });
     }
     return m_options->configureSheet();
 }

@@ -21,16 +21,14 @@ class TamselClockSaverView : public platform::ScreenSaverView
     Q_OBJECT
 
 public:
-    /// A view whose night lies between clock times. The objects that \p desktop points to must
-    /// outlive it.
+    /// A view with a night between clock times; the objects of \p desktop must outlive it.
     TamselClockSaverView(const platform::Desktop &desktop, bool isPreview,
                          QWidget *parent = nullptr);
     ~TamselClockSaverView() override;
 
     void startAnimation() override;
     void animateOneFrame() override;
-    /// Paints the whole view from its state, which it leaves as it is; the reference for what is on
-    /// screen.
+    /// Paints the whole view and leaves its state as it is; the reference for what is on screen.
     void drawRect(QPainter &painter, const QRectF &dirtyRect) override;
     /// Not so while another session has the screens.
     bool isSeen() const override;
@@ -39,32 +37,23 @@ public:
 
     /// Somebody changed a setting, or the session came back: checks at once.
     void screenSaverPreferencesMayHaveChanged() { reloadVariantIfNeeded(); }
-    /// The moment the schedule is evaluated for: now.
-    QDateTime scheduleDate() const;
 
     bool hasConfigureSheet() const override { return true; }
-    /// The window of the options sheet, owned by this view, built with the first call. The caller
-    /// shows it and hears by configurationEnded() that it was dismissed.
+    /// The options sheet's window, built with the first call; configurationEnded() tells its end.
     QWidget *configureSheet() override;
     /// Null before configureSheet(), as are the sheet's controls.
     OptionsSheet *optionsSheet() const { return m_options.get(); }
     const SettingsSheet *settingsSheet() const;
-
-    const platform::Desktop &desktop() const { return m_desktop; }
     const LoadedPalette &loadedPalette() const { return m_palette.loaded(); }
     const AppliedSettings &appliedSettings() const { return m_palette.applied(); }
-
-    // Forwarders, documented at their owner: Variants and Artwork.
-
+    // Forwarders, documented at their owners. Variants and Artwork:
     static const QStringList &availableVariants();
     static const QStringList &popupVariants();
     static const QHash<QString, QString> &variantLabels();
     static const QHash<QString, QColor> &backgroundColors();
     platform::SvgImage imageForVariant(const QString &variant, const QString &name) const;
     platform::SvgImage customImageNamed(const QString &name, const QColor &color) const;
-
-    // SaverPreferences
-
+    // SaverPreferences:
     QString storedSelectedVariant() { return m_preferences.stored().selectedVariant; }
     void storeSelectedVariant(const QString &variant);
     bool storedCalendarEnabled() { return m_preferences.stored().calendarEnabled; }
@@ -77,13 +66,10 @@ public:
     QVariantMap storedNightSettings() { return m_preferences.stored().nightSettings; }
     /// Stores \p record with the modes chosen in the options sheet, where the schedule has any.
     void storeNightSettings(const QVariantMap &record);
-
-    // NightSchedule
-
+    // NightSchedule:
     bool nightActiveAtDate(const QDateTime &date, const QVariantMap &settings);
-
-    // PaletteOnScreen
-
+    QDateTime scheduleDate() const;
+    // PaletteOnScreen:
     void loadSelectedVariant() { m_palette.loadSelectedVariant(); }
     void loadArtworkForVariant(const QString &variant) { m_palette.loadArtworkForVariant(variant); }
     void loadCustomArtwork() { m_palette.loadCustomArtwork(); }
@@ -94,10 +80,8 @@ public:
     QColor blendFrom(const QColor &from, const QColor &to) const;
     QColor displayedBackgroundColor() const { return m_palette.displayedBackgroundColor(); }
     QColor displayedMarkColor() const { return m_palette.displayedMarkColor(); }
-
-    // OptionsSheet, SheetVisibility and ColorEditing. Without a sheet they do nothing and give
-    // null, an invalid colour, "orange" for the variant, true for the schedule.
-
+    // OptionsSheet, SheetVisibility and ColorEditing; without a sheet these do nothing and give
+    // null, an invalid colour, "orange" for the variant, true for the schedule:
     void updateCustomControlsVisibility();
     void layoutSettingsDayHeight(double dayHeight, double nightHeight);
     void resetSettingsDraft();
@@ -141,7 +125,6 @@ protected:
     TamselClockSaverView(const platform::Desktop &desktop, bool isPreview, QWidget *parent,
                          std::unique_ptr<NightSchedule> schedule);
     NightSchedule &schedule() const { return *m_schedule; }
-
     void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -155,12 +138,10 @@ private:
     SaverPreferences m_preferences;
     std::unique_ptr<NightSchedule> m_schedule;
     PaletteOnScreen m_palette;
-    /// Of frames drawn by drawRect().
-    FrameScratch m_scratch;
     /// The frame on screen, and the device pixels per point that it was painted at.
     ClockFrame m_shown;
     double m_shownRatio = 0.0;
-    /// Draws it, through Qt or for the presenter.
+    /// Draw it, through Qt or for the presenter.
     FramePainter m_painter;
     FrameSurface m_surface;
     /// Points of the presented window to put anew with the next frame.
