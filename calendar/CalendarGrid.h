@@ -40,7 +40,8 @@ private:
     }
 };
 
-/// The grid for a month beside (landscape) or below (portrait) the clock, its units \p unit long.
+/// The grid for a month beside (landscape) or below (portrait) the clock, its lengths multiplied by
+/// \p unit.
 constexpr CalendarGrid calendarGrid(bool portrait, double unit = 1.0)
 {
     if (portrait)

@@ -9,12 +9,12 @@
 
 namespace {
 
-/// Units of a page per unit of the design grid. Font sizes are whole numbers and outlines good to
-/// 1/64 of a unit, which is not enough on a wall unless the units are small.
+/// Units of a page per unit of the design grid. Font sizes are integers and outlines have a
+/// precision of 1/64 unit, which is too coarse for a large screen in units of the design grid.
 constexpr double kFineness = 16.0;
 
-/// The month and the year are laid out apart: in one text, digits are set in the font that stands
-/// in for the letters before them, not in that of the day numbers.
+/// Month and year are laid out separately: in one text, the digits would take the fallback font of
+/// the letters before them instead of the font of the day numbers.
 TextShape titleShape(const CalendarTexts &texts, const QFont &font)
 {
     const TextShape month = textShape(texts.month, font);

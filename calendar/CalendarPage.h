@@ -10,7 +10,7 @@
 #include <array>
 #include <vector>
 
-/// What decides how a month looks, its colours and its size apart.
+/// What the layout of a month depends on, apart from its size.
 struct CalendarMonth
 {
     /// Today; the month is the one that contains it.
@@ -22,13 +22,13 @@ struct CalendarMonth
     bool operator==(const CalendarMonth &) const = default;
 };
 
-/// One month laid out and ready to be drawn in any colours and at any size.
+/// The layout of one month, to be drawn in any colours and at any size.
 struct CalendarPage
 {
     CalendarMonth month;
     /// The design grid in the units of this page, which are those of all its lengths and texts.
     CalendarGrid grid;
-    /// Where the title starts, so that it stands flush with the digits of the first column.
+    /// Where the title starts: flush with the digits of the first column.
     double titleInset = 0.0;
     /// Of the Regular face.
     double capHeight = 0.0;

@@ -11,8 +11,8 @@
 
 namespace {
 
-/// A quarter of the 1/64 pixel to which outlines are resolved: nobody can tell a picture at rest on
-/// this raster from a free one, and the slow breathing of the clock moves it once a second or less.
+/// Positions are rounded to a quarter of the rasteriser's resolution of 1/64 pixel, which cannot be
+/// seen. The slow drift of the clock's size then changes the picture once a second or less.
 constexpr double kStepsPerPixel = 256.0;
 
 double snapped(double length)
@@ -59,8 +59,8 @@ void CalendarPicture::fill(const Look &look)
         m_pixels = QImage(m_area.size(), QImage::Format_ARGB32_Premultiplied);
     m_pixels.fill(Qt::transparent);
     QPainter painter(&m_pixels);
-    // On empty pixels replacing is as good as blending, and several times faster; the square of
-    // today and its number are opaque.
+    // On transparent pixels, replacing gives the same result as blending and is several times
+    // faster. Where shapes overlap, today's number on its square, both are opaque.
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.translate(-m_area.topLeft());
     TamselDrawCalendar(painter, look.background, look.mark, *m_page, rect);

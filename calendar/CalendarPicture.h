@@ -11,28 +11,28 @@
 
 class QPainter;
 
-/// Everything that \p month covers when it is drawn into \p rect. Today's square stands out from
-/// its cell, some scripts stand out from their line.
+/// The area that \p month may cover when it is drawn into \p rect. Today's square exceeds its cell,
+/// and glyphs of some scripts exceed their line.
 QRectF calendarReach(const CalendarMonth &month, const QRectF &rect);
 
-/// The month as pixels, kept from frame to frame. It is laid out when the day, the locale or the
-/// arrangement changes, and filled anew when the colours change or the month moves or grows by
-/// 1/256 pixel of the device. What has been kept never shows: a fresh picture draws the same
-/// pixels.
+/// The pixels of the month, cached from frame to frame. The layout is made again when the day, the
+/// locale or the arrangement changes, the pixels when the colours change or the month moves or
+/// grows by 1/256 device pixel. The cache never shows: a new object draws the same pixels.
 class CalendarPicture
 {
 public:
-    /// Draws \p month as TamselDrawCalendar() does. \p painter may be scaled and moved, not turned.
+    /// Draws \p month as TamselDrawCalendar() does. \p painter may be scaled and translated, but
+    /// not rotated.
     void draw(QPainter &painter, const QColor &background, const QColor &mark,
               const CalendarMonth &month, const QRectF &rect);
 
 private:
-    /// What the pixels depend on beside the page.
+    /// What the pixels depend on, apart from the page.
     struct Look
     {
         QColor background;
         QColor mark;
-        // On the device; the height follows.
+        // In device pixels; the height follows from the width.
         double x;
         double y;
         double width;
@@ -45,6 +45,6 @@ private:
     std::optional<CalendarPage> m_page;
     std::optional<Look> m_look;
     QImage m_pixels;
-    /// Where the pixels stand on the device.
+    /// The place of the pixels on the device.
     QRect m_area;
 };

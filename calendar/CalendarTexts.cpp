@@ -21,7 +21,8 @@ QString twoDigits(int number, const QLocale &locale)
     return number < 10 ? locale.zeroDigit() + digits : digits;
 }
 
-/// Scripts of which Qt takes whole syllables, or less than a letter with its marks, for a grapheme.
+/// Scripts in which Qt takes a whole syllable, or less than a letter with its marks, for a
+/// grapheme.
 bool isSplitBySyllables(QStringView text)
 {
     const auto script = text.isEmpty() ? QChar::Script_Unknown : text.first().script();
@@ -29,8 +30,8 @@ bool isSplitBySyllables(QStringView text)
            script == QChar::Script_Sinhala;
 }
 
-/// Whether \p c is one character with what stands before it. Of the marks, Unicode takes out three
-/// of Burmese: the two long vowels "aa" and the visarga.
+/// Whether \p c extends the character before it. Marks do, except three Burmese ones by Unicode's
+/// rules: the two long vowels "aa" and the visarga.
 bool continuesCharacter(QChar c)
 {
     constexpr std::array kOnTheirOwn{u'\u102B', u'\u102C', u'\u1038'};

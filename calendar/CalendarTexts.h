@@ -7,10 +7,10 @@
 
 #include <array>
 
-/// What is written on the calendar of one month.
+/// The texts of one month's calendar.
 struct CalendarTexts
 {
-    /// Stand-alone, as it is written without a day.
+    /// The stand-alone form, which is used without a day.
     QString month;
     /// The last two digits.
     QString year;

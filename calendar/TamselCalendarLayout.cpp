@@ -29,7 +29,7 @@ constexpr double kDriftDepth = 0.002;
 constexpr double kDriftFloor = 0.998;
 constexpr qint64 kReferenceDateMs = 978307200000; // 2001-01-01T00:00:00Z
 
-/// The calendar's height in widths of its own.
+/// The calendar's height divided by its width.
 double heightByWidth(bool portrait, int rows)
 {
     const CalendarGrid grid = calendarGrid(portrait);

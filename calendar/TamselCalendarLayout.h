@@ -7,11 +7,10 @@
 #include <QLocale>
 #include <QRectF>
 
-/// Where the clock and the month stand in a view. Origin top-left, y downwards, lengths in points,
-/// never rounded.
+/// Positions of clock and month in a view. Origin top-left, y downwards, lengths in points, never
+/// rounded.
 
-/// The calendar of all month arithmetic: Gregorian, whatever the locale. Weeks start on Monday by
-/// arithmetic.
+/// The calendar for all arithmetic with months: Gregorian in every locale. Weeks start on Monday.
 QCalendar TamselCalendar();
 
 /// The number of Monday-first week rows of the month that contains \p date: 4, 5 or 6.
@@ -20,8 +19,8 @@ int TamselCalendarRows(QDate date);
 /// The column of the first day of the month that contains \p date: 0 for Monday to 6 for Sunday.
 int calendarLeadingCells(QDate date);
 
-/// The slow breathing of the full-screen clock at \p now, in [0.998, 1.0]; its period is about 30.7
-/// minutes. It keeps the picture from ever standing perfectly still.
+/// The scale of the full-screen clock at \p now, which oscillates in [0.998, 1.0] with a period of
+/// about 30.7 minutes, so that the picture is never static.
 double calendarDriftScale(const QDateTime &now);
 
 /// Whether clock and calendar stand one above the other in a view of this size: width <= 0.8 *
@@ -42,6 +41,6 @@ CalendarLayoutRects TamselCalendarLayout(QDate date, const QRectF &bounds, doubl
 /// The clock alone: a square of 84 % of the shorter side, centred in \p bounds.
 QRectF TamselSoloClockRect(const QRectF &bounds, double scale);
 
-/// How far the month title stands in from the first column so that it starts where a centred "28"
-/// in the digits of \p locale starts; never negative.
+/// The inset of the month title from the first column, such that it starts where a centred "28" in
+/// the digits of \p locale starts; never negative.
 double TamselCalendarTitleInset(const QFont &font, const QLocale &locale, double cellWidth);

@@ -11,8 +11,7 @@ struct TextShape;
 
 /// Draws \p page scaled to the width of \p rect, from its top-left corner: title, weekday labels
 /// and day numbers in shades of \p mark, today's number in \p background on a square of \p mark.
-/// Draws nothing into a rectangle without width. What is drawn again and again is better kept in a
-/// CalendarPicture.
+/// Draws nothing into a rectangle without width. CalendarPicture caches the result.
 void TamselDrawCalendar(QPainter &painter, const QColor &background, const QColor &mark,
                         const CalendarPage &page, const QRectF &rect);
 
@@ -21,7 +20,7 @@ void TamselDrawCalendar(QPainter &painter, const QColor &background, const QColo
 void TamselDrawCenteredString(QPainter &painter, const TextShape &text, const QColor &color,
                               Qt::Alignment alignment, const QRectF &rect);
 
-/// Draws the day number \p text in the middle of \p cell. Capitals of the height \p capHeight would
-/// stand exactly in its middle, so that numbers of different faces share their baseline.
+/// Draws the day number \p text in the middle of \p cell: a capital of height \p capHeight would be
+/// centred vertically, so that numbers of different faces share their baseline.
 void TamselDrawCalendarDate(QPainter &painter, const TextShape &text, const QColor &color,
                             const QRectF &cell, double capHeight);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kUnlimitedWidth = 1e6;
 
-/// In the table "hhea", from its beginning; big-endian 16-bit numbers in units of the font.
+/// Byte offsets in the table "hhea" of big-endian 16-bit integers in font units.
 constexpr qsizetype kAscender = 4;
 constexpr qsizetype kDescender = 6;
 constexpr qsizetype kEndOfDescender = 8;
@@ -23,8 +23,8 @@ struct Extent
     double descent;
 };
 
-/// The extent that \p font was designed for. Qt takes the one for Windows, which keeps ink from
-/// being cut off and need not lie evenly about the letters.
+/// The extent that the designer of \p font specified. Qt uses the one for Windows, which prevents
+/// clipping and need not be symmetrical about the letters.
 Extent designedExtent(const QRawFont &font)
 {
     const QByteArray table = font.fontTable("hhea");

@@ -6,19 +6,19 @@
 class QFont;
 class QString;
 
-/// One line of text as outlines. They hold at every size, colour and fraction of a pixel, where
-/// glyphs made for one pixel grid would have to be made anew.
+/// One line of text as outlines. Unlike rasterised glyphs they can be drawn at every size and
+/// subpixel position.
 struct TextShape
 {
-    /// The baseline is y = 0 and the line begins at x = 0.
+    /// The baseline is at y = 0, the line begins at x = 0.
     QPainterPath outline;
     double width = 0.0;
-    /// The largest of the fonts that the text is set in, as their designers give them.
+    /// The maximum of the fonts in use, as their designers specified it.
     double ascent = 0.0;
     double descent = 0.0;
 };
 
-/// Lays out \p text in \p font, and in the fonts that stand in for characters it lacks.
+/// Lays out \p text in \p font, and in fallback fonts for characters that it lacks.
 TextShape textShape(const QString &text, const QFont &font);
 
 /// One line of \p left and, after \p gap, \p right.

@@ -14,56 +14,56 @@ constexpr int kLargestSide = 16384; // in device pixels
 constexpr double kLargestScale = 8.0;
 constexpr double kMostIdleMinutes = 24 * 60;
 
-/// The program's options by name; one table for parsing and for the help text.
-struct OptionNames
+struct Option
 {
-    QString root = u"root"_s;
-    QString windowId = u"window-id"_s;
-    QString window = u"window"_s;
-    QString size = u"size"_s;
-    QString snapshot = u"snapshot"_s;
-    QString scale = u"scale"_s;
-    QString at = u"at"_s;
-    QString preview = u"preview"_s;
-    QString idle = u"idle"_s;
-    QString registering = u"register-xscreensaver"_s;
-    QString unregistering = u"unregister-xscreensaver"_s;
-    QString configure = u"configure"_s;
-    QString sheetSnapshot = u"sheet-snapshot"_s;
-    QString dark = u"dark"_s;
-    QString help = u"help"_s;
-    QString version = u"version"_s;
+    QString name;
+    QString description;
+    QString valueName = {}; ///< null for a switch
+    /// The mode that the option asks for.
+    std::optional<Mode> mode = {};
 };
 
-const OptionNames &names()
+const QList<Option> &allOptions()
 {
-    static const OptionNames table;
-    return table;
+    static const QList<Option> options{
+        {u"root"_s,
+         u"Draw into the window that XSCREENSAVER_WINDOW names, or the root window."_s,
+         {},
+         Mode::HostWindow},
+        {u"window-id"_s, u"Draw into the window ID as a settings thumbnail."_s, u"ID"_s,
+         Mode::HostWindow},
+        {u"window"_s, u"Show the clock in an ordinary window."_s, {}, Mode::Window},
+        {u"size"_s, u"Size of the window or picture in points."_s, u"WxH"_s},
+        {u"snapshot"_s, u"Write one frame to FILE as a PNG; needs no display."_s, u"FILE"_s,
+         Mode::Snapshot},
+        {u"scale"_s, u"Device pixels per point of the picture."_s, u"N"_s},
+        {u"at"_s, u"Local time of the picture, as 2026-03-14T22:08:30.5."_s, u"TIME"_s},
+        {u"preview"_s, u"Draw the picture as a settings thumbnail."_s},
+        {u"idle"_s, u"Wait, and show the clock when the user is idle for so long."_s, u"MINUTES"_s,
+         Mode::Idle},
+        {u"register-xscreensaver"_s,
+         u"Enter the clock in the list of savers in ~/.xscreensaver."_s,
+         {},
+         Mode::Register},
+        {u"unregister-xscreensaver"_s, u"Take the clock out of that list."_s, {}, Mode::Unregister},
+        {u"configure"_s,
+         u"Show the options; ends with 0 after OK, with 3 after Cancel."_s,
+         {},
+         Mode::Configure},
+        {u"sheet-snapshot"_s, u"Write the options sheet to FILE as a PNG; needs no display."_s,
+         u"FILE"_s, Mode::SheetSnapshot},
+        {u"dark"_s, u"Draw the options sheet in its dark appearance."_s},
+        {u"help"_s, u"Print this help."_s, {}, Mode::Help},
+        {u"version"_s, u"Print the version."_s, {}, Mode::Version},
+    };
+    return options;
 }
 
 void addOptions(QCommandLineParser &parser)
 {
-    const OptionNames &n = names();
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOptions({
-        {n.root, u"Draw into the window that XSCREENSAVER_WINDOW names, or the root window."_s},
-        {n.windowId, u"Draw into the window ID as a settings thumbnail."_s, u"ID"_s},
-        {n.window, u"Show the clock in an ordinary window."_s},
-        {n.size, u"Size of the window or picture in points."_s, u"WxH"_s},
-        {n.snapshot, u"Write one frame to FILE as a PNG; needs no display."_s, u"FILE"_s},
-        {n.scale, u"Device pixels per point of the picture."_s, u"N"_s},
-        {n.at, u"Local time of the picture, as 2026-03-14T22:08:30.5."_s, u"TIME"_s},
-        {n.preview, u"Draw the picture as a settings thumbnail."_s},
-        {n.idle, u"Wait, and show the clock when the user is idle for so long."_s, u"MINUTES"_s},
-        {n.registering, u"Enter the clock in the list of savers in ~/.xscreensaver."_s},
-        {n.unregistering, u"Take the clock out of that list."_s},
-        {n.configure, u"Show the options; ends with 0 after OK, with 3 after Cancel."_s},
-        {n.sheetSnapshot, u"Write the options sheet to FILE as a PNG; needs no display."_s,
-         u"FILE"_s},
-        {n.dark, u"Draw the options sheet in its dark appearance."_s},
-        {n.help, u"Print this help."_s},
-        {n.version, u"Print the version."_s},
-    });
+    for (const Option &option : allOptions())
+        parser.addOption({option.name, option.description, option.valueName});
 }
 
 std::optional<quint32> windowIdFrom(const QString &text)
@@ -86,19 +86,14 @@ std::optional<QSize> sizeFrom(const QString &text)
     return match.hasMatch() && !size.isEmpty() && fits ? std::optional(size) : std::nullopt;
 }
 
-std::optional<double> scaleFrom(const QString &text)
+/// Reads positive numbers up to \p largest.
+auto positiveNumberUpTo(double largest)
 {
-    bool ok = false;
-    const double scale = text.toDouble(&ok);
-    return ok && scale > 0.0 && scale <= kLargestScale ? std::optional(scale) : std::nullopt;
-}
-
-std::optional<double> idleMinutesFrom(const QString &text)
-{
-    bool ok = false;
-    const double minutes = text.toDouble(&ok);
-    return ok && minutes > 0.0 && minutes <= kMostIdleMinutes ? std::optional(minutes)
-                                                              : std::nullopt;
+    return [largest](const QString &text) {
+        bool ok = false;
+        const double number = text.toDouble(&ok);
+        return ok && number > 0.0 && number <= largest ? std::optional(number) : std::nullopt;
+    };
 }
 
 std::optional<QDateTime> localTimeFrom(const QString &text)
@@ -112,7 +107,8 @@ std::optional<QString> fileFrom(const QString &text)
     return text.isEmpty() ? std::nullopt : std::optional(text);
 }
 
-/// Takes an option's value through \p read; a value it refuses becomes \p error.
+/// Stores the value of the option \p name in \p target. A value that \p read rejects is reported in
+/// \p error.
 template <typename Read, typename Target>
 void take(const QCommandLineParser &parser, const QString &name, Read read, Target &target,
           QString &error)
@@ -126,7 +122,7 @@ void take(const QCommandLineParser &parser, const QString &name, Read read, Targ
         error = u"bad value for --%1: '%2'"_s.arg(name, text);
 }
 
-/// The first option of \p dependent that stands there without any of \p wanted, as an error text.
+/// An error text when an option of \p dependent is given without any of \p wanted, else null.
 QString missingCompanion(const QCommandLineParser &parser, const QStringList &dependent,
                          const QStringList &wanted)
 {
@@ -138,45 +134,30 @@ QString missingCompanion(const QCommandLineParser &parser, const QStringList &de
                                     : u"--%1 needs --%2"_s.arg(*alone, wanted.join(" or --"_L1));
 }
 
-/// The options that each stand for a way to run the program.
-QList<std::pair<QString, Mode>> modes()
-{
-    const OptionNames &n = names();
-    return {{n.snapshot, Mode::Snapshot},
-            {n.window, Mode::Window},
-            {n.configure, Mode::Configure},
-            {n.sheetSnapshot, Mode::SheetSnapshot},
-            {n.idle, Mode::Idle},
-            {n.registering, Mode::Register},
-            {n.unregistering, Mode::Unregister},
-            {n.root, Mode::HostWindow},
-            {n.windowId, Mode::HostWindow}};
-}
-
-/// Two of them that cannot stand together, as an error text.
+/// An error text when two options ask for different modes, else null.
 QString conflict(const QCommandLineParser &parser)
 {
-    std::optional<std::pair<QString, Mode>> first;
-    for (const auto &[name, mode] : modes()) {
-        if (!parser.isSet(name))
+    const Option *first = nullptr;
+    for (const Option &option : allOptions()) {
+        if (!option.mode || !parser.isSet(option.name))
             continue;
-        if (first && first->second != mode)
-            return u"--%1 and --%2 exclude each other"_s.arg(first->first, name);
-        first = {name, mode};
+        if (first && first->mode != option.mode)
+            return u"--%1 and --%2 exclude each other"_s.arg(first->name, option.name);
+        first = &option;
     }
     return {};
 }
 
 Mode modeFrom(const QCommandLineParser &parser, bool windowIsNamed)
 {
-    for (const auto &[name, mode] : modes()) {
-        if (parser.isSet(name))
-            return mode;
+    for (const Option &option : allOptions()) {
+        if (option.mode && parser.isSet(option.name))
+            return *option.mode;
     }
     return windowIsNamed ? Mode::HostWindow : Mode::FullScreen;
 }
 
-/// Qt's wording as one line in our form.
+/// Qt's error text as one line without a capital and a final full stop.
 QString oneLine(QString text)
 {
     text.replace(u'\n', u' ');
@@ -187,16 +168,15 @@ QString oneLine(QString text)
 
 QString usageFault(const QCommandLineParser &parser)
 {
-    const OptionNames &n = names();
     if (!parser.positionalArguments().isEmpty())
         return u"unexpected argument '%1'"_s.arg(parser.positionalArguments().first());
     if (QString error = conflict(parser); !error.isEmpty())
         return error;
     const std::pair<QStringList, QStringList> companions[] = {
-        {{n.at, n.preview}, {n.snapshot}},
-        {{n.scale}, {n.snapshot, n.sheetSnapshot}},
-        {{n.dark}, {n.sheetSnapshot}},
-        {{n.size}, {n.window, n.snapshot}},
+        {{u"at"_s, u"preview"_s}, {u"snapshot"_s}},
+        {{u"scale"_s}, {u"snapshot"_s, u"sheet-snapshot"_s}},
+        {{u"dark"_s}, {u"sheet-snapshot"_s}},
+        {{u"size"_s}, {u"window"_s, u"snapshot"_s}},
     };
     for (const auto &[dependent, wanted] : companions)
         if (QString error = missingCompanion(parser, dependent, wanted); !error.isEmpty())
@@ -209,25 +189,24 @@ QString usageFault(const QCommandLineParser &parser)
 std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
                                                    const QString &namedWindow)
 {
-    const OptionNames &n = names();
     QCommandLineParser parser;
     addOptions(parser);
     if (!parser.parse(arguments))
         return UsageError{oneLine(parser.errorText())};
 
     Options options;
-    if (parser.isSet(n.help) || parser.isSet(n.version)) {
-        options.mode = parser.isSet(n.help) ? Mode::Help : Mode::Version;
+    if (parser.isSet(u"help"_s) || parser.isSet(u"version"_s)) {
+        options.mode = parser.isSet(u"help"_s) ? Mode::Help : Mode::Version;
         return options;
     }
     QString error = usageFault(parser);
     options.hostWindow = windowIdFrom(namedWindow);
-    take(parser, n.windowId, windowIdFrom, options.hostWindow, error);
-    take(parser, n.size, sizeFrom, options.size, error);
-    take(parser, n.scale, scaleFrom, options.scale, error);
-    take(parser, n.idle, idleMinutesFrom, options.idleMinutes, error);
-    take(parser, n.at, localTimeFrom, options.at, error);
-    for (const QString &name : {n.snapshot, n.sheetSnapshot})
+    take(parser, u"window-id"_s, windowIdFrom, options.hostWindow, error);
+    take(parser, u"size"_s, sizeFrom, options.size, error);
+    take(parser, u"scale"_s, positiveNumberUpTo(kLargestScale), options.scale, error);
+    take(parser, u"idle"_s, positiveNumberUpTo(kMostIdleMinutes), options.idleMinutes, error);
+    take(parser, u"at"_s, localTimeFrom, options.at, error);
+    for (const QString &name : {u"snapshot"_s, u"sheet-snapshot"_s})
         take(parser, name, fileFrom, options.pictureFile, error);
     const double longSide = std::max(options.size.width(), options.size.height());
     if (error.isEmpty() && longSide * options.scale > kLargestSide)
@@ -237,8 +216,8 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
         return UsageError{error};
 
     options.mode = modeFrom(parser, options.hostWindow.has_value());
-    options.dark = parser.isSet(n.dark);
-    options.preview = parser.isSet(n.preview) || parser.isSet(n.windowId);
+    options.dark = parser.isSet(u"dark"_s);
+    options.preview = parser.isSet(u"preview"_s) || parser.isSet(u"window-id"_s);
     return options;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/ExitStatus.h"
+
 #include <QDateTime>
 #include <QSize>
 #include <QString>
@@ -11,6 +13,11 @@
 
 namespace host {
 
+using platform::UsageError;
+
+/// The name under which a shell and XScreenSaver find the program.
+inline constexpr char kProgramName[] = "tamsel-clock";
+
 enum class Mode {
     FullScreen,    ///< every screen, until the user comes back
     HostWindow,    ///< inside a window that a host names
@@ -19,8 +26,8 @@ enum class Mode {
     Configure,     ///< the options sheet
     SheetSnapshot, ///< the options sheet as a picture
     Idle,          ///< wait for the user to be idle, then every screen
-    Register,      ///< enter the clock in XScreenSaver's list of programs
-    Unregister,    ///< and take it out again
+    Register,      ///< add the clock to XScreenSaver's list of programs
+    Unregister,    ///< remove it from that list
     Help,
     Version,
 };
@@ -33,28 +40,22 @@ struct Options
     std::optional<quint32> hostWindow;
     /// Draw as the settings thumbnail.
     bool preview = false;
-    /// In points; of a window or a picture.
+    /// Size of the window or picture, in points.
     QSize size{960, 540};
     QString pictureFile;
-    /// The picture of the sheet in its dark appearance.
+    /// Draw the picture of the options sheet in its dark appearance.
     bool dark = false;
-    /// Device pixels per point of a picture.
+    /// Device pixels per point of the picture.
     double scale = 1.0;
-    /// The wall clock of a picture; none means now.
+    /// The local time of the picture; none means now.
     std::optional<QDateTime> at;
-    /// How long the user has to be idle.
+    /// For how long the user has to be idle. Only with Mode::Idle.
     double idleMinutes = 0.0;
 };
 
-/// A wrong use of the command line, in one line without a final full stop.
-struct UsageError
-{
-    QString text;
-};
-
 /// Reads \p arguments (the program's name first) and \p namedWindow, the value of
-/// XSCREENSAVER_WINDOW: a text that is not a number there is some other host's token and counts as
-/// not set.
+/// XSCREENSAVER_WINDOW: a value that is no window id is meant for another kind of host and is
+/// ignored.
 std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
                                                    const QString &namedWindow);
 

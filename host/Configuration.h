@@ -13,7 +13,7 @@ struct Desktop;
 
 namespace host {
 
-/// The one options sheet that may be on screen for the user's settings.
+/// The options sheet as a program of its own; only one is on screen at a time.
 class Configuration
 {
 public:
@@ -25,8 +25,8 @@ public:
     /// Asks the process that shows the sheet to bring it to the front.
     void bringOtherToFront() const { m_single.bringOtherToFront(); }
 
-    /// Shows the sheet of \p view until it is dismissed or the program is told to end. Whether the
-    /// settings were saved.
+    /// Shows the sheet of \p view until it is dismissed or the program is told to end. Returns
+    /// whether the settings were saved.
     bool run(TamselClockSaverView &view) const;
 
 private:

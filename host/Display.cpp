@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "host/Display.h"
 
+#include "platform/ExitStatus.h"
 #include "platform/XcbReply.h"
 
 #include <xcb/xcb.h>
+
+using namespace Qt::StringLiterals;
 
 namespace host {
 
 namespace {
 
-/// A connection of our own, closed before Qt makes its one.
+/// A short-lived connection, closed before Qt opens its own.
 class XConnection
 {
 public:
@@ -75,6 +78,12 @@ bool xWindowExists(quint32 id)
     const platform::XcbReply<xcb_get_window_attributes_reply_t> attributes(
         xcb_get_window_attributes_reply(x.get(), xcb_get_window_attributes(x.get(), id), nullptr));
     return attributes && attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
+}
+
+int complainWithoutDisplay()
+{
+    return platform::complain(
+        u"no display: neither a Wayland compositor nor an X server answers"_s);
 }
 
 } // namespace host

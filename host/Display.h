@@ -7,11 +7,14 @@
 
 namespace host {
 
-/// The window that hosts by convention mean with the root window: a virtual root where a window
-/// manager set one, else the root of the default screen. None without an X server.
+/// The window that stands for the root window by convention: the virtual root if a window manager
+/// set one up, else the root of the default screen. None without an X server.
 std::optional<quint32> xRootWindow();
 
 /// Whether the X server of DISPLAY has a window \p id that can be drawn into.
 bool xWindowExists(quint32 id);
+
+/// Tells the user that there is no display to show windows on; returns the exit status.
+int complainWithoutDisplay();
 
 } // namespace host

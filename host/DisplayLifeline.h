@@ -9,7 +9,8 @@
 
 namespace host {
 
-/// A connection to the session's display that only waits for its end, and so for the session's.
+/// A connection to the session's display server that is only watched for its end, which is the end
+/// of the session.
 class DisplayLifeline : public QObject
 {
     Q_OBJECT
@@ -28,7 +29,7 @@ private:
     void hold(const std::shared_ptr<Connection> &connection, int descriptor,
               bool (*isAlive)(Connection *));
 
-    /// Owns the connection through what it is connected to.
+    /// The slot connected to it owns the display connection.
     std::unique_ptr<QSocketNotifier> m_end;
 };
 

@@ -24,7 +24,7 @@ void GnomeIdleSource::start()
     m_bus.subscribe({kPath, kService, u"WatchFired"_s}, this, [this](const QDBusMessage &signal) {
         fired(signal.arguments().value(0).toUInt());
     });
-    // A compositor that starts again knows nothing of the old watches.
+    // A restarted compositor has no watches.
     m_bus.subscribe({u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s},
                     this, [this](const QDBusMessage &signal) {
                         const QVariantList names = signal.arguments();
@@ -64,7 +64,7 @@ void GnomeIdleSource::fired(quint32 watch)
 {
     if (watch == m_idleWatch && !m_isIdle) {
         m_isIdle = true;
-        // This kind of watch fires once.
+        // A watch for activity fires only once.
         addWatch(u"AddUserActiveWatch"_s, {}, m_activeWatch, [] {});
         Q_EMIT becameIdle();
     } else if (watch == m_activeWatch && m_isIdle) {

@@ -8,7 +8,8 @@
 
 namespace host {
 
-/// GNOME's compositor, which tells when it has seen no input for a while. Nothing is polled.
+/// The idle monitor of GNOME's compositor, which sends a signal when the user becomes idle or
+/// active.
 class GnomeIdleSource final : public IdleSource
 {
     Q_OBJECT

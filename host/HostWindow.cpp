@@ -20,8 +20,8 @@ xcb_connection_t *connection()
     return qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
 }
 
-/// Asks for the window's structure events beside those Qt itself asked for. False when the window
-/// is gone.
+/// Selects the window's structure events in addition to those that Qt selected. False when the
+/// window is gone.
 bool selectStructureEvents(xcb_window_t window)
 {
     const platform::XcbReply<xcb_get_window_attributes_reply_t> attributes(
@@ -74,8 +74,8 @@ bool HostWindow::show()
     return true;
 }
 
-/// Takes over the window's present size. Asked from the server, so that no change is missed between
-/// two events.
+/// Fits the view to the window's present size. The server is asked, since changes before the events
+/// were selected have sent none.
 bool HostWindow::followWindow()
 {
     const QSize size = windowSize(m_window);
@@ -85,7 +85,7 @@ bool HostWindow::followWindow()
     return true;
 }
 
-/// Rounds up: a point too many is clipped by the window, one too few would leave a black strip.
+/// Rounds up: an excess point is clipped by the window, a missing one would leave a black strip.
 void HostWindow::fitView(const QSize &devicePixels)
 {
     const double ratio = m_view->devicePixelRatioF();

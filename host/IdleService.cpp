@@ -13,9 +13,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kSourcePatience = 5s;
-constexpr auto kClockPatience = 2s;
-constexpr auto kFarewell = 1s;
+constexpr auto kSourcePatience = 5s; // for a source to answer
+constexpr auto kClockPatience = 2s;  // from SIGTERM to SIGKILL
+constexpr auto kFarewell = 1s;       // for the clock to end with the service
 
 } // namespace
 
@@ -56,7 +56,7 @@ void IdleService::start()
 void IdleService::tryNextSource()
 {
     if (m_source) {
-        // It may be the one that is speaking.
+        // Not deleted at once: its own signal may have led here.
         m_source->disconnect(this);
         m_source.release()->deleteLater();
     }

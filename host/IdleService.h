@@ -10,24 +10,24 @@
 
 namespace host {
 
-/// Waits in the background of a session and shows the clock, as a program of its own, while the
-/// user is idle: a fault of the clock never ends the waiting.
+/// Runs in the background of a session and shows the clock while the user is idle. The clock is a
+/// child process, so that the service survives a crash of it.
 class IdleService : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \p sources are tried in turn until one is there. \p program is what shows the clock.
-    /// \p clocks must outlive the service.
+    /// \p sources are tried in order until one is available. \p program shows the clock. \p clocks
+    /// must outlive the service.
     IdleService(double idleSeconds, std::vector<MakeIdleSource> sources, const QString &program,
                 const platform::Clocks &clocks);
-    /// Ends a clock that is shown.
+    /// Ends the clock if it is running.
     ~IdleService() override;
 
     void start();
 
 Q_SIGNALS:
-    /// Nothing here can tell when the user is idle, or not any more.
+    /// No idle source is available, or the last one has failed.
     void helpless();
 
 private:

@@ -12,7 +12,7 @@ std::vector<MakeIdleSource> idleSources(double idleSeconds, const platform::Cloc
 {
     std::vector<MakeIdleSource> sources;
     sources.emplace_back([=] { return std::make_unique<GnomeIdleSource>(idleSeconds); });
-    // Under a Wayland compositor the X server hears of nothing but its own windows.
+    // Under Wayland the X server receives only the input of X windows.
     if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         sources.emplace_back([=] { return std::make_unique<XIdleSource>(idleSeconds); });
     else

@@ -15,7 +15,8 @@ constexpr double kIdleLookSeconds = 0.5; // how late a returning user may be not
 constexpr double kSoonestLookSeconds = 0.5;
 
 constexpr double kMillisecond = 0.001;
-/// In units per second: well above a second too much through rounding, well below a thousand.
+/// How fast an idle time in seconds may seem to grow between two readings, despite rounding; one in
+/// milliseconds grows by about 1000 a second.
 constexpr double kFastestSeconds = 30.0;
 constexpr double kSlowestSeconds = 0.3;
 

@@ -5,12 +5,11 @@
 
 namespace host {
 
-/// Decides when a clock that waits for an idle user is shown and ended. Told what happens and at
-/// which second of a monotonic clock, it answers with what to do.
+/// Decides when the clock is shown to an idle user and when it is ended: a state machine that takes
+/// events, with times in seconds of a monotonic clock, and answers with actions.
 ///
-/// The clock appears when the user has been idle for long enough and for as long nothing has asked
-/// to keep the screen on: after a film the waiting begins anew. A clock that fails while the user
-/// is away is started again.
+/// The clock appears when for the whole idle time there was no input and no inhibitor: after a
+/// film, the idle time starts again. A clock that fails while the user is idle is restarted.
 class IdleWatch
 {
 public:
@@ -27,10 +26,10 @@ public:
     Action userIdle();
     Action userActive();
     Action inhibitorsAnswered(bool isInhibited, double now);
-    /// \p failed: the clock died or could not run, as opposed to being ended.
+    /// \p failed: the clock crashed or could not run, instead of being ended by the user.
     Action clockEnded(bool failed, double now);
 
-    /// When timeReached() wants to be called, if at all.
+    /// When to call timeReached(), if at all.
     std::optional<double> nextLook() const { return m_nextLook; }
     Action timeReached();
 
@@ -38,10 +37,10 @@ private:
     enum class State {
         Waiting, ///< for the user to be idle
         Asking,  ///< about inhibitors
-        Held,    ///< by an inhibitor, or by the wait after one
+        Held,    ///< by an inhibitor, or by the idle time after one
         Shown,
-        Failed, ///< and to be shown again
-        Over,   ///< the clock was ended; the user must come back before it is shown again
+        Failed, ///< the clock failed and will be restarted
+        Over,   ///< the user ended the clock; the next idle time starts with userActive()
     };
 
     Action ask();
@@ -53,8 +52,8 @@ private:
     double m_pauseSeconds = 0.0;
 };
 
-/// Turns readings of how long the user has been idle into what an IdleWatch wants to know, with as
-/// few readings as possible.
+/// Derives from polled idle times when the user became idle or active, with as few readings as
+/// possible.
 class IdlePoll
 {
 public:
@@ -75,13 +74,13 @@ private:
     bool m_isIdle = false;
 };
 
-/// Finds out whether an idle time is counted in seconds or in milliseconds: implementations of the
-/// desktop's screen saver service differ. It shows in how far two readings are apart.
+/// Detects by comparing readings whether idle times are counted in seconds or in milliseconds, in
+/// which implementations of the desktop's screen saver service differ.
 class IdleTimeUnit
 {
 public:
-    /// Takes the reading \p value at the second \p now. The idle time in seconds once the unit is
-    /// known.
+    /// Takes the reading \p value made at \p now, in seconds. Returns the idle time in seconds once
+    /// the unit is known.
     std::optional<double> read(double value, double now);
 
 private:

@@ -13,7 +13,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kPatience = 1s;
-/// Flags of what an inhibitor keeps from happening, as their services count them.
+/// What an inhibitor prevents: flags of GNOME's session manager and of KDE's policy agent.
 constexpr quint32 kSessionIsIdle = 8;
 constexpr quint32 kScreenChanges = 4;
 
@@ -30,7 +30,7 @@ bool saysYes(const QDBusMessage &reply)
     return reply.arguments().value(0).toBool();
 }
 
-/// The login manager names what is inhibited as "sleep:idle".
+/// The login manager lists what is inhibited in the form "sleep:idle".
 bool namesIdle(const QDBusMessage &reply)
 {
     const auto inhibited = reply.arguments().value(0).value<QDBusVariant>().variant().toString();

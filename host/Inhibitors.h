@@ -9,9 +9,9 @@
 
 namespace host {
 
-/// What asks the desktop to keep the screen on: a film, a presentation. Asked of everything that
-/// keeps such requests: the session manager of GNOME and its relatives, KDE's and the freedesktop
-/// power managers, the login manager.
+/// Finds out whether a program, such as a video player, has asked the desktop to keep the screen
+/// on. Asks every service that takes such requests: the session manager of GNOME and related
+/// desktops, the power managers of KDE and freedesktop, the login manager.
 class Inhibitors : public QObject
 {
     Q_OBJECT
@@ -19,8 +19,8 @@ class Inhibitors : public QObject
 public:
     Inhibitors();
 
-    /// Calls \p answered once, within a second, whatever the services do; one that is missing or
-    /// silent inhibits nothing. A new question ends an older one without an answer.
+    /// Calls \p answered once, within a second. A service that is missing or does not answer counts
+    /// as not inhibiting. A second call drops a pending one, which is then never answered.
     void ask(const std::function<void(bool isInhibited)> &answered);
 
 private:

@@ -7,14 +7,14 @@
 
 namespace host {
 
-/// Tells a person reaching for the mouse from a pointer that merely stands under a new window or
-/// trembles with the table.
+/// Distinguishes a deliberate movement of the pointer from jitter and from a window that appears
+/// under it.
 class PointerGuard
 {
 public:
     /// Takes the pointer's position on the desktop, in points, at \p seconds of the monotonic
-    /// clock. True when it moved on purpose: further than a few points from where it stood within
-    /// the last second.
+    /// clock. Returns true for a deliberate movement: further than a few points from where it was
+    /// within the last second.
     bool movedOnPurpose(const QPointF &position, double seconds);
 
 private:

@@ -8,7 +8,7 @@
 
 namespace host {
 
-/// A source that has to be asked how long the user has been idle.
+/// A source that polls how long the user has been idle.
 class PolledIdleSource : public IdleSource
 {
     Q_OBJECT
@@ -16,11 +16,11 @@ class PolledIdleSource : public IdleSource
 protected:
     explicit PolledIdleSource(double idleSeconds);
 
-    /// Asks; answered by taken() or takenNothing().
+    /// Reads the idle time; then calls taken() or lookIn(), or emits unavailable().
     virtual void look() = 0;
 
     void taken(double secondsIdle);
-    /// Asks again in \p seconds.
+    /// Calls look() again in \p seconds.
     void lookIn(double seconds);
     void stopLooking() { m_timer.stop(); }
 

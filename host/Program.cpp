@@ -3,9 +3,8 @@
 
 #include "host/Configuration.h"
 #include "host/Display.h"
-#include "host/DisplayLifeline.h"
 #include "host/HostWindow.h"
-#include "host/IdleService.h"
+#include "host/IdleMode.h"
 #include "host/SaverHost.h"
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
@@ -15,43 +14,32 @@
 #include "platform/Desktop.h"
 #include "platform/DisplayServer.h"
 #include "platform/DistributedNotifications.h"
-#include "platform/FileLock.h"
-#include "platform/FileReplacement.h"
+#include "platform/ExitStatus.h"
 #include "platform/LoginSession.h"
 #include "platform/Toolkit.h"
 #include "saver/TamselScheduledSaverView.h"
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QStandardPaths>
-
-#include <chrono>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace host {
 
+using platform::complain;
+using platform::kCancelled;
+using platform::kSuccess;
+
 namespace {
-
-constexpr char kProgramName[] = "tamsel-clock";
-constexpr double kSecondsPerMinute = 60.0;
-
-void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    platform::endIfFatal(kProgramName, type, text);
-}
 
 class Application
 {
 public:
     Application(int &argc, char **argv, const QByteArray &qtPlatform,
                 platform::Interaction interaction)
-        : m_application(platform::makeApplication(argc, argv, qtPlatform, interaction, takeMessage))
+        : m_application(platform::makeApplication(argc, argv, qtPlatform, interaction))
     {
-        QApplication::setApplicationName(QLatin1StringView(kProgramName));
         QApplication::setApplicationDisplayName(u"Tamsel Clock"_s);
-        QApplication::setApplicationVersion(QStringLiteral(TAMSEL_VERSION));
         QGuiApplication::setDesktopFileName(u"org.tamsel.clock"_s);
         m_desktop.clocks = &platform::systemClocks();
         m_desktop.bundle = platform::Bundle::ofProgram();
@@ -62,7 +50,7 @@ public:
 
     const platform::Desktop &desktop() const { return m_desktop; }
 
-    /// Single layers may be missing, but a module without any artwork is not installed.
+    /// Single layers may be missing, but without its default artwork the module is not installed.
     bool hasResources() const
     {
         return QFileInfo(m_desktop.bundle.resourcesPath() + "/orange"_L1).isDir();
@@ -73,7 +61,7 @@ public:
         return std::make_unique<TamselScheduledSaverView>(m_desktop, isPreview);
     }
 
-    /// A view that stands at the moment of \p clocks, which must outlive it.
+    /// A view that shows the time of \p clocks, which must outlive it.
     std::unique_ptr<TamselClockSaverView> makeViewAt(const platform::Clocks &clocks,
                                                      bool isPreview) const
     {
@@ -92,26 +80,24 @@ private:
     platform::Desktop m_desktop;
 };
 
-int complainAndFail(const QString &text)
+int failWithoutWindow(quint32 window)
 {
-    complain(text);
-    return kCouldNotRun;
+    return complain(u"there is no window 0x%1"_s.arg(window, 0, 16));
 }
 
 int failWithoutResources(const Application &application)
 {
-    return complainAndFail(u"the clock's resources are missing: %1"_s.arg(
+    return complain(u"the clock's resources are missing: %1"_s.arg(
         application.desktop().bundle.resourcesPath()));
 }
 
 int savePicture(const QImage &picture, const Options &options)
 {
     if (picture.isNull())
-        return complainAndFail(u"not enough memory for the picture"_s);
+        return complain(u"not enough memory for the picture"_s);
     const QString fault = writePicture(picture, options.pictureFile);
-    return fault.isNull()
-               ? kSuccess
-               : complainAndFail(u"cannot write %1: %2"_s.arg(options.pictureFile, fault));
+    return fault.isNull() ? kSuccess
+                          : complain(u"cannot write %1: %2"_s.arg(options.pictureFile, fault));
 }
 
 int runSnapshot(const Options &options, const Application &application)
@@ -145,7 +131,7 @@ int runHostWindow(const Options &options, Application &application, quint32 wind
     QApplication::setQuitOnLastWindowClosed(false);
     HostWindow hostWindow(application.makeView(options.preview), window);
     if (!hostWindow.show())
-        return complainAndFail(u"there is no window 0x%1"_s.arg(window, 0, 16));
+        return failWithoutWindow(window);
     return application.exec();
 }
 
@@ -172,25 +158,20 @@ int inHostWindow(const Options &options, int argc, char **argv)
     auto connection = platform::connectToXServer();
     const std::optional<quint32> window = options.hostWindow ? options.hostWindow : xRootWindow();
     if (!connection || !window)
-        return complainAndFail(u"no X display can be reached"_s);
+        return complain(u"no X display can be reached"_s);
     if (!xWindowExists(*window))
-        return complainAndFail(u"there is no window 0x%1"_s.arg(*window, 0, 16));
+        return failWithoutWindow(*window);
     Application application(argc, argv, "xcb", platform::Interaction::Watching);
     connection.reset();
     return application.hasResources() ? runHostWindow(options, application, *window)
                                       : failWithoutResources(application);
 }
 
-int failWithoutDisplay()
-{
-    return complainAndFail(u"no display: neither a Wayland compositor nor an X server answers"_s);
-}
-
 int onDisplay(const Options &options, int argc, char **argv)
 {
     auto display = platform::reachableDisplay();
     if (!display)
-        return failWithoutDisplay();
+        return complainWithoutDisplay();
     const auto interaction = options.mode == Mode::FullScreen ? platform::Interaction::Watching
                                                               : platform::Interaction::Working;
     Application application(argc, argv, display->qtPlatform, interaction);
@@ -212,91 +193,29 @@ int asPicture(const Options &options, int argc, char **argv)
                                           : runSheetSnapshot(options, application);
 }
 
-int print(const QString &text)
-{
-    std::fputs(text.toLocal8Bit().constData(), stdout);
-    return kSuccess;
-}
-
-/// Where nobody else can put a lock. The preferences serve when the runtime folder is missing and
-/// the one that the toolkit would make for it is not ours.
-QString privateFolder()
-{
-    QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (!runtime.isEmpty())
-        return runtime;
-    QString preferences = platform::userPreferencesFolder();
-    platform::makePrivateFolder(preferences);
-    return preferences;
-}
-
-/// One waits per session, and a session is known by its display.
-QString idleLockPath()
-{
-    const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
-    QString display = wayland.isEmpty() ? qEnvironmentVariable("DISPLAY") : wayland;
-    display.replace(u'/', u'_');
-    return privateFolder() + "/tamsel-clock-idle-%1.lock"_L1.arg(display);
-}
-
-int waitForIdleUser(const Options &options, int argc, char **argv)
-{
-    qInstallMessageHandler(takeMessage);
-    platform::prepareEnvironment();
-    QCoreApplication application(argc, argv);
-    const TerminationSignals signalsEndIt;
-    const DisplayLifeline display;
-    if (!display.isConnected() || !platform::reachableDisplay())
-        return failWithoutDisplay();
-    const QString lockPath = idleLockPath();
-    const platform::FileLock only(lockPath, std::chrono::milliseconds(0));
-    if (only.isTaken())
-        return complainAndFail(u"already waiting in this session"_s);
-    if (!only.isHeld())
-        return complainAndFail(u"cannot lock %1"_s.arg(lockPath));
-
-    const platform::Clocks &clocks = platform::systemClocks();
-    const double seconds = options.idleMinutes * kSecondsPerMinute;
-    IdleService service(seconds, idleSources(seconds, clocks), platform::programPath(), clocks);
-    QObject::connect(&display, &DisplayLifeline::ended, &application,
-                     [] { QCoreApplication::exit(kSuccess); });
-    QObject::connect(&service, &IdleService::helpless, &application, [] {
-        QCoreApplication::exit(
-            complainAndFail(u"nothing in this session tells when the user is idle"_s));
-    });
-    QMetaObject::invokeMethod(&service, &IdleService::start, Qt::QueuedConnection);
-    return QCoreApplication::exec();
-}
-
 int runRegistration(Registration wanted, int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QString fault = registerWithXScreenSaver(wanted);
-    return fault.isNull() ? kSuccess : complainAndFail(fault);
+    return fault.isNull() ? kSuccess : complain(fault);
 }
 
 } // namespace
-
-void complain(const QString &text)
-{
-    std::fprintf(stderr, "%s: %s\n", kProgramName, text.toLocal8Bit().constData());
-}
 
 int run(const Options &options, int argc, char **argv)
 {
     switch (options.mode) {
     case Mode::Help: {
         const QCoreApplication application(argc, argv);
-        return print(helpText());
+        return platform::print(helpText());
     }
     case Mode::Version:
-        return print(
-            QStringLiteral("%1 " TAMSEL_VERSION "\n").arg(QLatin1StringView(kProgramName)));
+        return platform::printVersion();
     case Mode::Snapshot:
     case Mode::SheetSnapshot:
         return asPicture(options, argc, argv);
     case Mode::Idle:
-        return waitForIdleUser(options, argc, argv);
+        return waitForIdleUser(options.idleMinutes, argc, argv);
     case Mode::Register:
         return runRegistration(Registration::Listed, argc, argv);
     case Mode::Unregister:

@@ -18,10 +18,10 @@ namespace host {
 namespace {
 
 constexpr std::chrono::milliseconds kSettlingTime(500);
-/// A display server that loses a screen may move the pointer first and tell of the screen then.
+/// A display server that loses a screen may report the pointer's movement before the loss.
 constexpr std::chrono::milliseconds kScreenNewsTime(150);
 
-/// The screens to cover. Of screens that show the same picture the first is enough.
+/// The screens to cover: the first of those that mirror each other.
 QList<QScreen *> distinctScreens()
 {
     QList<QScreen *> distinct;
@@ -37,8 +37,8 @@ QList<QScreen *> distinctScreens()
     return distinct;
 }
 
-/// A pointer without a picture. Qt's blank cursor will not do: on Wayland one that is set before
-/// the pointer enters is taken for set already when it enters, and the compositor's arrow stays.
+/// A transparent cursor. Qt's blank cursor does not work on Wayland: if it was set before the
+/// pointer enters, Qt does not set it again on entry, and the compositor's arrow stays.
 QCursor invisiblePointer()
 {
     QPixmap nothing(1, 1);
@@ -83,15 +83,15 @@ void SaverHost::followScreen(QScreen *screen) const
     connect(screen, &QScreen::geometryChanged, this, &SaverHost::screensChanged);
 }
 
-/// Screens change in several steps, and windows are moved meanwhile: what is right now may not be
-/// when all is quiet.
+/// Screens change in several steps that also move windows, so the views are checked now and again
+/// when the screens have settled.
 void SaverHost::screensChanged()
 {
     screensMoved();
     syncViews();
 }
 
-/// Movements shortly before and after are the display server's.
+/// Pointer movements shortly before and after are made by the display server.
 void SaverHost::screensMoved()
 {
     m_moved.stop();
@@ -122,7 +122,8 @@ void SaverHost::cover(QScreen *screen)
     view->setScreen(screen);
     view->setGeometry(screen->geometry());
     view->showFullScreen();
-    // All input comes to the window first; what comes to the view 30 times a second passes it by.
+    // The window receives all input first. A filter on the view would also see its 30 timer events
+    // a second.
     view->windowHandle()->installEventFilter(this);
     view->activateWindow();
     view->startAnimation();
@@ -141,7 +142,7 @@ bool SaverHost::isUserComingBack(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::KeyPress:
-        // A repeat belongs to the key that started the program.
+        // Auto-repeat comes from the key that started the program.
         return !static_cast<QKeyEvent *>(event)->isAutoRepeat();
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:
@@ -150,7 +151,8 @@ bool SaverHost::isUserComingBack(QEvent *event)
         return true;
     case QEvent::Enter:
     case QEvent::MouseMove:
-        // Where screens and windows come and go under the pointer it is not a person that moves it.
+        // A window that appears under the pointer and a change of screens send movements that no
+        // user made.
         if (event->type() == QEvent::Enter || m_settled.isActive())
             m_pointer = PointerGuard();
         if (!m_moved.isActive() &&

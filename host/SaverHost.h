@@ -51,9 +51,9 @@ private:
     std::map<QScreen *, std::unique_ptr<platform::ScreenSaverView>> m_views;
     XScreenChanges m_xScreens;
     PointerGuard m_pointer;
-    /// Runs while screens change.
+    /// Active until the screens have been stable for a while.
     QTimer m_settled;
-    /// Runs from a movement until it is clear that a person made it, and no change of screens.
+    /// Active from a movement until it is certain that no change of screens caused it.
     QTimer m_moved;
 };
 

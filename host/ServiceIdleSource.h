@@ -6,7 +6,7 @@
 
 namespace host {
 
-/// The desktop's screen saver service, as KDE and others have it on the session bus.
+/// The screen saver service that KDE and other desktops offer on the session bus.
 class ServiceIdleSource final : public PolledIdleSource
 {
     Q_OBJECT

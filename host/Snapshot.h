@@ -14,8 +14,8 @@ namespace host {
 /// there is not enough memory.
 QImage pictureOfFrame(platform::ScreenSaverView &view, const QSize &size, double scale);
 
-/// Writes \p picture to \p file as a PNG, whole or not at all. The reason when that failed, else a
-/// null string.
+/// Writes \p picture to \p file as a PNG, atomically. Returns the reason for a failure, else a null
+/// string.
 QString writePicture(const QImage &picture, const QString &file);
 
 } // namespace host

@@ -15,12 +15,11 @@ namespace {
 
 constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
-/// How long the event loop and what it takes down may need. Waiting for a display server or a bus
-/// that does not answer they could need for ever.
+/// How long an orderly end may take: it could block for ever on a display server or bus that does
+/// not answer.
 constexpr itimerspec kGrace = {.it_interval = {}, .it_value = {.tv_sec = 0, .tv_nsec = 75'000'000}};
 
-/// A handler may do little more than write to a pipe and set a timer, and only file-level variables
-/// can tell it which.
+/// For the signal handler, which may only make async-signal-safe calls and has no context.
 int g_wakeUpPipe[2] = {-1, -1};
 timer_t g_deadline;
 
@@ -33,7 +32,7 @@ void endOrderly(int)
     errno = fault;
 }
 
-/// Nothing is lost: files are replaced as a whole, and locks are freed with the process.
+/// Safe at any time: files are replaced atomically, and locks end with the process.
 void endAtOnce(int)
 {
     ::_exit(0);
@@ -59,7 +58,7 @@ bool makeDeadline()
 
 TerminationSignals::TerminationSignals()
 {
-    // Without pipe or timer the default action stays, which ends the process as well.
+    // Without pipe or timer the default action remains, which ends the process as well.
     if (!makeDeadline() || ::pipe2(g_wakeUpPipe, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
     m_notifier = std::make_unique<QSocketNotifier>(g_wakeUpPipe[0], QSocketNotifier::Read);
@@ -70,7 +69,7 @@ TerminationSignals::TerminationSignals()
         handle(signal, endOrderly);
 }
 
-/// The deadline stays: what is destroyed after this may wait for somebody, too.
+/// The deadline stays armed, because what is destroyed after this may block, too.
 TerminationSignals::~TerminationSignals()
 {
     if (!m_notifier)

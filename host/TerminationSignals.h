@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// While it lives, SIGTERM, SIGINT and SIGHUP end the event loop with status 0 at once, and the
-/// process shortly after if it waits for somebody who does not answer. One per process.
+/// While it exists, SIGTERM, SIGINT and SIGHUP end the event loop with status 0, and shortly
+/// afterwards the process, in case it is blocked. At most one per process.
 class TerminationSignals
 {
 public:

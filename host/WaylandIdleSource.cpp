@@ -14,11 +14,11 @@ namespace {
 
 constexpr double kMilliseconds = 1000.0;
 
-/// An object of the connection, which does not end with it, and the request that destroys it.
+/// Owns a protocol object, which closing the connection does not free.
 template <typename Object, auto destroy>
 using Owned = std::unique_ptr<Object, decltype([](Object *object) { destroy(object); })>;
 
-/// Binds the global \p name as \p object if it is of that \p interface and the first of its kind.
+/// Binds the global \p name to \p object if it has that \p interface and \p object is still null.
 void bindFirst(auto &object, wl_registry *registry, quint32 name, const char *kind,
                const wl_interface &interface)
 {
@@ -112,7 +112,7 @@ void WaylandIdleSource::start()
     m_protocol->begin();
 }
 
-/// There is something to read, so this does not wait.
+/// Does not block, because the socket is readable.
 void WaylandIdleSource::dispatch()
 {
     if (wl_display_dispatch(m_protocol->display.get()) >= 0)

@@ -9,8 +9,8 @@ struct wl_display;
 
 namespace host {
 
-/// The idle notification of Wayland compositors (ext-idle-notify-v1), which heeds what keeps the
-/// screen on by itself. Watches the first seat.
+/// The idle notification of Wayland compositors (ext-idle-notify-v1), in which the compositor takes
+/// inhibitors into account. Watches the first seat.
 class WaylandIdleSource final : public IdleSource
 {
     Q_OBJECT

@@ -7,7 +7,7 @@ struct xcb_connection_t;
 
 namespace host {
 
-/// The screen-saver extension of the X server.
+/// The idle time of the X server's screen-saver extension.
 class XIdleSource final : public PolledIdleSource
 {
     Q_OBJECT

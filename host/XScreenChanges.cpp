@@ -11,11 +11,11 @@ namespace host {
 
 namespace {
 
-// Of the RandR protocol. Qt has asked for the events.
+// Of the RandR protocol. Qt selects its events.
 constexpr char kExtension[] = "RANDR";
 constexpr int kScreenChangeNotify = 0;
 constexpr int kNotify = 1;
-/// Kinds of notification above this are of properties, brightness say.
+/// Notifications of a higher kind concern properties such as the brightness.
 constexpr int kOutputChange = 1;
 
 } // namespace

@@ -6,8 +6,8 @@
 
 namespace host {
 
-/// Tells of every change of screens that the X server tells of. Qt keeps quiet about some: it goes
-/// on with the only screen when that is switched off. Silent on other platforms.
+/// Reports every change of screens that the X server reports. Qt does not: it keeps the last screen
+/// when that is switched off. Without effect on other platforms.
 class XScreenChanges : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT

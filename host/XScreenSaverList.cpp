@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/XScreenSaverList.h"
 
+#include "host/CommandLine.h"
+
 #include <QList>
 #include <QRegularExpression>
 #include <QString>
@@ -20,7 +22,7 @@ constexpr auto kEntryEnd = "\\n"; // a backslash and the letter
 constexpr auto kAddedEnd = " \\n\\\n";
 constexpr auto kIndent = "\t\t\t\t";
 
-/// The resources of the file, each with its continuation lines; joined they are the file.
+/// Splits the file into resources, each with its continuation lines.
 QList<QByteArray> logicalLines(const QByteArray &file)
 {
     QList<QByteArray> lines;
@@ -35,8 +37,8 @@ QList<QByteArray> logicalLines(const QByteArray &file)
     return lines;
 }
 
-/// The place of the resource \p key among the first \p count of \p lines, -1 when there is none.
-/// The last one counts.
+/// The index of the resource \p key among the first \p count of \p lines, -1 when there is none.
+/// The last one takes effect.
 qsizetype indexOfResource(const QList<QByteArray> &lines, const char *key, qsizetype count)
 {
     for (qsizetype i = count - 1; i >= 0; --i) {
@@ -67,13 +69,13 @@ bool isBlank(const QByteArray &text)
     return rest.trimmed().isEmpty();
 }
 
-/// The resource "programs", taken apart; the pieces joined are the resource.
+/// The resource "programs", split into pieces without loss.
 struct ProgramList
 {
     QByteArray head;           ///< the key and what stands before the first entry
     QList<QByteArray> entries; ///< each with the end mark and the line break that belong to it
     QByteArray tail;
-    bool isOpen = false; ///< the last entry has no end mark, as it may
+    bool isOpen = false; ///< the last entry has no end mark, which is allowed
 
     explicit ProgramList(const QByteArray &resource);
     QByteArray joined() const { return head + entries.join() + tail; }
@@ -92,7 +94,7 @@ ProgramList::ProgramList(const QByteArray &resource)
     for (qsizetype i = begin; i < resource.size(); ++i) {
         if (resource.at(i) != '\\' || i + 1 == resource.size())
             continue;
-        ++i; // what follows a backslash has no meaning of its own
+        ++i; // skips the escaped character
         if (resource.at(i) != 'n')
             continue;
         if (continuesAt(resource, i + 1))
@@ -109,7 +111,7 @@ ProgramList::ProgramList(const QByteArray &resource)
     }
 }
 
-/// The new entry ends in the way the last one did, which tells removeLast() what to restore.
+/// The new entry ends as the last one did, from which removeLast() derives what to restore.
 void ProgramList::append(const QByteArray &entry)
 {
     QByteArray &before = entries.isEmpty() ? head : entries.last();
@@ -143,9 +145,9 @@ struct Span
     qsizetype length;
 };
 
-/// Where \p entry names the clock's program, if it does: after the mark of a saver that is not
-/// picked at random, a visual's name and a quoted title. None of these parts is ever tried in a
-/// second way, so the time is linear.
+/// Where \p entry names the clock's program, if it does: after the mark of a disabled saver, a
+/// visual's name and a quoted title, all optional. The form does not backtrack, so that matching
+/// takes linear time.
 std::optional<Span> clockProgram(const QByteArray &entry)
 {
     static const QRegularExpression form(
@@ -157,7 +159,7 @@ std::optional<Span> clockProgram(const QByteArray &entry)
                             : std::nullopt;
 }
 
-/// Lowers the number in the resource "selected" by the entries before it that are \p gone.
+/// Lowers the index in the resource "selected" by the number of entries before it that are \p gone.
 void followRemoval(QList<QByteArray> &lines, const QList<bool> &gone)
 {
     const qsizetype at = indexOfResource(lines, "selected", lines.size());
@@ -175,8 +177,8 @@ void followRemoval(QList<QByteArray> &lines, const QList<bool> &gone)
         line.replace(begin, digits.size(), QByteArray::number(selected - lower));
 }
 
-/// Takes the clock out of the list \p at that place of \p lines. True when the list was made for
-/// the clock, see withClockListed(), and has gone as a whole.
+/// Removes the clock from the list in \p lines \p at that index. Returns true when the whole list
+/// was removed, because withClockListed() had created it.
 bool removeClock(QList<QByteArray> &lines, qsizetype at)
 {
     ProgramList list(lines.at(at));
@@ -208,8 +210,9 @@ QByteArray withClockListed(const QByteArray &file, const QByteArray &program)
     const QByteArray entry = "\"Tamsel Clock\"\t" + program + " --root";
     QList<QByteArray> lines = logicalLines(file);
     const qsizetype at = indexOfResource(lines, "programs", lines.size());
-    // Before all others, a new resource meets no line that is still open. An empty list of the
-    // user's is continued on a line of the clock's own, which tells the two apart later.
+    // A new resource is put first, where no unfinished continuation can precede it. In an empty
+    // list of the user's the clock gets a continuation line, by which removeClock() tells the two
+    // apart.
     if (at < 0)
         return "programs:\t" + entry + '\t' + kEntryEnd + '\n' + file;
     ProgramList list(lines.at(at));
@@ -229,7 +232,7 @@ QByteArray withClockListed(const QByteArray &file, const QByteArray &program)
 QByteArray withClockUnlisted(const QByteArray &file)
 {
     QList<QByteArray> lines = logicalLines(file);
-    // Without a list that goes as a whole, the one before it counts.
+    // When a whole list was removed, the one before it takes effect and is cleaned, too.
     qsizetype at = lines.size();
     do
         at = indexOfResource(lines, "programs", at);

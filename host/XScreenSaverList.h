@@ -5,20 +5,16 @@
 
 namespace host {
 
-/// The name under which XScreenSaver finds the clock.
-inline constexpr auto kProgramName = "tamsel-clock";
+/// Edits XScreenSaver's list of programs, the resource "programs" of the user's ~/.xscreensaver.
+/// XScreenSaver runs only what is listed, and users can change no other list.
 
-/// The clock's line in XScreenSaver's own list of programs: the resource "programs" of the user's
-/// ~/.xscreensaver. XScreenSaver finds no saver by itself, and only this file is the user's to
-/// change.
-
-/// \p file, the text of a ~/.xscreensaver, with the clock run as \p program in its list; everything
-/// else stays byte for byte. The clock comes last, since "selected" counts the programs. Of a clock
-/// that is in the list already only the program is corrected.
+/// Returns \p file, the text of a ~/.xscreensaver, with an entry that runs the clock as \p program;
+/// everything else stays byte for byte. The entry is appended, since "selected" is an index into
+/// the list. If the clock is listed already, only its program is replaced.
 QByteArray withClockListed(const QByteArray &file, const QByteArray &program);
 
-/// \p file without the clock in its list of programs, wherever its program stands. "selected" goes
-/// on meaning the same saver. What withClockListed() added to a file goes to the last byte.
+/// Returns \p file without the entries of the clock, whatever the path of its program. "selected"
+/// is adjusted to mean the same saver as before. Undoes withClockListed() exactly.
 QByteArray withClockUnlisted(const QByteArray &file);
 
 /// \p path as a command of the list, quoted where needed; empty when the list cannot express it.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/XScreenSaverRegistration.h"
 
+#include "host/CommandLine.h"
 #include "host/XScreenSaverList.h"
 #include "platform/FileReplacement.h"
 #include "platform/SmallFile.h"
@@ -19,7 +20,7 @@ namespace host {
 
 namespace {
 
-/// The running program by its bare name where XScreenSaver finds it under that.
+/// The command for the running program: its bare name if that is found in PATH.
 QByteArray ownProgram()
 {
     const QString path = QCoreApplication::applicationFilePath();
@@ -29,7 +30,8 @@ QByteArray ownProgram()
     return isFound ? QByteArray(kProgramName) : listedProgram(QFile::encodeName(path));
 }
 
-/// Replaces or removes the file at \p path. The reason when that failed.
+/// Replaces the file at \p path, or removes it if \p contents are empty. Returns the reason for a
+/// failure.
 QString replaceFile(const QString &path, const QByteArray &contents)
 {
     const QFileInfo old(path);

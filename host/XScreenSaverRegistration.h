@@ -7,8 +7,8 @@ namespace host {
 
 enum class Registration { Listed, Unlisted };
 
-/// Gives the user's ~/.xscreensaver the state \p wanted, atomically and with its permissions kept;
-/// a link is followed. The reason when that failed, else a null string.
+/// Adds the clock to the user's ~/.xscreensaver or removes it, atomically. Permissions are kept, a
+/// symbolic link is followed. Returns the reason for a failure, else a null string.
 QString registerWithXScreenSaver(Registration wanted);
 
 } // namespace host

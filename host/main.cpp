@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "host/Program.h"
 
+#include <QCoreApplication>
+
 int main(int argc, char **argv)
 {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-
-    const auto parsed =
-        host::parseCommandLine(arguments, qEnvironmentVariable("XSCREENSAVER_WINDOW"));
-    if (const auto *error = std::get_if<host::UsageError>(&parsed)) {
-        host::complain(error->text);
-        return host::kWrongUsage;
-    }
-    // Qt would take options of its own out of the command line, "-display" say; ours are the only
-    // ones.
+    QCoreApplication::setApplicationName(QLatin1StringView(host::kProgramName));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TAMSEL_VERSION));
+    const auto parsed = host::parseCommandLine(platform::argumentsFrom(argc, argv),
+                                               qEnvironmentVariable("XSCREENSAVER_WINDOW"));
+    if (const auto *error = std::get_if<host::UsageError>(&parsed))
+        return platform::complain(error->text, platform::kWrongUsage);
+    // Keeps Qt from reading options of its own, such as "-display".
     int programNameOnly = 1;
     return host::run(std::get<host::Options>(parsed), programNameOnly, argv);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "location/CityChooser.h"
 
+#include "location/Look.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -17,10 +19,8 @@ namespace location {
 
 namespace {
 
-constexpr int kSpacing = 8;
 constexpr int kRowsShown = 6;
 constexpr int kRowHeight = 26;
-constexpr int kFieldHeight = 30;
 
 bool movesInList(int key)
 {
@@ -36,14 +36,14 @@ CityChooser::CityChooser(const ZoneCities &cities, QWidget *parent)
     m_field->setPlaceholderText(u"Search for a city or country"_s);
     m_field->setAccessibleName(u"Search for a city or country"_s);
     m_field->setClearButtonEnabled(true);
-    m_field->setMinimumHeight(kFieldHeight);
+    m_field->setMinimumHeight(kControlHeight);
     m_field->installEventFilter(this);
     m_list->setAccessibleName(u"Cities"_s);
     m_list->setUniformItemSizes(true);
     m_list->setMinimumHeight(kRowsShown * kRowHeight);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->setSpacing(kSpacing);
+    layout->setSpacing(kControlSpacing);
     layout->addWidget(m_field);
     layout->addWidget(m_list);
     setFocusProxy(m_field);

@@ -20,14 +20,14 @@ public:
     /// \p cities must outlive the widget.
     explicit CityChooser(const ZoneCities &cities, QWidget *parent = nullptr);
 
-    /// Shows \p city as the chosen one without reporting it; none clears the choice.
+    /// Selects \p city without emitting chosen(); none clears the selection.
     void setCity(const std::optional<ZoneCity> &city);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     void chosen(const location::ZoneCity &city);
-    /// Return was pressed on a choice.
+    /// Return was pressed while a city was selected.
     void confirmed();
 
 private:

@@ -3,44 +3,46 @@
 
 #include "location/Coordinates.h"
 
+#include <QHash>
+
 using namespace Qt::StringLiterals;
 
 namespace location {
 
 namespace {
 
-Request setRequest(const QString &value)
+std::variant<Options, UsageError> setOptions(const QString &value)
 {
-    const auto location = locationFrom(value);
-    if (!location)
-        return UsageError{
-            u"'%1' is no LAT,LON in degrees, such as 60.17,24.94 or -33.87,151.21"_s.arg(value)};
-    return SetLocation{*location};
+    if (const auto location = locationFrom(value))
+        return Options{Mode::Set, *location};
+    return UsageError{
+        u"'%1' is no LAT,LON in degrees, such as 60.17,24.94 or -33.87,151.21"_s.arg(value)};
 }
 
 } // namespace
 
-Request parseCommandLine(const QStringList &arguments)
+std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments)
 {
+    static const QHash<QString, Mode> kModes{{u"--help"_s, Mode::Help},
+                                             {u"-h"_s, Mode::Help},
+                                             {u"--version"_s, Mode::Version},
+                                             {u"--show"_s, Mode::Show},
+                                             {u"--forget"_s, Mode::Forget}};
     const QString option = arguments.value(1);
     if (option.startsWith("--set="_L1) && arguments.size() == 2)
-        return setRequest(option.section(u'=', 1));
+        return setOptions(option.section(u'=', 1));
+    if (option == "--set"_L1 && arguments.size() == 3)
+        return setOptions(arguments[2]);
     if (option == "--set"_L1)
-        return arguments.size() == 3 ? setRequest(arguments[2])
-                                     : UsageError{u"--set wants one LAT,LON"_s};
+        return UsageError{u"--set wants one LAT,LON"_s};
     if (arguments.size() > 2)
         return UsageError{u"too many arguments; see --help"_s};
     if (arguments.size() < 2)
-        return ShowWindow{};
-    if (option == "--help"_L1 || option == "-h"_L1)
-        return ShowHelp{};
-    if (option == "--version"_L1)
-        return ShowVersion{};
-    if (option == "--show"_L1)
-        return ShowLocation{};
-    if (option == "--forget"_L1)
-        return ForgetLocation{};
-    return UsageError{u"unknown option '%1'; see --help"_s.arg(option)};
+        return Options{};
+    const auto mode = kModes.find(option);
+    if (mode == kModes.end())
+        return UsageError{u"unknown option '%1'; see --help"_s.arg(option)};
+    return Options{*mode};
 }
 
 QString helpText()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "night/SolarLocation.h"
+#include "platform/ExitStatus.h"
 
 #include <QString>
 #include <QStringList>
@@ -10,38 +11,26 @@
 
 namespace location {
 
-struct ShowWindow
-{
-};
-struct ShowHelp
-{
-};
-struct ShowVersion
-{
-};
-/// Print the saved location and today's sun.
-struct ShowLocation
-{
-};
-struct SetLocation
-{
-    SolarLocation location;
-};
-struct ForgetLocation
-{
+using platform::UsageError;
+
+enum class Mode {
+    Window, ///< choose a place
+    Help,
+    Version,
+    Show, ///< print the saved location and today's sun
+    Set,
+    Forget,
 };
 
-/// A wrong use of the command line, in one line without a final full stop.
-struct UsageError
+struct Options
 {
-    QString text;
+    Mode mode = Mode::Window;
+    /// To be saved. Only with Mode::Set.
+    SolarLocation location = {};
 };
 
-using Request = std::variant<ShowWindow, ShowHelp, ShowVersion, ShowLocation, SetLocation,
-                             ForgetLocation, UsageError>;
-
-/// What \p arguments (the program's name first) ask for.
-Request parseCommandLine(const QStringList &arguments);
+/// Reads \p arguments, the program's name first.
+std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments);
 
 /// The text that --help prints.
 QString helpText();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "location/CoordinateFields.h"
 
+#include "location/Look.h"
 #include "platform/Appearance.h"
 
 #include <QGridLayout>
@@ -13,8 +14,6 @@ namespace location {
 
 namespace {
 
-constexpr int kSpacing = 8;
-constexpr int kFieldHeight = 30;
 constexpr int kLongestText = 24;
 
 QLineEdit *addField(QGridLayout *layout, int column, const QString &name, const QString &example)
@@ -22,7 +21,7 @@ QLineEdit *addField(QGridLayout *layout, int column, const QString &name, const 
     auto *field = new QLineEdit;
     field->setPlaceholderText(example);
     field->setMaxLength(kLongestText);
-    field->setMinimumHeight(kFieldHeight);
+    field->setMinimumHeight(kControlHeight);
     auto *label = new QLabel(name);
     label->setBuddy(field);
     layout->addWidget(label, 0, column);
@@ -30,9 +29,23 @@ QLineEdit *addField(QGridLayout *layout, int column, const QString &name, const 
     return field;
 }
 
-bool isFaulty(const QLineEdit *field, Axis axis)
+/// Why the text of \p field is no angle on \p axis; null when it is one or is empty.
+QString faultOf(const QLineEdit *field, Axis axis)
 {
-    return !field->text().trimmed().isEmpty() && !degreesFrom(field->text(), axis);
+    if (field->text().trimmed().isEmpty() || degreesFrom(field->text(), axis))
+        return {};
+    return axis == Axis::Latitude
+               ? u"A latitude is a number of degrees from −90 to 90, such as 60.17 or 33.87 S."_s
+               : u"A longitude is a number of degrees from −180 to 180, such as 24.94 or 70.5 W."_s;
+}
+
+/// Marks \p field as faulty, or as faultless when \p fault is null.
+void mark(QLineEdit *field, const QString &fault)
+{
+    setTextColor(field, fault.isNull() ? field->parentWidget()->palette().color(QPalette::Text)
+                                       : platform::Appearance::shared().systemRedColor());
+    field->setToolTip(fault);
+    field->setAccessibleDescription(fault);
 }
 
 } // namespace
@@ -41,8 +54,8 @@ CoordinateFields::CoordinateFields(QWidget *parent) : QWidget(parent), m_fault(n
 {
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins({});
-    layout->setHorizontalSpacing(kSpacing);
-    layout->setVerticalSpacing(kSpacing / 2);
+    layout->setHorizontalSpacing(kControlSpacing);
+    layout->setVerticalSpacing(kControlSpacing / 2);
     m_latitude = addField(layout, 0, u"L&atitude"_s, u"60.17"_s);
     m_longitude = addField(layout, 1, u"L&ongitude"_s, u"24.94"_s);
     m_fault->setWordWrap(true);
@@ -62,31 +75,13 @@ void CoordinateFields::setLocation(const SolarLocation &location)
 
 void CoordinateFields::followAppearance()
 {
-    QPalette warning = palette();
-    warning.setColor(QPalette::WindowText, platform::Appearance::shared().systemRedColor());
-    m_fault->setPalette(warning);
-    mark(m_latitude, Axis::Latitude);
-    mark(m_longitude, Axis::Longitude);
-}
-
-void CoordinateFields::mark(QLineEdit *field, Axis axis)
-{
-    const bool faulty = isFaulty(field, axis);
-    const bool isLatitude = axis == Axis::Latitude;
-    const QString fault =
-        isLatitude
-            ? u"A latitude is a number of degrees from −90 to 90, such as 60.17 or 33.87 S."_s
-            : u"A longitude is a number of degrees from −180 to 180, such as 24.94 or 70.5 W."_s;
-    QPalette colors = palette();
-    if (faulty)
-        colors.setColor(QPalette::Text, platform::Appearance::shared().systemRedColor());
-    field->setPalette(colors);
-    field->setToolTip(faulty ? fault : QString());
-    field->setAccessibleDescription(faulty ? fault : QString());
-    if (faulty)
-        m_fault->setText(fault);
-    m_fault->setVisible(isFaulty(m_latitude, Axis::Latitude) ||
-                        isFaulty(m_longitude, Axis::Longitude));
+    const QString latitudeFault = faultOf(m_latitude, Axis::Latitude);
+    const QString longitudeFault = faultOf(m_longitude, Axis::Longitude);
+    mark(m_latitude, latitudeFault);
+    mark(m_longitude, longitudeFault);
+    setTextColor(m_fault, platform::Appearance::shared().systemRedColor());
+    m_fault->setText(longitudeFault.isNull() ? latitudeFault : longitudeFault);
+    m_fault->setVisible(!m_fault->text().isEmpty());
 }
 
 void CoordinateFields::report()

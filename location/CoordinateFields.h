@@ -10,7 +10,7 @@ class QLineEdit;
 
 namespace location {
 
-/// Latitude and longitude to type in. A field that makes no sense turns red and says why.
+/// Text fields for latitude and longitude. A field that cannot be read turns red and says why.
 class CoordinateFields : public QWidget
 {
     Q_OBJECT
@@ -18,20 +18,18 @@ class CoordinateFields : public QWidget
 public:
     explicit CoordinateFields(QWidget *parent = nullptr);
 
-    /// Shows \p location without reporting it.
+    /// Shows \p location without emitting edited().
     void setLocation(const SolarLocation &location);
 
-    /// Takes over the colours of the desktop.
+    /// Updates the colours to those of the desktop.
     void followAppearance();
 
 Q_SIGNALS:
-    /// The user typed: the location, or none while the two fields are none.
+    /// The user typed; none while the two fields make no location.
     void edited(const std::optional<SolarLocation> &location);
 
 private:
     void report();
-    /// Marks \p field when what it holds is no angle on \p axis.
-    void mark(QLineEdit *field, Axis axis);
 
     QLineEdit *m_latitude;
     QLineEdit *m_longitude;

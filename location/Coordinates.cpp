@@ -71,7 +71,7 @@ QString coordinatesText(const SolarLocation &location)
            withHemisphere(location.longitude, u'E', u'W');
 }
 
-/// By the haversine formula, which is exact enough for near points too.
+/// Uses the haversine formula, which is accurate for small distances, too.
 double distance(const SolarLocation &from, const SolarLocation &to)
 {
     const double north = std::sin((to.latitude - from.latitude) * kRadians / 2.0);

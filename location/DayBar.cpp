@@ -24,7 +24,7 @@ double fractionOfDay(QTime time)
     return time.msecsSinceStartOfDay() / kMillisecondsOfDay;
 }
 
-/// The lit parts of \p bar: one, or two when the daylight runs over midnight.
+/// The highlighted parts of \p bar: one, or two when the daylight spans midnight.
 QPainterPath litParts(const QRectF &bar, const DaylightHours &daylight)
 {
     const auto part = [&](double from, double to) {

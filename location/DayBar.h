@@ -8,15 +8,15 @@
 
 namespace location {
 
-/// Sunrise and sunset of one day by the local clock; in a place far away the day may begin before
-/// midnight.
+/// Sunrise and sunset on one day by this computer's clock; at a distant place the sun may rise
+/// after it sets.
 struct DaylightHours
 {
     QTime sunrise;
     QTime sunset;
 };
 
-/// A day from midnight to midnight as a bar, the daylight on it lit.
+/// A bar for the day from midnight to midnight, with the daylight highlighted.
 class DayBar : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ class DayBar : public QWidget
 public:
     explicit DayBar(QWidget *parent = nullptr);
 
-    /// None: a day without a sunrise or a sunset, or no place.
+    /// None on a day without a sunrise or a sunset, or without a place.
     void setDaylight(const std::optional<DaylightHours> &daylight);
 
     QSize sizeHint() const override;

@@ -4,15 +4,16 @@
 #include "controls/OverlayScrollArea.h"
 #include "location/CityChooser.h"
 #include "location/CoordinateFields.h"
+#include "location/Look.h"
+#include "location/PlaceCard.h"
+#include "location/SaveBar.h"
 #include "location/ServiceFinder.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/WindowPlacement.h"
 
-#include <QAccessible>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -24,10 +25,6 @@ namespace location {
 
 namespace {
 
-constexpr int kMargin = 24;
-constexpr int kSpacing = 16;
-constexpr int kButtonSpacing = 8;
-constexpr int kButtonHeight = 30;
 constexpr int kWidth = 440;
 constexpr double kTitleSize = 20.0;
 constexpr double kTextSize = 13.0;
@@ -40,12 +37,14 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
     : QDialog(parent, Qt::Window), m_desktop(desktop), m_cities(std::move(cities)),
       m_store(desktop), m_sun(desktop), m_card(new PlaceCard(this)),
       m_finder(new ServiceFinder(*desktop.clocks, this)),
-      m_chooser(new CityChooser(m_cities, this)), m_coordinates(new CoordinateFields(this))
+      m_chooser(new CityChooser(m_cities, this)), m_coordinates(new CoordinateFields(this)),
+      m_saveBar(new SaveBar(this))
 {
     setWindowTitle(u"Pelko Location"_s);
     setFont(platform::systemFont(kTextSize));
     layOut();
     connectWays();
+    connectButtons();
     connect(&platform::Appearance::shared(), &platform::Appearance::changed, this,
             &LocationWindow::followAppearance);
     followAppearance();
@@ -61,8 +60,7 @@ LocationWindow::~LocationWindow() = default;
 void LocationWindow::layOut()
 {
     QWidget *content = makeContent();
-    m_footer = makeFooter();
-    const int height = content->sizeHint().height() + m_footer->sizeHint().height();
+    const int height = content->sizeHint().height() + m_saveBar->sizeHint().height();
     m_area = new OverlayScrollArea(*m_desktop.clocks, content, this);
     m_area->setWidgetResizable(true);
     m_area->setMinimumWidth(content->minimumSizeHint().width());
@@ -70,20 +68,20 @@ void LocationWindow::layOut()
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_area, 1);
-    layout->addWidget(m_footer);
+    layout->addWidget(m_saveBar);
     const QRectF frame(0, 0, kWidth, height);
     resize(platform::frameOnScreen(frame, height, screen()->availableGeometry()).toRect().size());
     content->installEventFilter(this);
     installEventFilter(this);
 }
 
-/// All but the footer, which keeps its buttons in sight on a small screen.
+/// All but the save bar, whose buttons stay in sight on a small screen.
 QWidget *LocationWindow::makeContent()
 {
     auto *content = new QWidget(this);
     auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, 0);
-    layout->setSpacing(kSpacing);
+    layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, 0);
+    layout->setSpacing(kSectionSpacing);
     layout->addWidget(makeIntroduction());
     layout->addWidget(m_card);
     layout->addWidget(m_finder);
@@ -94,10 +92,10 @@ QWidget *LocationWindow::makeContent()
 
 int LocationWindow::neededHeight() const
 {
-    return m_area->widget()->heightForWidth(width()) + m_footer->heightForWidth(width());
+    return m_area->widget()->heightForWidth(width()) + m_saveBar->heightForWidth(width());
 }
 
-/// Makes room for a message, where the screen has some.
+/// Enlarges the window for a message as far as the screen allows.
 void LocationWindow::growToContent()
 {
     const QRect frame =
@@ -123,40 +121,10 @@ QWidget *LocationWindow::makeIntroduction()
     text->setWordWrap(true);
     auto *layout = new QVBoxLayout(introduction);
     layout->setContentsMargins({});
-    layout->setSpacing(kSpacing / 2);
+    layout->setSpacing(kSectionSpacing / 2);
     layout->addWidget(title);
     layout->addWidget(text);
     return introduction;
-}
-
-QWidget *LocationWindow::makeFooter()
-{
-    auto *footer = new QWidget(this);
-    m_message = new QLabel;
-    m_message->setWordWrap(true);
-    m_forget = new QPushButton(u"Fo&rget location"_s);
-    m_forget->setAutoDefault(false);
-    auto *close = new QPushButton(u"&Close"_s);
-    close->setAutoDefault(false);
-    m_save = new QPushButton(u"&Save"_s);
-    m_save->setDefault(true);
-    for (QPushButton *button : {m_forget, close, m_save})
-        button->setMinimumHeight(kButtonHeight);
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(kButtonSpacing);
-    buttons->addWidget(m_forget);
-    buttons->addStretch();
-    buttons->addWidget(close);
-    buttons->addWidget(m_save);
-    auto *layout = new QVBoxLayout(footer);
-    layout->setContentsMargins(kMargin, kSpacing, kMargin, kMargin);
-    layout->setSpacing(kButtonSpacing);
-    layout->addWidget(m_message);
-    layout->addLayout(buttons);
-    connect(m_forget, &QPushButton::clicked, this, &LocationWindow::forget);
-    connect(close, &QPushButton::clicked, this, &LocationWindow::reject);
-    connect(m_save, &QPushButton::clicked, this, &LocationWindow::save);
-    return footer;
 }
 
 void LocationWindow::connectWays()
@@ -167,7 +135,8 @@ void LocationWindow::connectWays()
         chooseCity(city);
         m_area->reveal(m_chooser); // the arrow keys move in the list from the field above it
     });
-    connect(m_chooser, &CityChooser::confirmed, m_save, qOverload<>(&QPushButton::setFocus));
+    connect(m_chooser, &CityChooser::confirmed, m_saveBar->saveButton(),
+            qOverload<>(&QPushButton::setFocus));
     connect(m_coordinates, &CoordinateFields::edited, this,
             [this](const std::optional<SolarLocation> &location) {
                 m_finder->cancel();
@@ -176,15 +145,22 @@ void LocationWindow::connectWays()
             });
 }
 
-/// Begins with the saved place, else with the city of the time zone.
+void LocationWindow::connectButtons()
+{
+    connect(m_saveBar->forgetButton(), &QPushButton::clicked, this, &LocationWindow::forget);
+    connect(m_saveBar->closeButton(), &QPushButton::clicked, this, &LocationWindow::reject);
+    connect(m_saveBar->saveButton(), &QPushButton::clicked, this, &LocationWindow::save);
+}
+
+/// Chooses the saved place, else the city of the time zone.
 void LocationWindow::suggest(const QString &systemZone)
 {
     if (const auto saved = m_store.load()) {
         chooseFound(*saved);
-        tell({});
+        m_saveBar->tell({});
     } else if (const auto city = m_cities.ofZone(systemZone)) {
         chooseCity(*city);
-        tell(u"Suggested by your time zone; nothing is saved yet."_s);
+        m_saveBar->tell(u"Suggested by your time zone; nothing is saved yet."_s);
     } else {
         choose(std::nullopt);
     }
@@ -208,26 +184,17 @@ void LocationWindow::chooseFound(const SolarLocation &location)
 void LocationWindow::choose(const std::optional<SolarLocation> &location)
 {
     m_choice = location;
-    m_card->setPlace(placeOf(location));
-    tell({});
+    showPlace();
+    m_saveBar->tell({});
     refreshButtons();
 }
 
-std::optional<Place> LocationWindow::placeOf(const std::optional<SolarLocation> &location)
+void LocationWindow::showPlace()
 {
-    if (!location)
-        return std::nullopt;
-    m_sun.setLocation(location);
-    const QDateTime now = m_desktop.clocks->now();
-    const auto sunrise = m_sun.eventOnDate(u"sunrise"_s, now);
-    const auto sunset = m_sun.eventOnDate(u"sunset"_s, now);
-    Place place{m_cities.placeName(*location), *location, std::nullopt};
-    if (sunrise && sunset) {
-        place.daylight = DaylightHours{sunrise->time(), sunset->time()};
-        place.hasOtherTime = !m_cities.keepsLocalTime(*location, *sunrise) ||
-                             !m_cities.keepsLocalTime(*location, *sunset);
-    }
-    return place;
+    if (m_choice)
+        m_card->setPlace(placeAt(*m_choice, m_cities, m_sun, m_desktop.clocks->now()));
+    else
+        m_card->setPlace(std::nullopt);
 }
 
 void LocationWindow::save()
@@ -247,7 +214,10 @@ void LocationWindow::forget()
 void LocationWindow::write(const platform::PatientWrite::Attempt &attempt, const QString &done)
 {
     m_write.start(attempt, [this, done](const platform::StoreOutcome &outcome) {
-        tell(outcome ? done : outcome.text() + u'.', !outcome);
+        if (outcome)
+            m_saveBar->tell(done);
+        else
+            m_saveBar->tell(outcome.text() + u'.', SaveBar::Tone::Fault);
         refreshButtons();
     });
 }
@@ -255,11 +225,11 @@ void LocationWindow::write(const platform::PatientWrite::Attempt &attempt, const
 void LocationWindow::refreshButtons()
 {
     m_saved = m_store.load();
-    m_forget->setEnabled(m_saved.has_value());
-    m_save->setEnabled(m_choice && m_choice != m_saved);
+    m_saveBar->forgetButton()->setEnabled(m_saved.has_value());
+    m_saveBar->saveButton()->setEnabled(m_choice && m_choice != m_saved);
 }
 
-/// Leaves the choice as it is.
+/// The choice stays.
 void LocationWindow::followStore()
 {
     const auto known = m_saved;
@@ -267,23 +237,11 @@ void LocationWindow::followStore()
     if (m_saved == known)
         return;
     if (!m_saved)
-        tell(u"Another program forgot the saved location."_s);
+        m_saveBar->tell(u"Another program forgot the saved location."_s);
     else if (m_saved == m_choice)
-        tell(u"Another program saved this place."_s);
+        m_saveBar->tell(u"Another program saved this place."_s);
     else
-        tell(u"Another program saved another place."_s);
-}
-
-void LocationWindow::tell(const QString &text, bool isFault)
-{
-    const auto &appearance = platform::Appearance::shared();
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText,
-                    isFault ? appearance.systemRedColor() : appearance.secondaryLabelColor());
-    m_message->setPalette(colors);
-    m_message->setText(text);
-    QAccessibleEvent event(m_message, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+        m_saveBar->tell(u"Another program saved another place."_s);
 }
 
 void LocationWindow::followAppearance()
@@ -291,16 +249,15 @@ void LocationWindow::followAppearance()
     setPalette(platform::Appearance::shared().palette());
     m_card->followAppearance();
     m_coordinates->followAppearance();
-    tell(m_message->text());
+    m_saveBar->followAppearance();
 }
 
-/// Another program may have saved meanwhile without a bus to tell of it, and another day may have
-/// begun.
+/// Without a bus nobody reports what another program saved, and the date may have changed.
 void LocationWindow::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        m_card->setPlace(placeOf(m_choice));
+        showPlace();
         followStore();
     }
 }

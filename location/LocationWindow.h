@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "location/PlaceCard.h"
 #include "location/ZoneCities.h"
 #include "night/SolarLocation.h"
 #include "night/TamselSolarTimes.h"
@@ -13,18 +12,18 @@
 #include <optional>
 
 class OverlayScrollArea;
-class QLabel;
-class QPushButton;
 
 namespace location {
 
 class CityChooser;
 class CoordinateFields;
+class PlaceCard;
+class SaveBar;
 class ServiceFinder;
 
-/// The window that chooses, saves and forgets the place whose sun the clock follows. Three ways
-/// lead to a place: the location service, a list of cities, and typed coordinates; whichever was
-/// used last counts.
+/// The window that chooses, saves and forgets the place whose sun the clock follows. A place comes
+/// from the location service, a list of cities or typed coordinates; the one used last takes
+/// effect.
 class LocationWindow : public QDialog
 {
     Q_OBJECT
@@ -38,7 +37,6 @@ public:
 
     /// The place that Save would save.
     const std::optional<SolarLocation> &choice() const { return m_choice; }
-    ServiceFinder &finder() { return *m_finder; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -47,47 +45,43 @@ protected:
 
 private:
     QWidget *makeIntroduction();
-    QWidget *makeFooter();
     void layOut();
     QWidget *makeContent();
     int neededHeight() const;
     void growToContent();
     void suggest(const QString &systemZone);
     void connectWays();
+    void connectButtons();
 
     void choose(const std::optional<SolarLocation> &location);
     void chooseCity(const ZoneCity &city);
     void chooseFound(const SolarLocation &location);
-    std::optional<Place> placeOf(const std::optional<SolarLocation> &location);
+    void showPlace();
 
     void save();
     void forget();
-    /// Carries out \p attempt and tells \p done, or why it could not be done.
+    /// Runs \p attempt, then shows \p done or the reason for its failure.
     void write(const platform::PatientWrite::Attempt &attempt, const QString &done);
     void refreshButtons();
     void followStore();
-    void tell(const QString &text, bool isFault = false);
     void followAppearance();
 
     platform::Desktop m_desktop;
     ZoneCities m_cities;
     SolarLocationStore m_store;
-    /// Saves or forgets.
+    /// A save or a removal that may still wait for a lock.
     platform::PatientWrite m_write;
-    /// Computes the sun of the choice; loads and saves nothing.
+    /// For the sun times of the choice; not persistent.
     TamselSolarTimes m_sun;
     std::optional<SolarLocation> m_choice;
-    /// What was saved when it was last looked at.
+    /// The saved place when it was last read.
     std::optional<SolarLocation> m_saved;
     PlaceCard *m_card;
     ServiceFinder *m_finder;
     CityChooser *m_chooser;
     CoordinateFields *m_coordinates;
+    SaveBar *m_saveBar;
     OverlayScrollArea *m_area = nullptr;
-    QWidget *m_footer = nullptr;
-    QLabel *m_message = nullptr;
-    QPushButton *m_forget = nullptr;
-    QPushButton *m_save = nullptr;
 };
 
 } // namespace location

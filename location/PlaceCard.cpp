@@ -2,6 +2,7 @@
 #include "location/PlaceCard.h"
 
 #include "location/Coordinates.h"
+#include "location/Look.h"
 #include "platform/Appearance.h"
 #include "platform/ShortTime.h"
 
@@ -20,19 +21,18 @@ constexpr int kSpacing = 4;
 constexpr int kSpacingAboveSun = 10;
 constexpr double kRadius = 10.0;
 constexpr double kNameSize = 17.0;
-constexpr double kTextSize = 13.0;
-/// The card stands out from the window by this much of the text's colour.
+/// Of the text's colour, with which the card is tinted.
 constexpr double kCardOpacity = 0.05;
 
 QString sunText(const std::optional<Place> &place)
 {
     if (!place)
         return u"Choose a place to see its sunrise and sunset."_s;
-    if (!place->daylight)
+    const auto daylight = place->daylight();
+    if (!daylight)
         return u"The sun does not rise or set there today, so it cannot begin or end a night."_s;
-    const DaylightHours &daylight = *place->daylight;
     return u"Today: sunrise %1, sunset %2%3"_s.arg(
-        platform::shortTimeText(daylight.sunrise), platform::shortTimeText(daylight.sunset),
+        platform::shortTimeText(daylight->sunrise), platform::shortTimeText(daylight->sunset),
         place->hasOtherTime ? u" by this computer's clock"_s : QString());
 }
 
@@ -50,8 +50,6 @@ PlaceCard::PlaceCard(QWidget *parent)
       m_sun(new QLabel(this)), m_bar(new DayBar(this))
 {
     m_name->setFont(platform::systemFont(kNameSize, QFont::DemiBold));
-    m_coordinates->setFont(platform::systemFont(kTextSize));
-    m_sun->setFont(platform::systemFont(kTextSize));
     m_sun->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -73,16 +71,14 @@ void PlaceCard::setPlace(const std::optional<Place> &place)
     m_coordinates->setText(place && !place->name.isNull() ? coordinatesText(place->location)
                                                           : QString());
     m_sun->setText(sunText(place));
-    m_bar->setDaylight(place ? place->daylight : std::nullopt);
+    m_bar->setDaylight(place ? place->daylight() : std::nullopt);
     setAccessibleDescription(
         QStringList{m_name->text(), m_coordinates->text(), m_sun->text()}.join(". "_L1));
 }
 
 void PlaceCard::followAppearance()
 {
-    QPalette quiet = palette();
-    quiet.setColor(QPalette::WindowText, platform::Appearance::shared().secondaryLabelColor());
-    m_coordinates->setPalette(quiet);
+    setTextColor(m_coordinates, platform::Appearance::shared().secondaryLabelColor());
     update();
 }
 

@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "location/DayBar.h"
-#include "night/SolarLocation.h"
+#include "location/Place.h"
 
 #include <QFrame>
-
-#include <optional>
 
 class QLabel;
 
 namespace location {
 
-/// A place and the sun there today.
-struct Place
-{
-    /// "Helsinki, Finland"; null when there is no city near.
-    QString name;
-    SolarLocation location;
-    std::optional<DaylightHours> daylight;
-    /// Whether clocks there show the hours of the daylight otherwise than this computer's.
-    bool hasOtherTime = false;
-};
-
-/// Shows the place that is chosen, in words and as a bar of the day.
+/// Shows the chosen place in words, and its daylight as a bar.
 class PlaceCard : public QFrame
 {
     Q_OBJECT
@@ -34,7 +20,7 @@ public:
     /// None: no place is chosen.
     void setPlace(const std::optional<Place> &place);
 
-    /// Takes over the colours of the desktop.
+    /// Updates the colours to those of the desktop.
     void followAppearance();
 
 protected:

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "location/ServiceFinder.h"
 
+#include "location/Look.h"
 #include "night/TamselSolarTimes.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -18,8 +18,6 @@ namespace location {
 namespace {
 
 constexpr int kProgressHeight = 4;
-constexpr int kButtonHeight = 30;
-constexpr int kSpacing = 8;
 
 QString findText()
 {
@@ -35,7 +33,7 @@ ServiceFinder::ServiceFinder(const platform::Clocks &clocks, QWidget *parent)
 {
     using platform::LocationService;
     m_button->setAutoDefault(false);
-    m_button->setMinimumHeight(kButtonHeight);
+    m_button->setMinimumHeight(kControlHeight);
     m_progress->setRange(0, 0);
     m_progress->setTextVisible(false);
     m_progress->setFixedHeight(kProgressHeight);
@@ -45,7 +43,7 @@ ServiceFinder::ServiceFinder(const platform::Clocks &clocks, QWidget *parent)
     m_message->hide();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->setSpacing(kSpacing);
+    layout->setSpacing(kControlSpacing);
     for (QWidget *widget : std::initializer_list<QWidget *>{m_button, m_progress, m_message})
         layout->addWidget(widget);
 
@@ -95,8 +93,7 @@ void ServiceFinder::end(const QString &text)
     m_progress->hide();
     m_message->setText(text);
     m_message->setVisible(!text.isEmpty());
-    QAccessibleEvent event(m_message, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    announce(m_message);
 }
 
 void ServiceFinder::consider(const platform::LocationFix &fix)

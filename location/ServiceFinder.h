@@ -16,7 +16,7 @@ class Clocks;
 
 namespace location {
 
-/// Asks the desktop's location service when the user says so, and tells in words how it goes.
+/// A button that asks the desktop's location service, with a message about the progress.
 class ServiceFinder : public QWidget
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     /// \p clocks must outlive the widget.
     explicit ServiceFinder(const platform::Clocks &clocks, QWidget *parent = nullptr);
 
-    /// Gives up asking, because the user chose otherwise.
+    /// Cancels a request, because the user chose a place in another way.
     void cancel();
 
     platform::LocationService &service() { return m_service; }

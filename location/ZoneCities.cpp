@@ -61,7 +61,7 @@ QString cityName(const QString &zone)
     return zone.section(u'/', -1).replace(u'_', u' ');
 }
 
-/// Letters alone, small and without accents, one blank between words.
+/// \p text in lower case, without accents and punctuation, with one blank between words.
 QString searchText(const QString &text)
 {
     QString plain;

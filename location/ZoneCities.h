@@ -12,7 +12,7 @@
 
 namespace location {
 
-/// A city after which a time zone is named.
+/// A city that gives its name to a time zone.
 struct ZoneCity
 {
     /// The zone, as "Europe/Helsinki".
@@ -27,42 +27,39 @@ struct ZoneCity
     QString fullName() const;
 };
 
-/// The places that the time zone database knows. They come with every system, so they can be
-/// offered where there is no location service.
+/// The cities of the time zone database. Every system has that, also one without a location
+/// service.
 class ZoneCities
 {
 public:
     /// From the contents of zone.tab, iso3166.tab (countries by code) and tzdata.zi (other names of
-    /// zones). Lines that make no sense are left out.
+    /// zones). Malformed lines are skipped.
     ZoneCities(const QByteArray &zoneTab, const QByteArray &countryTab, const QByteArray &tzdata);
 
-    /// The system's own; empty where the database is not installed.
+    /// From the system's database; empty where that is not installed.
     static ZoneCities ofSystem();
 
-    /// By name.
-    const QList<ZoneCity> &all() const { return m_cities; }
-
-    /// Those whose name or country has words that begin with every word of \p query, whatever their
-    /// case and accents; all for an empty one.
+    /// The cities, ordered by name, whose name or country has words that begin with every word of
+    /// \p query; case and accents are ignored. An empty query finds all.
     QList<ZoneCity> matching(const QString &query) const;
 
-    /// The city of the zone \p zone, which may be one of its older names. None for zones without a
-    /// place, as UTC.
+    /// The city of \p zone, which may be an alias of it. None for zones without a city, such as
+    /// UTC.
     std::optional<ZoneCity> ofZone(const QString &zone) const;
 
     std::optional<ZoneCity> nearestTo(const SolarLocation &location) const;
 
-    /// Whether clocks at \p location show \p moment as this computer's do, as far as the zone of
-    /// the nearest city tells; false when no city is known.
+    /// Whether the zone of the city nearest to \p location has this computer's offset from UTC at
+    /// \p moment; false when no city is known.
     bool keepsLocalTime(const SolarLocation &location, const QDateTime &moment) const;
 
-    /// What to call \p location: a city's name at its very place, "Near" it within 300 km, null
+    /// A name for \p location: that of the city there, "Near" the closest one within 300 km, null
     /// elsewhere.
     QString placeName(const SolarLocation &location) const;
 
 private:
     QList<ZoneCity> m_cities;
-    /// From other names of a zone to the one they stand for.
+    /// The zone that an alias stands for.
     QHash<QString, QString> m_aliases;
 };
 

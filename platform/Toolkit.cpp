@@ -2,6 +2,7 @@
 #include "platform/Toolkit.h"
 
 #include "platform/BusProbe.h"
+#include "platform/ExitStatus.h"
 #include "platform/MessageBus.h"
 
 #include <QAccessible>
@@ -10,7 +11,6 @@
 #include <QDeadlineTimer>
 #include <QFileInfo>
 
-#include <cstdio>
 #include <optional>
 
 #include <unistd.h>
@@ -25,7 +25,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kBusPatience = 1000ms;
 constexpr char kNoBus[] = "disabled:";
-constexpr int kCouldNotRun = 1;
 
 constexpr char kScaleVariable[] = "QT_SCALE_FACTOR";
 constexpr double kSmallestScale = 0.1;
@@ -115,10 +114,17 @@ std::unique_ptr<QApplication> makeWithoutBuses(int &argc, char **argv)
     return application;
 }
 
+void endIfFatal(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtFatalMsg)
+        ::_exit(complain(text.simplified()));
+}
+
 } // namespace
 
-void prepareEnvironment()
+void prepareToolkit()
 {
+    qInstallMessageHandler(endIfFatal);
     dropUnusableScale();
     qunsetenv("SESSION_MANAGER");
     // The plain event loop wakes up and runs at less cost.
@@ -131,10 +137,9 @@ void prepareEnvironment()
 }
 
 std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, const QByteArray &qtPlatform,
-                                              Interaction interaction, QtMessageHandler handler)
+                                              Interaction interaction)
 {
-    qInstallMessageHandler(handler);
-    prepareEnvironment();
+    prepareToolkit();
     qputenv("QT_QPA_PLATFORM", qtPlatform);
     if (interaction == Interaction::Watching) {
         qunsetenv("QT_IM_MODULE");
@@ -143,14 +148,6 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, const QByt
         return std::make_unique<QApplication>(argc, argv);
     }
     return makeWithoutBuses(argc, argv);
-}
-
-void endIfFatal(const char *program, QtMsgType type, const QString &text)
-{
-    if (type != QtFatalMsg)
-        return;
-    std::fprintf(stderr, "%s: %s\n", program, text.simplified().toLocal8Bit().constData());
-    ::_exit(kCouldNotRun);
 }
 
 } // namespace platform

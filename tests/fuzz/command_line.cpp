@@ -16,6 +16,6 @@ void tryBytes(const QByteArray &bytes)
         require(!std::get<host::UsageError>(result).text.isEmpty());
 
     const auto request = location::parseCommandLine(arguments);
-    if (const auto *set = std::get_if<location::SetLocation>(&request))
-        require(set->location.isValid());
+    const auto *location = std::get_if<location::Options>(&request);
+    require(!location || location->location.isValid());
 }

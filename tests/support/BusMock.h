@@ -3,7 +3,7 @@
 
 #include <QProcess>
 
-/// A service on the test's bus, played by python-dbusmock, and changed by calls in gdbus's
+/// A service on the test's bus, mocked by python-dbusmock. Arguments of calls are in gdbus's
 /// notation.
 class BusMock
 {

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-/// What \p view draws, on nothing, at \p scale pixels per point.
+/// What \p view draws on a transparent ground, at \p scale pixels per point.
 inline QImage picture(QWidget *view, double scale)
 {
     QImage image((QSizeF(view->size()) * scale).toSize(), QImage::Format_ARGB32);
@@ -40,7 +40,7 @@ inline QColor composed(const QColor &below, const QColor &over)
                             static_cast<float>(alpha));
 }
 
-/// Whether two pixels look alike: colours count as far as they are opaque.
+/// Whether two pixels look alike: colours are weighted by their opacity.
 inline bool alike(const QColor &a, const QColor &b, int tolerance = 10)
 {
     const auto near = [&](int u, int v) { return std::abs(u - v) <= tolerance; };

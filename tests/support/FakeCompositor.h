@@ -6,8 +6,8 @@
 #include "ext-idle-notify-v1-server-protocol.h"
 #include <wayland-server.h>
 
-/// A Wayland compositor without a screen, run by the test's event loop and named by
-/// WAYLAND_DISPLAY. It has a seat and tells when that is idle, on demand.
+/// A Wayland compositor without outputs, which runs in the test's event loop; WAYLAND_DISPLAY names
+/// it. It has a seat and sends idle notifications on demand.
 class FakeCompositor
 {
 public:
@@ -35,7 +35,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(FakeCompositor)
 
-    /// What the client asked for; 0 before it did.
+    /// The idle time that the client asked for; 0 before it did.
     quint32 idleMilliseconds() const { return m_idleMilliseconds; }
 
     void sendIdled()

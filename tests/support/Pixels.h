@@ -11,8 +11,8 @@
 /// Measures on finished pictures, independent of the code that drew them.
 namespace pixels {
 
-/// How far \p pixel went from \p background towards \p ink, 0 to 1, judged by the channel with the
-/// largest span.
+/// Where \p pixel lies between \p background (0) and \p ink (1), measured in the channel in which
+/// they differ most.
 inline double coverage(QRgb pixel, QRgb background, QRgb ink)
 {
     const auto channel = [](QRgb c, int i) { return int((c >> (8 * i)) & 0xff); };
@@ -67,8 +67,8 @@ inline std::vector<Arc> arcsOnCircle(const QImage &picture, double radius, QRgb 
     return arcs;
 }
 
-/// The direction in which the ink of \p picture lies from its centre, in degrees clockwise from 12
-/// o'clock.
+/// The direction from the centre of \p picture to the centre of mass of its ink, in degrees
+/// clockwise from 12 o'clock.
 inline double inkDirection(const QImage &picture, QRgb background, QRgb ink)
 {
     double x = 0.0;

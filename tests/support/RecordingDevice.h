@@ -14,7 +14,7 @@ struct RecordedFill
     QRectF bounds() const { return path.boundingRect(); }
 };
 
-/// A device that remembers the paths filled on it, in their order and with all fractions.
+/// A device that records the paths filled on it, in order and without rounding.
 class RecordingDevice : public QPaintDevice
 {
 public:

@@ -12,8 +12,8 @@
 
 #include <memory>
 
-/// A saver view with a settings folder and clocks of its own. Settings are written as another
-/// process would.
+/// A saver view with its own settings folder and clocks. Settings are written to files, as another
+/// process does it.
 struct SaverFixture
 {
     QTemporaryDir folder;

@@ -18,7 +18,7 @@
 #include <QApplication>
 #include <QTest>
 
-/// Counted instead of heard: the program's own definition stands in for the toolkit's.
+/// Beeps so far. The test program's QApplication::beep() overrides the toolkit's.
 inline int g_beeps = 0;
 
 /// A view of class \p View whose options sheet is on screen.
@@ -27,7 +27,7 @@ struct SheetFixture : SaverFixture
 {
     std::unique_ptr<View> view;
 
-    /// Opens the sheet on what is stored by now.
+    /// Opens the sheet on the stored settings.
     bool open()
     {
         if (!view)

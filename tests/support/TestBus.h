@@ -8,7 +8,7 @@
 
 #include <csignal>
 
-/// A bus daemon of the test's own at an address that stays the same over restarts.
+/// A private bus daemon, whose address stays the same when it is restarted.
 class TestBus
 {
 public:
@@ -25,7 +25,7 @@ public:
 
     enum class Policy { Open, Deaf };
 
-    /// A deaf daemon takes every connection and withholds every answer.
+    /// A deaf daemon accepts every connection and delivers no reply.
     bool start(Policy policy = Policy::Open)
     {
         const QByteArray receive =
@@ -44,19 +44,19 @@ public:
         return m_daemon.waitForReadyRead(10000);
     }
 
-    /// The daemon goes without a word; its socket file stays.
+    /// Kills the daemon without an orderly end; its socket file stays.
     void kill()
     {
         m_daemon.kill();
         m_daemon.waitForFinished();
     }
 
-    /// From now on the daemon takes connections and data, as the kernel does that, and never
-    /// answers.
+    /// Stops the process: the kernel goes on accepting connections and data, but nothing is
+    /// answered.
     void hang() { ::kill(pid_t(m_daemon.processId()), SIGSTOP); }
     void wake() { ::kill(pid_t(m_daemon.processId()), SIGCONT); }
 
-    /// A plain connection, as any other program has one.
+    /// A connection by Qt, as another program would have it.
     QDBusConnection connection(const QString &name) const
     {
         return QDBusConnection::connectToBus(QString::fromLocal8Bit(address()), name);

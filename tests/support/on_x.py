@@ -9,7 +9,7 @@ from xhost import launch_x_server
 
 end = sys.argv.index("--")
 server = launch_x_server("-screen", "0", "800x600x24", *sys.argv[1:end])
-# The keyboard library copies names that are not terminated, by their length: right, but not in the strictest sense.
+# The keyboard library copies names of known length that are not terminated, which strict string checks reject.
 sanitizers = os.environ.get("ASAN_OPTIONS", "") + ":strict_string_checks=0"
 environment = {**os.environ, "QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": sanitizers, "X_SERVER": str(server.pid)}
 sys.exit(subprocess.run(sys.argv[end + 1:], env=environment).returncode)

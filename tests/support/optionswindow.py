@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""The options window of the running program, used by real pointer and keys; and its stored settings, read by another
-reader."""
+"""The options window of the running program, operated by pointer and keyboard; and its stored settings, read by an
+independent implementation."""
 import contextlib
 import os
 import pathlib

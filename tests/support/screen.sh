@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Sourced by tests that show the clock on a screen: an X server of their own and a look at its pixels.
+# Sourced by tests that show the clock on a screen: a private X server and access to its pixels.
 set -u
 orange='srgb(255,70,0)'
 desktop='srgb(255,0,255)'

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A desktop with an accessibility bus, and a program on it as a screen reader finds it. Wants a session bus."""
+"""An X server with an accessibility bus, and a program as a screen reader sees it. Needs a session bus."""
 import atexit
 import os
 import subprocess
@@ -58,7 +58,7 @@ def has(node, state):
 
 
 def role_of(node):
-    """What it is, by the constant's name: names for people are translated and have changed."""
+    """The role by the name of its constant: the names for people are translated and differ between versions."""
     return node.get_role().value_nick.replace("-", " ")
 
 

@@ -1,6 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A screen-saver host in miniature: an X server of its own, windows for the program to draw into, and a look at the
-pixels. Tests import it; nothing here knows the program's inside."""
+"""A minimal screen-saver host: a private X server, windows for the program to draw into, and access to the pixels."""
 import atexit
 import os
 import subprocess

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "location/Place.h"
+
+#include "location/ZoneCities.h"
+#include "night/TamselSolarTimes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace location {
+
+std::optional<DaylightHours> Place::daylight() const
+{
+    return sunrise && sunset ? std::optional(DaylightHours{*sunrise, *sunset}) : std::nullopt;
+}
+
+Place placeAt(const SolarLocation &location, const ZoneCities &cities, TamselSolarTimes &sun,
+              const QDateTime &now)
+{
+    sun.setLocation(location);
+    Place place{cities.placeName(location), location};
+    const auto timeOf = [&](const QString &event) -> std::optional<QTime> {
+        const auto moment = sun.eventOnDate(event, now);
+        if (!moment)
+            return std::nullopt;
+        place.hasOtherTime = place.hasOtherTime || !cities.keepsLocalTime(location, *moment);
+        return moment->time();
+    };
+    place.sunrise = timeOf(u"sunrise"_s);
+    place.sunset = timeOf(u"sunset"_s);
+    return place;
+}
+
+} // namespace location
