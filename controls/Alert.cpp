@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/Alert.h"
 
+#include "controls/ControlAccessibility.h"
 #include "controls/PushButton.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -28,6 +29,7 @@ Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
       m_message(addText(message, platform::systemFont(kFontSize, QFont::DemiBold))),
       m_information(addText(information, platform::systemFont(kFontSize, QFont::Normal)))
 {
+    setAccessibleRole(this, QAccessible::AlertMessage);
     setAttribute(Qt::WA_DeleteOnClose);
     setCornerRadius(kRadius);
     setMovableByWindowBackground(true);

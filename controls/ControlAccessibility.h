@@ -5,12 +5,7 @@
 
 class QWidget;
 
-/// Makes the controls known to assistive technology with their role, name, value and state. Each
-/// control calls it when it is made; only the first call does anything.
-void installControlAccessibility();
-
-/// Tells assistive technology that \p control changed. Cheap when nobody listens.
-void announce(QWidget *control, QAccessible::Event event);
-void announceChecked(QWidget *control);
-void announceExpanded(QWidget *control);
-void announceValue(QWidget *control, double value);
+/// Tells assistive technology what \p control is. To be called first in the control's constructor:
+/// the toolkit keeps what it learnt when it first asked. Buttons that are only pressed need no
+/// call.
+void setAccessibleRole(QWidget *control, QAccessible::Role role);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/Popover.h"
 
+#include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
@@ -58,10 +59,10 @@ QPoint popoverPosition(const QRect &anchor, const QSize &size, const QRect &boun
                    bounds.top() + bounds.height())};
 }
 
-Popover::Popover(QWidget *content, QWidget *anchor)
-    : QWidget(anchor->window(), kFlags), m_anchor(anchor)
+Popover::Popover(QWidget *content, QWidget *anchor) : QWidget(anchor, kFlags)
 {
-    setAppearanceOf(this, appearanceOf(anchor));
+    setAccessibleRole(this, QAccessible::Dialog);
+    setAccessibleName(anchor->accessibleName());
     setAttribute(Qt::WA_TranslucentBackground);
     // It passes on outside presses itself; the toolkit does so on some platforms only.
     setAttribute(Qt::WA_NoMouseReplay);
@@ -71,8 +72,6 @@ Popover::Popover(QWidget *content, QWidget *anchor)
     content->move(0, 0);
     content->show();
     redrawWithAppearance(this);
-
-    setAccessibleName(anchor->accessibleName());
 }
 
 Popover::~Popover()
@@ -82,20 +81,17 @@ Popover::~Popover()
 
 void Popover::present()
 {
-    QWidget *view = m_anchor;
-    if (!view)
-        return;
-    view->installEventFilter(this);
-    view->window()->installEventFilter(this);
-    connect(view, &QObject::destroyed, this, &QWidget::close);
+    QWidget *anchor = parentWidget();
+    anchor->installEventFilter(this);
+    anchor->window()->installEventFilter(this);
     // Which window takes over is known only after the change: a panel of ours may be next.
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Popover::closeUnlessFocused,
             Qt::QueuedConnection);
 
-    const QRect anchor(view->mapToGlobal(QPoint()), view->size());
-    move(popoverPosition(anchor, size(), platform::placementBounds(view)));
+    const QRect place(anchor->mapToGlobal(QPoint()), anchor->size());
+    move(popoverPosition(place, size(), platform::placementBounds(anchor)));
     show();
-    focusFirst(FocusRing::isShownAround(view) ? Qt::TabFocusReason : Qt::PopupFocusReason);
+    focusFirst(FocusRing::isShownAround(anchor) ? Qt::TabFocusReason : Qt::PopupFocusReason);
 }
 
 void Popover::focusFirst(Qt::FocusReason reason)
@@ -120,7 +116,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         // No control took what was passed on, and a window cannot be moved during this grab.
-        if (watched != parentWidget())
+        if (watched != parentWidget()->window())
             break;
         close();
         return true;
@@ -133,7 +129,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
 void Popover::closeUnlessFocused()
 {
     const QWindow *focused = QGuiApplication::focusWindow();
-    const QWindow *host = parentWidget() ? parentWidget()->windowHandle() : nullptr;
+    const QWindow *host = parentWidget()->window()->windowHandle();
     if (!focused || (focused != windowHandle() && focused != host))
         close();
 }
@@ -156,7 +152,7 @@ void Popover::keyPressEvent(QKeyEvent *event)
 QWidget *Popover::controlAt(const QPointF &globalPosition) const
 {
     QWidget *view = QApplication::widgetAt(globalPosition.toPoint());
-    if (!view || view == m_anchor || view->window() != parentWidget())
+    if (!view || view == parentWidget() || view->window() != parentWidget()->window())
         return nullptr;
     return view;
 }

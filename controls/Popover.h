@@ -17,12 +17,9 @@ class Popover : public QWidget
     Q_OBJECT
 
 public:
-    /// Takes \p content, which has its size already. Belongs to the window of \p anchor.
+    /// Takes \p content, which has its size already. Belongs to \p anchor.
     Popover(QWidget *content, QWidget *anchor);
     ~Popover() override;
-
-    /// Null once it is destroyed.
-    QWidget *anchor() const { return m_anchor; }
 
     /// Shows the panel beside its anchor, with the keyboard in the content.
     void present();
@@ -47,7 +44,6 @@ private:
     QWidget *controlAt(const QPointF &globalPosition) const;
     void reportOnce();
 
-    QPointer<QWidget> m_anchor;
     /// What was pressed outside and gets the pointer's events until its release.
     QPointer<QWidget> m_pressed;
     bool m_reported = false;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/PushButton.h"
 
-#include "controls/ControlAccessibility.h"
 #include "controls/Emphasis.h"
 #include "controls/FocusRing.h"
 #include "controls/LineHeight.h"
@@ -33,7 +32,6 @@ PushButton::PushButton(const QString &title, QWidget *parent)
     setFont(platform::systemFont(kFontSize, QFont::Normal));
     setFocusPolicy(Qt::TabFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] { return FocusRing::Outline{bezel(), m_radius}; });
 }
 

@@ -29,7 +29,7 @@ constexpr double kPageStep = 0.1;
 constexpr double kWheelNotch = 120.0;
 
 /// Where \p key takes a slider that stands at \p value; none for other keys.
-std::optional<double> valueAfterKey(int key, double value, double low, double high)
+std::optional<double> valueAfterKey(int key, double value)
 {
     switch (key) {
     case Qt::Key_Left:
@@ -43,9 +43,9 @@ std::optional<double> valueAfterKey(int key, double value, double low, double hi
     case Qt::Key_PageUp:
         return value + kPageStep;
     case Qt::Key_Home:
-        return low;
+        return TamselGradientSlider::minValue();
     case Qt::Key_End:
-        return high;
+        return TamselGradientSlider::maxValue();
     default:
         return std::nullopt;
     }
@@ -55,9 +55,9 @@ std::optional<double> valueAfterKey(int key, double value, double low, double hi
 
 TamselGradientSlider::TamselGradientSlider(QWidget *parent) : QWidget(parent)
 {
+    setAccessibleRole(this, QAccessible::Slider);
     setFocusPolicy(Qt::StrongFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] {
         const QRectF track = QRectF(rect()).marginsRemoved(kTrackInset);
         return FocusRing::Outline{track, track.height() / 2.0};
@@ -90,8 +90,9 @@ void TamselGradientSlider::setSelectedBrightness(double brightness)
 
 void TamselGradientSlider::setDoubleValue(double value)
 {
-    m_doubleValue = std::clamp(value, m_minValue, std::max(m_minValue, m_maxValue));
-    announceValue(this, m_doubleValue);
+    m_doubleValue = std::clamp(value, minValue(), maxValue());
+    QAccessibleValueChangeEvent event(this, m_doubleValue);
+    QAccessible::updateAccessibility(&event);
     update();
 }
 
@@ -186,7 +187,7 @@ void TamselGradientSlider::wheelEvent(QWheelEvent *event)
 
 void TamselGradientSlider::keyPressEvent(QKeyEvent *event)
 {
-    if (const auto value = valueAfterKey(event->key(), m_doubleValue, m_minValue, m_maxValue))
+    if (const auto value = valueAfterKey(event->key(), m_doubleValue))
         edit(*value);
     else
         QWidget::keyPressEvent(event);

@@ -5,10 +5,12 @@
 #include <QWidget>
 
 /// A slider along one component of a colour: its track shows the colours it can reach, its knob the
-/// one it stands at. Always from left to right.
+/// one it stands at. Always from left to right. Not a QAbstractSlider: that one counts in whole
+/// numbers, to assistive technology too, and is mirrored in right-to-left layouts.
 class TamselGradientSlider : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(double value READ doubleValue WRITE edit)
 
 public:
     enum Component { Hue = 0, Saturation = 1, Brightness = 2 };
@@ -27,12 +29,10 @@ public:
     void setSelectedBrightness(double brightness);
 
     double doubleValue() const { return m_doubleValue; }
-    /// Clamped to the slider's range; reports nothing.
+    /// Clamped to minValue() and maxValue(); emits no edited().
     void setDoubleValue(double value);
-    double minValue() const { return m_minValue; }
-    void setMinValue(double value) { m_minValue = value; }
-    double maxValue() const { return m_maxValue; }
-    void setMaxValue(double value) { m_maxValue = value; }
+    static constexpr double minValue() { return 0.0; }
+    static constexpr double maxValue() { return 1.0; }
 
     /// The colour that position \p value (0 to 1) stands for.
     QColor colorAtValue(double value) const;
@@ -63,6 +63,4 @@ private:
     double m_selectedSaturation = 0.0;
     double m_selectedBrightness = 0.0;
     double m_doubleValue = 0.0;
-    double m_minValue = 0.0;
-    double m_maxValue = 1.0;
 };

@@ -11,12 +11,12 @@
 TamselSettingsView::TamselSettingsView(QWidget *parent) : QWidget(parent)
 {
     redrawWithAppearance(this);
-    installControlAccessibility();
 }
 
 void TamselSettingsView::setGroup(bool group)
 {
     m_group = group;
+    setAccessibleRole(this, group ? QAccessible::Grouping : QAccessible::Client);
     update();
 }
 

@@ -34,23 +34,30 @@ double scaleOf(const QPainter &painter)
 
 TamselSwatchButton::TamselSwatchButton(QWidget *parent) : QAbstractButton(parent)
 {
+    setAccessibleRole(this, QAccessible::Button);
     setFocusPolicy(Qt::TabFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] { return FocusRing::Outline{rect(), width() / 2.0}; });
 }
 
 void TamselSwatchButton::setSwatchColor(const QColor &color)
 {
     m_swatchColor = color;
-    announce(this, QAccessible::DescriptionChanged);
+    tellColor();
     update();
 }
 
 void TamselSwatchButton::setRainbow(bool rainbow)
 {
     m_rainbow = rainbow;
+    tellColor();
     update();
+}
+
+void TamselSwatchButton::tellColor()
+{
+    const bool isOneColor = !m_rainbow && m_swatchColor.isValid();
+    setAccessibleDescription(isOneColor ? m_swatchColor.name().toUpper() : QString());
 }
 
 void TamselSwatchButton::setUsesPickerSelection(bool uses)
@@ -62,7 +69,10 @@ void TamselSwatchButton::setUsesPickerSelection(bool uses)
 void TamselSwatchButton::setPickerActive(bool active)
 {
     m_pickerActive = active;
-    announceExpanded(this);
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
     update();
 }
 

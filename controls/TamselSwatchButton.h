@@ -37,6 +37,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Describes the colour to assistive technology.
+    void tellColor();
     void drawColor(QPainter &painter, const QRectF &swatch) const;
     void drawRim(QPainter &painter, const QRectF &swatch) const;
     void drawRing(QPainter &painter, const QRectF &swatch) const;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselSymbolButton.h"
 
-#include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
 #include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
@@ -22,7 +21,6 @@ TamselSymbolButton::TamselSymbolButton(QWidget *parent) : QAbstractButton(parent
 {
     setFocusPolicy(Qt::TabFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] { return FocusRing::Outline{rect(), outlineRadius()}; });
 }
 

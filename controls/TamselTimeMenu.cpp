@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselTimeMenu.h"
 
+#include "controls/ControlAccessibility.h"
 #include "controls/LineHeight.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
@@ -26,6 +27,7 @@ constexpr double kCircleRadius = kSymbolSide / 2.0;
 
 TamselTimeMenu::TamselTimeMenu(QWidget *parent) : TamselSymbolButton(parent)
 {
+    setAccessibleRole(this, QAccessible::ButtonMenu);
 }
 
 void TamselTimeMenu::alignAtRowCenter(double y)

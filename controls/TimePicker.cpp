@@ -63,6 +63,7 @@ QString typedText(const QKeyEvent &event)
 
 TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
 {
+    setAccessibleRole(this, QAccessible::SpinBox);
     setFrame(false);
     setFocusPolicy(Qt::StrongFocus); // the toolkit's own comes with the wheel as well
     setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -74,7 +75,6 @@ TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
     lineEdit()->installEventFilter(this);
     // By its usual name the toolkit keeps the editor from assistive technology.
     lineEdit()->setObjectName(QStringLiteral("time"));
-    installControlAccessibility();
     followAppearance(this, [this] { takeColors(); });
 }
 

@@ -12,9 +12,15 @@
 class TimePicker : public QTimeEdit
 {
     Q_OBJECT
+    Q_PROPERTY(int value READ minuteOfDay WRITE setMinuteOfDay)
 
 public:
     explicit TimePicker(QWidget *parent = nullptr);
+
+    /// The time in minutes after midnight.
+    int minuteOfDay() const { return time().hour() * 60 + time().minute(); }
+    /// Minutes of no day change nothing.
+    void setMinuteOfDay(int minute) { setTime({minute / 60, minute % 60}); }
 
     /// Shows the time in red, as one that cannot be taken.
     void setRefused(bool refused);
