@@ -23,8 +23,8 @@ QAccessible::Role roleOf(const QObject *control)
     return static_cast<QAccessible::Role>(control->property(kRole).toInt());
 }
 
-/// A button that is switched or opens a menu. The toolkit's own interface for buttons knows no
-/// menu that is made on demand, and its toggle action emits no clicked signal.
+/// A button that is checkable or opens a menu. Qt's own accessible button has no role for a menu
+/// that is created on demand, and its toggle action does not emit clicked().
 class AccessibleButton : public QAccessibleWidget
 {
 public:
@@ -78,8 +78,9 @@ private:
     QAbstractButton *m_button;
 };
 
-/// A swatch is one choice of several, or expands to the popover that edits its colour. The popover
-/// is told as its child: windows of that type are not among the application's windows.
+/// A swatch is either one choice of several, or opens a popover that edits its colour. An open
+/// popover is reported as the swatch's child, because Qt does not list popup windows among the
+/// windows of the application.
 class AccessibleSwatch final : public AccessibleButton
 {
 public:
@@ -130,8 +131,9 @@ private:
     TamselSwatchButton *m_swatch;
 };
 
-/// A number from 0 to \p last, the control's property "value". The toolkit's own interface of a
-/// slider counts in whole numbers, and that of a time has no such number in every version.
+/// A number from 0 to \p last, read and written as the control's property "value". Qt's own
+/// accessible slider has whole numbers only, and its time editor has no number in every version of
+/// Qt.
 class AccessibleNumber final : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -144,7 +146,7 @@ public:
     {
         if (type == QAccessible::ValueInterface)
             return static_cast<QAccessibleValueInterface *>(this);
-        // A number that can be typed has the text of the editor inside.
+        // A number that can be typed shares the text interface of its line edit.
         const bool isText =
             type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface;
         auto *editor = widget()->findChild<QLineEdit *>();
@@ -153,7 +155,7 @@ public:
                    : QAccessibleWidget::interface_cast(type);
     }
 
-    /// Leaves out the editor inside.
+    /// Hides the line edit.
     int childCount() const override { return 0; }
 
     QVariant currentValue() const override { return widget()->property(kValue); }
@@ -170,7 +172,7 @@ private:
 QAccessibleInterface *makeInterface(const QString &, QObject *object)
 {
     auto *control = qobject_cast<QWidget *>(object);
-    // A control whose class is the plain widget is being destroyed.
+    // While a control is destroyed, its class is QWidget in the end; no interface may be made then.
     if (!control || control->metaObject() == &QWidget::staticMetaObject ||
         !control->property(kRole).isValid())
         return nullptr;

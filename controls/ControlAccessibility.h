@@ -5,7 +5,7 @@
 
 class QWidget;
 
-/// Tells assistive technology what \p control is. To be called first in the control's constructor:
-/// the toolkit keeps what it learnt when it first asked. Buttons that are only pressed need no
-/// call.
+/// Sets the role under which assistive technology sees \p control. Call it first in the control's
+/// constructor, because Qt keeps the interface that is made at the first query. Buttons that are
+/// only pressed need no call: Qt knows them by their base class.
 void setAccessibleRole(QWidget *control, QAccessible::Role role);

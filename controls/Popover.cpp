@@ -17,12 +17,12 @@
 namespace {
 
 constexpr double kRadius = 16.0;
-/// Between the anchor and the panel.
+/// Distance between anchor and panel.
 constexpr int kGap = 4;
 
 constexpr Qt::WindowFlags kFlags = Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
 
-/// Gives \p view an event that came to another one.
+/// Sends \p view an event that another widget received.
 void passOn(const QMouseEvent &event, QWidget *view)
 {
     const QPointF position = event.globalPosition();
@@ -33,7 +33,7 @@ void passOn(const QMouseEvent &event, QWidget *view)
     QCoreApplication::sendEvent(view, &again);
 }
 
-/// Moves the focus as a press on \p view by the user does.
+/// Moves the focus as a mouse press on \p view would.
 void focusByClick(QWidget *view)
 {
     for (; view && !view->isWindow(); view = view->parentWidget()) {
@@ -64,7 +64,7 @@ Popover::Popover(QWidget *content, QWidget *anchor) : QWidget(anchor, kFlags)
     setAccessibleRole(this, QAccessible::Dialog);
     setAccessibleName(anchor->accessibleName());
     setAttribute(Qt::WA_TranslucentBackground);
-    // It passes on outside presses itself; the toolkit does so on some platforms only.
+    // The popover passes on outside presses itself; Qt replays them on some platforms only.
     setAttribute(Qt::WA_NoMouseReplay);
     setFixedSize(content->size());
     setMask(roundedShape(size(), kRadius));
@@ -84,7 +84,8 @@ void Popover::present()
     QWidget *anchor = parentWidget();
     anchor->installEventFilter(this);
     anchor->window()->installEventFilter(this);
-    // Which window takes over is known only after the change: a panel of ours may be next.
+    // Queued, because the next focus window is known only after the change, and it may be the
+    // popover or its host.
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Popover::closeUnlessFocused,
             Qt::QueuedConnection);
 
@@ -115,7 +116,8 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        // No control took what was passed on, and a window cannot be moved during this grab.
+        // No control accepted the press that was passed on. The window must not start to move
+        // during the popover's mouse grab.
         if (watched != parentWidget()->window())
             break;
         close();
@@ -157,8 +159,8 @@ QWidget *Popover::controlAt(const QPointF &globalPosition) const
     return view;
 }
 
-// It stays open, and with it the grab, until the button is released: an X server may lose the
-// release of a short click when the grab ends before it.
+// The popover, and with it the mouse grab, stays until the button is released: some X servers drop
+// the release of a short click when the grab ends before it.
 
 void Popover::mousePressEvent(QMouseEvent *event)
 {
@@ -183,7 +185,8 @@ void Popover::mouseMoveEvent(QMouseEvent *event)
         passOn(*event, m_pressed);
 }
 
-// What may open another popup is passed on last: no popup should close below another one.
+// The popover closes before the event is passed on: the event may open another popup, and popups
+// must close from the top down.
 
 void Popover::mouseReleaseEvent(QMouseEvent *event)
 {

@@ -18,9 +18,9 @@ constexpr QMarginsF kTrackInset(1.0, 2.0, 1.0, 2.0);
 constexpr double kOutlineAlpha = 0.25;
 constexpr double kKnobDiameter = 24.0;
 constexpr double kKnobRim = 2.0;
-/// How far from either end the knob's centre stops.
+/// Distance of the knob's centre from the slider's ends at values 0 and 1.
 constexpr double kKnobReach = 14.0;
-/// The spectrum bends between its pure colours; the other tracks are straight.
+/// The hue gradient needs intermediate stops; the others are linear in RGB.
 constexpr int kHueSegments = 12;
 
 constexpr double kStep = 0.01;
@@ -28,7 +28,7 @@ constexpr double kPageStep = 0.1;
 /// Eighths of a degree in one notch of a wheel.
 constexpr double kWheelNotch = 120.0;
 
-/// Where \p key takes a slider that stands at \p value; none for other keys.
+/// The value after \p key is pressed at \p value; none for keys that do not move the slider.
 std::optional<double> valueAfterKey(int key, double value)
 {
     switch (key) {
@@ -62,30 +62,6 @@ TamselGradientSlider::TamselGradientSlider(QWidget *parent) : QWidget(parent)
         const QRectF track = QRectF(rect()).marginsRemoved(kTrackInset);
         return FocusRing::Outline{track, track.height() / 2.0};
     });
-}
-
-void TamselGradientSlider::setComponent(int component)
-{
-    m_component = component;
-    update();
-}
-
-void TamselGradientSlider::setSelectedHue(double hue)
-{
-    m_selectedHue = hue;
-    update();
-}
-
-void TamselGradientSlider::setSelectedSaturation(double saturation)
-{
-    m_selectedSaturation = saturation;
-    update();
-}
-
-void TamselGradientSlider::setSelectedBrightness(double brightness)
-{
-    m_selectedBrightness = brightness;
-    update();
 }
 
 void TamselGradientSlider::setDoubleValue(double value)
@@ -151,7 +127,7 @@ void TamselGradientSlider::drawKnob(QPainter &painter, const QRectF &track) cons
 
 void TamselGradientSlider::track(const QMouseEvent &event)
 {
-    // The knob's own mapping, so that its centre stays under the pointer.
+    // The inverse of the knob's position, so that its centre follows the pointer.
     const double value = (event.position().x() - kKnobReach) / (width() - 2.0 * kKnobReach);
     edit(std::clamp(value, 0.0, 1.0));
 }

@@ -52,7 +52,7 @@ public:
     }
 
 protected:
-    /// The control checks the button of the segment that was selected.
+    /// Clicks do not toggle: the control checks the button of the selected segment.
     void nextCheckState() override {}
 
     void paintEvent(QPaintEvent *) override
@@ -121,7 +121,7 @@ void TamselModeControl::updateIcons()
 void TamselModeControl::setVisible(bool visible, bool animated)
 {
     m_visibilityTimer.stop();
-    // A view that nobody hid counts as shown, even before its window is.
+    // Before its window is shown, a view counts as hidden only if it was hidden explicitly.
     const bool hidden = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
     const double from = hidden ? 0.0 : alphaValue(this);
     const double to = visible ? 1.0 : 0.0;

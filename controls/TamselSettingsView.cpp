@@ -20,24 +20,6 @@ void TamselSettingsView::setGroup(bool group)
     update();
 }
 
-void TamselSettingsView::setTransparent(bool transparent)
-{
-    m_transparent = transparent;
-    update();
-}
-
-void TamselSettingsView::setGroupRadius(double radius)
-{
-    m_groupRadius = radius;
-    update();
-}
-
-void TamselSettingsView::setGroupContrast(double contrast)
-{
-    m_groupContrast = contrast;
-    update();
-}
-
 void TamselSettingsView::paintEvent(QPaintEvent *)
 {
     if (m_transparent)

@@ -16,7 +16,6 @@ constexpr double kInset = 4.0;
 constexpr double kRimAlpha = 0.2;
 constexpr double kRingGap = 2.0;
 constexpr double kRingWidth = 1.5;
-constexpr QSize kUsualSize(28, 28);
 
 QRectF grown(const QRectF &rect, double by)
 {
@@ -60,12 +59,6 @@ void TamselSwatchButton::tellColor()
     setAccessibleDescription(isOneColor ? m_swatchColor.name().toUpper() : QString());
 }
 
-void TamselSwatchButton::setUsesPickerSelection(bool uses)
-{
-    m_usesPickerSelection = uses;
-    update();
-}
-
 void TamselSwatchButton::setPickerActive(bool active)
 {
     m_pickerActive = active;
@@ -74,11 +67,6 @@ void TamselSwatchButton::setPickerActive(bool active)
     QAccessibleStateChangeEvent event(this, changed);
     QAccessible::updateAccessibility(&event);
     update();
-}
-
-QSize TamselSwatchButton::sizeHint() const
-{
-    return kUsualSize;
 }
 
 void TamselSwatchButton::paintEvent(QPaintEvent *)
@@ -102,7 +90,7 @@ void TamselSwatchButton::drawColor(QPainter &painter, const QRectF &swatch) cons
     }
     if (TamselRainbowImage().isNull())
         return;
-    // Brought to its size in device pixels beforehand: drawing alone would skip over pixels.
+    // Scaled to device pixels first: the painter alone would sample too few pixels.
     const QSize size = (swatch.size() * scaleOf(painter)).toSize();
     QImage wheel =
         TamselRainbowImage().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

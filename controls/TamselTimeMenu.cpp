@@ -2,7 +2,7 @@
 #include "controls/TamselTimeMenu.h"
 
 #include "controls/ControlAccessibility.h"
-#include "controls/LineHeight.h"
+#include "controls/ControlFont.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -17,7 +17,7 @@ namespace {
 constexpr double kRightEdge = 334.0;
 constexpr double kTitledHeight = 24.0;
 constexpr double kSymbolSide = 20.0;
-/// What the width has beside the title: the symbol, the gap before it and the space on the left.
+/// Width of the symbol, the gap before it and the space before the title.
 constexpr double kTitleSurround = 44.0;
 constexpr double kTitleRightInset = 32.0;
 constexpr double kExpandedRadius = 6.0;

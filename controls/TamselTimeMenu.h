@@ -3,8 +3,8 @@
 
 #include "controls/TamselSymbolButton.h"
 
-/// A button that opens a menu of time modes: the chosen mode's title, which may be empty, and a
-/// symbol at its right end.
+/// A button that opens a menu of time modes: the title of the chosen mode, which may be empty, and
+/// a symbol at the right end.
 class TamselTimeMenu : public TamselSymbolButton
 {
     Q_OBJECT

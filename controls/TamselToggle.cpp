@@ -41,11 +41,6 @@ TamselToggle::TamselToggle(const platform::Clocks &clocks, QWidget *parent)
     });
 }
 
-QSize TamselToggle::sizeHint() const
-{
-    return kSize;
-}
-
 void TamselToggle::nextCheckState()
 {
     const double from = m_knobPosition;
