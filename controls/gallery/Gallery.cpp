@@ -126,6 +126,7 @@ TamselTimeMenu *addTimeMenu(QWidget *row, const QString &title, double y)
     menu->setAccessibleName(title.isEmpty() ? u"Night mode end setting"_s : title);
     menu->setRadius(10);
     followAppearance(menu, [menu] { menu->setInk(appearanceOf(menu).controlTextColor()); });
+    menu->setGeometry(0, 0, kRowRight, 24);
     menu->alignAtRowCenter(y);
     return menu;
 }
