@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/Alert.h"
 
+#include "controls/ControlAccessibility.h"
+#include "controls/ControlFont.h"
 #include "controls/PushButton.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -14,7 +16,6 @@ namespace {
 constexpr int kWidth = 320;
 constexpr int kMargin = 20;
 constexpr double kRadius = 16.0;
-constexpr double kFontSize = 13.0;
 constexpr int kTextGap = 6;
 constexpr int kButtonsGap = 20;
 constexpr int kButtonGap = 10;
@@ -24,10 +25,10 @@ constexpr int kButtonHeight = 24;
 } // namespace
 
 Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
-    : TamselSettingsWindow(sheet),
-      m_message(addText(message, platform::systemFont(kFontSize, QFont::DemiBold))),
-      m_information(addText(information, platform::systemFont(kFontSize, QFont::Normal)))
+    : TamselSettingsWindow(sheet), m_message(addText(message, controlFont(QFont::DemiBold))),
+      m_information(addText(information, controlFont()))
 {
+    setAccessibleRole(this, QAccessible::AlertMessage);
     setAttribute(Qt::WA_DeleteOnClose);
     setCornerRadius(kRadius);
     setMovableByWindowBackground(true);

@@ -8,25 +8,25 @@
 class QLabel;
 class PushButton;
 
-/// A message on a sheet, in the sheet's look, which keeps the sheet from being used until it is
-/// answered. It destroys itself with its answer, or with the sheet.
+/// A message over a sheet, in the sheet's look. It blocks the sheet until it is answered and
+/// deletes itself afterwards, or is deleted with the sheet.
 class Alert : public TamselSettingsWindow
 {
     Q_OBJECT
 
 public:
-    /// \p message is what happened, in a few words; \p information what can be done about it.
+    /// \p message says in a few words what happened, \p information what the user can do.
     Alert(const QString &message, const QString &information, QWidget *sheet);
 
     QString message() const;
     QString information() const;
 
-    /// Adds a button that closes the alert and then calls \p chosen. Buttons stand from right to
-    /// left; Return stands for the first one and Escape for the last.
+    /// Adds a button that closes the alert and then calls \p chosen. Buttons are placed from right
+    /// to left; Return presses the first one, Escape the last.
     void addButton(const QString &title, const std::function<void()> &chosen = {});
     const QList<PushButton *> &buttons() const { return m_buttons; }
 
-    /// Shows the alert in the middle of its sheet.
+    /// Shows the alert centred on its sheet.
     void present();
 
 private:

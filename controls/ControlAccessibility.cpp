@@ -1,215 +1,144 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ControlAccessibility.h"
 
-#include "controls/Alert.h"
 #include "controls/Popover.h"
-#include "controls/PushButton.h"
 #include "controls/TamselGradientSlider.h"
-#include "controls/TamselModeControl.h"
-#include "controls/TamselSeparator.h"
-#include "controls/TamselSettingsView.h"
-#include "controls/TamselSettingsWindow.h"
 #include "controls/TamselSwatchButton.h"
-#include "controls/TamselTimeMenu.h"
-#include "controls/TamselToggle.h"
 #include "controls/TimePicker.h"
 
 #include <QAccessibleWidget>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace {
 
-constexpr double kValueStep = 0.01;
-constexpr int kSecondsPerMinute = 60;
+constexpr const char *kRole = "accessibleRole";
+constexpr const char *kValue = "value";
+constexpr double kSliderStep = 0.01;
 constexpr int kLastMinute = 24 * 60 - 1;
 
-/// Anything that is pressed or switched.
+QAccessible::Role roleOf(const QObject *control)
+{
+    return static_cast<QAccessible::Role>(control->property(kRole).toInt());
+}
+
+/// A button that is checkable or opens a menu. Qt's own accessible button has no role for a menu
+/// that is created on demand, and its toggle action does not emit clicked().
 class AccessibleButton : public QAccessibleWidget
 {
 public:
-    AccessibleButton(QAbstractButton *button, QAccessible::Role role)
-        : QAccessibleWidget(button, role)
+    explicit AccessibleButton(QAbstractButton *button) : QAccessibleWidget(button), m_button(button)
     {
     }
 
-    QAbstractButton *button() const { return qobject_cast<QAbstractButton *>(object()); }
+    QAccessible::Role role() const override { return roleOf(m_button); }
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString text = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && text.isEmpty() ? button()->text() : text;
+        if (kind == QAccessible::Value && m_button->isCheckable())
+            return QString::number(m_button->isChecked() ? 1 : 0);
+        return QAccessibleWidget::text(kind);
     }
 
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
-        state.pressed = button()->isDown();
-        if (button()->isCheckable()) {
-            state.checkable = true;
-            state.checked = button()->isChecked();
-        }
+        state.pressed = m_button->isDown();
+        state.checkable = m_button->isCheckable();
+        state.checked = m_button->isChecked();
+        state.hasPopup = role() == QAccessible::ButtonMenu;
         return state;
     }
 
     QStringList actionNames() const override
     {
         QStringList names = QAccessibleWidget::actionNames();
-        if (button()->isEnabled())
-            names.prepend(mainAction());
+        if (m_button->isEnabled())
+            names.prepend(clickAction());
         return names;
     }
 
     void doAction(const QString &name) override
     {
-        if (name == mainAction())
-            button()->click();
+        if (name == clickAction())
+            m_button->click();
         else
             QAccessibleWidget::doAction(name);
     }
 
-    QStringList keyBindingsForAction(const QString &) const override { return {}; }
-
-protected:
-    /// What a click does.
-    virtual QString mainAction() const
+private:
+    QString clickAction() const
     {
-        return state().checkable ? toggleAction() : pressAction();
+        if (role() == QAccessible::ButtonMenu)
+            return showMenuAction();
+        return m_button->isCheckable() ? toggleAction() : pressAction();
     }
+
+    QAbstractButton *m_button;
 };
 
-class AccessibleMenuButton final : public AccessibleButton
-{
-public:
-    explicit AccessibleMenuButton(TamselTimeMenu *menu)
-        : AccessibleButton(menu, QAccessible::ButtonMenu)
-    {
-    }
-
-    QAccessible::State state() const override
-    {
-        QAccessible::State state = AccessibleButton::state();
-        state.hasPopup = true;
-        return state;
-    }
-
-protected:
-    QString mainAction() const override { return showMenuAction(); }
-};
-
-/// The popover that is open at \p anchor; null when there is none.
-Popover *openPopover(const QWidget *anchor)
-{
-    const auto popovers = anchor->window()->findChildren<Popover *>(Qt::FindDirectChildrenOnly);
-    for (Popover *popover : popovers) {
-        if (popover->isVisible() && popover->anchor() == anchor)
-            return popover;
-    }
-    return nullptr;
-}
-
-/// Popups are not among the windows of an application, so a popover is found in its anchor.
-class AccessiblePopover final : public QAccessibleWidget
-{
-public:
-    explicit AccessiblePopover(Popover *popover) : QAccessibleWidget(popover, QAccessible::Dialog)
-    {
-    }
-
-    QAccessibleInterface *parent() const override
-    {
-        QWidget *anchor = qobject_cast<Popover *>(object())->anchor();
-        return anchor ? QAccessible::queryAccessibleInterface(anchor) : nullptr;
-    }
-};
-
-/// One of several colours to choose from, or the button that opens an editor for its own colour.
+/// A swatch is either one choice of several, or opens a popover that edits its colour. An open
+/// popover is reported as the swatch's child, because Qt does not list popup windows among the
+/// windows of the application.
 class AccessibleSwatch final : public AccessibleButton
 {
 public:
     explicit AccessibleSwatch(TamselSwatchButton *swatch)
-        : AccessibleButton(swatch, QAccessible::Button)
+        : AccessibleButton(swatch), m_swatch(swatch)
     {
     }
 
     QAccessible::Role role() const override
     {
-        return swatch()->isCheckable() ? QAccessible::RadioButton : QAccessible::Button;
+        return m_swatch->isCheckable() ? QAccessible::RadioButton : QAccessible::Button;
     }
 
     QAccessible::State state() const override
     {
         QAccessible::State state = AccessibleButton::state();
-        if (swatch()->usesPickerSelection()) {
+        if (m_swatch->usesPickerSelection()) {
             state.hasPopup = true;
             state.expandable = true;
-            state.expanded = swatch()->pickerActive();
-            state.collapsed = !swatch()->pickerActive();
+            state.expanded = m_swatch->pickerActive();
+            state.collapsed = !m_swatch->pickerActive();
         }
         return state;
     }
 
-    QString text(QAccessible::Text kind) const override
-    {
-        const bool tellsColor = kind == QAccessible::Description || kind == QAccessible::Value;
-        if (tellsColor && !swatch()->rainbow() && swatch()->swatchColor().isValid())
-            return swatch()->swatchColor().name().toUpper();
-        return AccessibleButton::text(kind);
-    }
-
-    int childCount() const override { return openPopover(swatch()) ? 1 : 0; }
+    int childCount() const override { return openPopover() ? 1 : 0; }
 
     QAccessibleInterface *child(int index) const override
     {
-        Popover *popover = index == 0 ? openPopover(swatch()) : nullptr;
-        return popover ? QAccessible::queryAccessibleInterface(popover) : nullptr;
+        return index == 0 ? QAccessible::queryAccessibleInterface(openPopover()) : nullptr;
     }
 
     int indexOfChild(const QAccessibleInterface *child) const override
     {
-        return child && child->object() == openPopover(swatch()) ? 0 : -1;
+        return child && child->object() == openPopover() ? 0 : -1;
     }
 
 private:
-    TamselSwatchButton *swatch() const { return qobject_cast<TamselSwatchButton *>(object()); }
+    /// Null when there is none.
+    Popover *openPopover() const
+    {
+        const auto popovers = m_swatch->findChildren<Popover *>(Qt::FindDirectChildrenOnly);
+        const auto open = std::find_if(popovers.begin(), popovers.end(),
+                                       [](const Popover *popover) { return popover->isVisible(); });
+        return open == popovers.end() ? nullptr : *open;
+    }
+
+    TamselSwatchButton *m_swatch;
 };
 
-class AccessibleSegment final : public AccessibleButton
+/// A number from 0 to \p last, read and written as the control's property "value". Qt's own
+/// accessible slider has whole numbers only, and its time editor has no number in every version of
+/// Qt.
+class AccessibleNumber final : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
-    AccessibleSegment(QAbstractButton *button, TamselModeControl *control)
-        : AccessibleButton(button, QAccessible::RadioButton), m_control(control)
-    {
-    }
-
-    QAccessible::State state() const override
-    {
-        QAccessible::State state = AccessibleButton::state();
-        state.checkable = true;
-        state.checked = isSelected();
-        return state;
-    }
-
-    QString text(QAccessible::Text kind) const override
-    {
-        if (kind == QAccessible::Value)
-            return isSelected() ? QStringLiteral("1") : QStringLiteral("0");
-        return AccessibleButton::text(kind);
-    }
-
-private:
-    bool isSelected() const
-    {
-        return m_control->buttons().indexOf(button()) == m_control->selectedSegment();
-    }
-
-    TamselModeControl *m_control;
-};
-
-class AccessibleSlider final : public QAccessibleWidget, public QAccessibleValueInterface
-{
-public:
-    explicit AccessibleSlider(TamselGradientSlider *slider)
-        : QAccessibleWidget(slider, QAccessible::Slider)
+    AccessibleNumber(QWidget *control, double last, double step)
+        : QAccessibleWidget(control, roleOf(control)), m_last(last), m_step(step)
     {
     }
 
@@ -217,147 +146,52 @@ public:
     {
         if (type == QAccessible::ValueInterface)
             return static_cast<QAccessibleValueInterface *>(this);
-        return QAccessibleWidget::interface_cast(type);
+        // A number that can be typed shares the text interface of its line edit.
+        const bool isText =
+            type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface;
+        auto *editor = widget()->findChild<QLineEdit *>();
+        return isText && editor
+                   ? QAccessible::queryAccessibleInterface(editor)->interface_cast(type)
+                   : QAccessibleWidget::interface_cast(type);
     }
 
-    QVariant currentValue() const override { return slider()->doubleValue(); }
-    void setCurrentValue(const QVariant &value) override { slider()->edit(value.toDouble()); }
-    QVariant minimumValue() const override { return slider()->minValue(); }
-    QVariant maximumValue() const override { return slider()->maxValue(); }
-    QVariant minimumStepSize() const override { return kValueStep; }
-
-private:
-    TamselGradientSlider *slider() const { return qobject_cast<TamselGradientSlider *>(object()); }
-};
-
-/// The toolkit's own tells no value of a time and cannot change it. The text is that of the editor
-/// inside.
-class AccessibleTimePicker final : public QAccessibleWidget, public QAccessibleValueInterface
-{
-public:
-    explicit AccessibleTimePicker(TimePicker *picker)
-        : QAccessibleWidget(picker, QAccessible::SpinBox)
-    {
-    }
-
-    void *interface_cast(QAccessible::InterfaceType type) override
-    {
-        switch (type) {
-        case QAccessible::ValueInterface:
-            return static_cast<QAccessibleValueInterface *>(this);
-        case QAccessible::TextInterface:
-        case QAccessible::EditableTextInterface:
-            return QAccessible::queryAccessibleInterface(picker()->findChild<QLineEdit *>())
-                ->interface_cast(type);
-        default:
-            return QAccessibleWidget::interface_cast(type);
-        }
-    }
-
-    QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Value ? picker()->text() : QAccessibleWidget::text(kind);
-    }
-
+    /// Hides the line edit.
     int childCount() const override { return 0; }
 
-    /// In minutes after midnight.
-    QVariant currentValue() const override
-    {
-        return QTime(0, 0).secsTo(picker()->time()) / kSecondsPerMinute;
-    }
-    void setCurrentValue(const QVariant &value) override
-    {
-        picker()->setTime(QTime(0, 0).addSecs(value.toInt() * kSecondsPerMinute));
-    }
+    QVariant currentValue() const override { return widget()->property(kValue); }
+    void setCurrentValue(const QVariant &value) override { widget()->setProperty(kValue, value); }
     QVariant minimumValue() const override { return 0; }
-    QVariant maximumValue() const override { return kLastMinute; }
-    QVariant minimumStepSize() const override { return 1; }
+    QVariant maximumValue() const override { return m_last; }
+    QVariant minimumStepSize() const override { return m_step; }
 
 private:
-    TimePicker *picker() const { return qobject_cast<TimePicker *>(object()); }
+    double m_last;
+    double m_step;
 };
-
-QAccessibleInterface *makeButtonInterface(QObject *object)
-{
-    auto *button = qobject_cast<QAbstractButton *>(object);
-    if (!button)
-        return nullptr;
-    if (auto *menu = qobject_cast<TamselTimeMenu *>(object))
-        return new AccessibleMenuButton(menu);
-    if (auto *swatch = qobject_cast<TamselSwatchButton *>(object))
-        return new AccessibleSwatch(swatch);
-    if (auto *control = qobject_cast<TamselModeControl *>(object->parent()))
-        return new AccessibleSegment(button, control);
-    if (qobject_cast<TamselToggle *>(object))
-        return new AccessibleButton(button, QAccessible::CheckBox);
-    if (qobject_cast<TamselSymbolButton *>(object) || qobject_cast<PushButton *>(object))
-        return new AccessibleButton(button, QAccessible::Button);
-    return nullptr;
-}
 
 QAccessibleInterface *makeInterface(const QString &, QObject *object)
 {
-    if (auto *button = makeButtonInterface(object))
-        return button;
-    if (auto *slider = qobject_cast<TamselGradientSlider *>(object))
-        return new AccessibleSlider(slider);
-    if (auto *picker = qobject_cast<TimePicker *>(object))
-        return new AccessibleTimePicker(picker);
-    if (auto *control = qobject_cast<TamselModeControl *>(object))
-        return new QAccessibleWidget(control, QAccessible::Grouping);
-    if (auto *separator = qobject_cast<TamselSeparator *>(object))
-        return new QAccessibleWidget(separator, QAccessible::Separator);
-    if (auto *popover = qobject_cast<Popover *>(object))
-        return new AccessiblePopover(popover);
-    if (auto *window = qobject_cast<TamselSettingsWindow *>(object))
-        return new QAccessibleWidget(window, qobject_cast<Alert *>(window)
-                                                 ? QAccessible::AlertMessage
-                                                 : QAccessible::Dialog);
-    if (auto *view = qobject_cast<TamselSettingsView *>(object); view && view->group())
-        return new QAccessibleWidget(view, QAccessible::Grouping);
-    return nullptr;
-}
-
-void announceState(QWidget *control, QAccessible::State changed)
-{
-    QAccessibleStateChangeEvent event(control, changed);
-    QAccessible::updateAccessibility(&event);
+    auto *control = qobject_cast<QWidget *>(object);
+    // While a control is destroyed, its class is QWidget in the end; no interface may be made then.
+    if (!control || control->metaObject() == &QWidget::staticMetaObject ||
+        !control->property(kRole).isValid())
+        return nullptr;
+    if (auto *swatch = qobject_cast<TamselSwatchButton *>(control))
+        return new AccessibleSwatch(swatch);
+    if (auto *button = qobject_cast<QAbstractButton *>(control))
+        return new AccessibleButton(button);
+    if (qobject_cast<TamselGradientSlider *>(control))
+        return new AccessibleNumber(control, TamselGradientSlider::maxValue(), kSliderStep);
+    if (qobject_cast<TimePicker *>(control))
+        return new AccessibleNumber(control, kLastMinute, 1.0);
+    return new QAccessibleWidget(control, roleOf(control));
 }
 
 } // namespace
 
-void installControlAccessibility()
+void setAccessibleRole(QWidget *control, QAccessible::Role role)
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
+    static const bool installed = (QAccessible::installFactory(makeInterface), true);
     Q_UNUSED(installed)
-}
-
-void announce(QWidget *control, QAccessible::Event event)
-{
-    QAccessibleEvent change(control, event);
-    QAccessible::updateAccessibility(&change);
-}
-
-void announceChecked(QWidget *control)
-{
-    QAccessible::State changed;
-    changed.checked = true;
-    announceState(control, changed);
-}
-
-void announceExpanded(QWidget *control)
-{
-    QAccessible::State changed;
-    changed.expanded = true;
-    announceState(control, changed);
-}
-
-void announceValue(QWidget *control, double value)
-{
-    QAccessibleValueChangeEvent event(control, value);
-    QAccessible::updateAccessibility(&event);
+    control->setProperty(kRole, static_cast<int>(role));
 }

@@ -5,12 +5,7 @@
 
 class QWidget;
 
-/// Makes the controls known to assistive technology with their role, name, value and state. Each
-/// control calls it when it is made; only the first call does anything.
-void installControlAccessibility();
-
-/// Tells assistive technology that \p control changed. Cheap when nobody listens.
-void announce(QWidget *control, QAccessible::Event event);
-void announceChecked(QWidget *control);
-void announceExpanded(QWidget *control);
-void announceValue(QWidget *control, double value);
+/// Sets the role under which assistive technology sees \p control. Call it first in the control's
+/// constructor, because Qt keeps the interface that is made at the first query. Buttons that are
+/// only pressed need no call: Qt knows them by their base class.
+void setAccessibleRole(QWidget *control, QAccessible::Role role);

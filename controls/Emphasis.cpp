@@ -5,9 +5,9 @@
 
 namespace {
 
-/// The brightest ground, by its relative luminance, on which white text has a contrast of 4.5 : 1.
+/// Relative luminance of the brightest background on which white text has a contrast of 4.5 : 1.
 constexpr double kBrightestUnderWhite = 1.05 / 4.5 - 0.05;
-/// From here on black text suits a colour better than a darker ground would.
+/// Relative luminance from which a colour keeps its brightness and gets black text.
 constexpr double kLightAccent = 0.4;
 
 double linear(double c)
@@ -34,7 +34,7 @@ Emphasis emphasisFrom(const QColor &accent)
     if (luminance <= kBrightestUnderWhite)
         return {rgb, Qt::white};
     const double dimmed = kBrightestUnderWhite / luminance;
-    // Rounded down, so that 8 bits do not bring it back over the limit.
+    // Rounding down keeps the 8-bit colour below the limit.
     const auto byte = [dimmed](double c) { return int(encoded(c * dimmed) * 255.0); };
     return {QColor(byte(red), byte(green), byte(blue)), Qt::white};
 }

@@ -17,7 +17,7 @@ constexpr double kWidth = 2.0;
 constexpr double kMargin = kGap + kWidth;
 constexpr double kAlpha = 0.7;
 
-/// Assistive technology passes over focus frames, so the ring never shows up as a thing of its own.
+/// A QFocusFrame, because Qt hides focus frames from assistive technology.
 class RingFrame final : public QFocusFrame
 {
 public:

@@ -11,14 +11,14 @@
 class QFocusFrame;
 class QWidget;
 
-/// Shows which control has the keyboard: a ring in the accent colour around the control's outline,
-/// drawn above its siblings so that the control's own pixels stay as they are. It appears when the
-/// focus came by a key or a key is used, and goes with the next mouse press.
+/// Shows keyboard focus: a ring in the accent colour around the control's outline. It is a sibling
+/// above the control, so the control's own pixels do not change. It appears when a key moves the
+/// focus or is pressed in the control, and disappears at the next mouse press.
 class FocusRing : public QObject
 {
 public:
-    /// A rounded rectangle in the control's coordinates, and the ring's colour: the accent colour
-    /// when invalid.
+    /// A rounded rectangle in the control's coordinates. An invalid \p color means the accent
+    /// colour.
     struct Outline
     {
         QRectF rect;
@@ -26,12 +26,12 @@ public:
         QColor color = {};
     };
 
-    /// Belongs to \p control; \p outline is asked whenever the ring is placed.
+    /// Becomes a child of \p control. \p outline is called each time the ring is placed.
     FocusRing(QWidget *control, std::function<Outline()> outline);
     ~FocusRing() override;
 
     bool isShown() const { return m_shown; }
-    /// Whether \p control has a ring and it is shown.
+    /// Whether \p control has a visible ring.
     static bool isShownAround(const QWidget *control);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

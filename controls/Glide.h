@@ -9,23 +9,23 @@ namespace platform {
 class Clocks;
 }
 
-/// A number on its way from one value to another in a fixed time, eased with a smoothstep, one step
-/// about every 1/60 s. It does nothing before its first step.
+/// Animates a number from one value to another in a fixed time with smoothstep easing, at about 60
+/// steps per second. The first step comes one interval after start().
 class Glide
 {
 public:
-    /// Called at each step; \p atEnd is true once, at the last.
+    /// Called at each step; \p atEnd is true for the last one only.
     using Step = std::function<void(double value, bool atEnd)>;
 
-    /// \p clocks must outlive the glide; \p duration in seconds, above 0.
+    /// \p clocks must outlive the glide. \p duration is in seconds and greater than 0.
     Glide(const platform::Clocks &clocks, double duration, Step step);
 
-    /// Starts anew, replacing a run under way.
+    /// Replaces a running animation.
     void start(double from, double to);
-    /// Leaves the value where it is.
+    /// Stops without a further step.
     void stop() { m_timer.stop(); }
     bool isRunning() const { return m_timer.isActive(); }
-    /// What the timer calls.
+    /// Takes one step; called by the timer.
     void tick();
 
 private:

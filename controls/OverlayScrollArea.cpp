@@ -14,11 +14,11 @@ OverlayScrollArea::OverlayScrollArea(const platform::Clocks &clocks, QWidget *co
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWidget(content);
-    // The window's background shows through, which may have round corners.
+    // The window draws the background, with rounded corners.
     viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
     new OverlayScroller(clocks, this);
-    // QScrollArea itself follows the Tab key, and only from one of its widgets to another.
+    // QScrollArea reveals the focused widget only when Tab moves the focus between two of its own.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
         if (now && widget()->isAncestorOf(now))
             reveal(now);

@@ -7,17 +7,17 @@ namespace platform {
 class Clocks;
 }
 
-/// A see-through area that scrolls up and down, with an OverlayScroller instead of a scroll bar.
-/// What gets the keyboard scrolls into view.
+/// A transparent, vertical scroll area with an OverlayScroller instead of a scroll bar. It scrolls
+/// the focused widget into view.
 class OverlayScrollArea : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    /// Takes \p content. \p clocks must outlive the area.
+    /// Takes ownership of \p content. \p clocks must outlive the area.
     OverlayScrollArea(const platform::Clocks &clocks, QWidget *content, QWidget *parent);
 
-    /// Scrolls \p part of the content into view, unless a pointer's button is down: what it was
-    /// pressed on must not move away.
+    /// Scrolls \p part of the content into view. Does nothing while a mouse button is down, so that
+    /// the pressed control does not move away from the pointer.
     void reveal(QWidget *part);
 };

@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kWidth = 14;
-/// From the area's corners, which may be round.
+/// Distance from the area's rounded corners.
 constexpr int kEndMargin = 16;
 constexpr double kKnobWidth = 6.0;
 constexpr double kShortestKnob = 24.0;
@@ -27,13 +27,6 @@ constexpr std::chrono::milliseconds kLinger(900);
 constexpr double kFadeDuration = 0.3; // seconds
 
 } // namespace
-
-ScrollerKnob scrollerKnob(double track, double page, double content, double value)
-{
-    const double length = std::clamp(track * page / content, std::min(kShortestKnob, track), track);
-    const double range = content - page;
-    return {range > 0.0 ? (track - length) * std::clamp(value / range, 0.0, 1.0) : 0.0, length};
-}
 
 OverlayScroller::OverlayScroller(const platform::Clocks &clocks, QScrollArea *area)
     : QWidget(area), m_area(area), m_linger(this),
@@ -72,7 +65,7 @@ void OverlayScroller::flash()
 
 void OverlayScroller::fade()
 {
-    // The pointer leaves it, and the wait begins anew, when it is hidden below the pointer, too.
+    // Hiding the widget below the pointer sends a leave event too, which starts the timer again.
     if (isHidden() || underMouse())
         return;
     if (appearanceOf(this).reducedMotion())
@@ -97,9 +90,13 @@ void OverlayScroller::place()
 QRectF OverlayScroller::knob() const
 {
     const QScrollBar *bar = m_area->verticalScrollBar();
-    const ScrollerKnob knob =
-        scrollerKnob(height(), bar->pageStep(), bar->maximum() + bar->pageStep(), bar->value());
-    return {(width() - kKnobWidth) / 2.0, knob.position, kKnobWidth, knob.length};
+    const double track = height();
+    const double content = bar->maximum() + bar->pageStep();
+    const double length =
+        std::clamp(track * bar->pageStep() / content, std::min(kShortestKnob, track), track);
+    const double position =
+        bar->maximum() > 0 ? (track - length) * bar->value() / bar->maximum() : 0.0;
+    return {(width() - kKnobWidth) / 2.0, position, kKnobWidth, length};
 }
 
 void OverlayScroller::enterEvent(QEnterEvent *)
@@ -116,7 +113,7 @@ void OverlayScroller::mousePressEvent(QMouseEvent *event)
 {
     const QRectF knob = this->knob();
     const double y = event->position().y();
-    // A press beside the knob brings its middle there.
+    // A press beside the knob centres it on the pointer.
     m_dragOffset = y >= knob.top() && y <= knob.bottom() ? y - knob.top() : knob.height() / 2.0;
     mouseMoveEvent(event);
 }

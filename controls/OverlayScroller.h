@@ -8,18 +8,15 @@
 
 class QScrollArea;
 
-/// Shows how far a scroll area is scrolled, on top of its content at the right edge: while it
-/// scrolls and a moment longer, and while the pointer is on it. It can be dragged.
+/// A draggable scroll indicator over the right edge of a scroll area. It is visible during
+/// scrolling, shortly after it, and while the pointer is on it.
 class OverlayScroller : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Belongs to \p area and keeps to its right edge. \p clocks must outlive it.
+    /// Becomes a child of \p area and follows its size. \p clocks must outlive the scroller.
     OverlayScroller(const platform::Clocks &clocks, QScrollArea *area);
-
-    /// Shows the scroller for a moment, if there is anything to scroll.
-    void flash();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -32,6 +29,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Shows the scroller briefly; hides it when there is nothing to scroll.
+    void flash();
     void place();
     void fade();
     QRectF knob() const;
@@ -41,12 +40,3 @@ private:
     Glide m_fade;
     double m_dragOffset = 0.0;
 };
-
-/// The knob of a scroller that is \p track long, for \p content of which \p page is seen, scrolled
-/// by \p value: its position and length along the track.
-struct ScrollerKnob
-{
-    double position;
-    double length;
-};
-ScrollerKnob scrollerKnob(double track, double page, double content, double value);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/PopUpMenu.h"
 
+#include "controls/ControlFont.h"
 #include "controls/Emphasis.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
@@ -15,19 +16,18 @@
 
 namespace {
 
-constexpr double kFontSize = 13.0;
 constexpr double kRadius = 9.0;
 constexpr double kSeparatorAlpha = 0.1;
 constexpr double kItemRadius = 5.0;
 constexpr double kItemHeight = 24.0;
 constexpr double kSeparatorHeight = 11.0;
 constexpr int kPadding = 5;
-/// Before the title, where the check mark stands, and after it.
+/// Space before the title, where the check mark is drawn, and after it.
 constexpr double kTitleInset = 24.0;
 constexpr double kTitleMargin = 14.0;
 constexpr double kCheckLeft = 8.0;
 
-/// The measures of the menu, whatever the desktop's own style has.
+/// Gives the menu fixed measures, independent of the desktop's style.
 class MenuStyle final : public QProxyStyle
 {
 public:
@@ -71,7 +71,7 @@ PopUpMenu::PopUpMenu(QWidget *parent) : QMenu(parent)
     auto *style = new MenuStyle;
     style->setParent(this);
     setStyle(style);
-    setFont(platform::systemFont(kFontSize, QFont::Normal));
+    setFont(controlFont());
     redrawWithAppearance(this);
 }
 

@@ -3,17 +3,17 @@
 
 #include <QMenu>
 
-/// A menu in the look of the sheet. A checked action has a check mark before its title.
+/// A menu in the look of the sheet. Checked actions have a check mark before the title.
 class PopUpMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    /// Destroyed with \p parent or when it has closed, whichever comes first.
+    /// Deletes itself when it closes, or is deleted with \p parent.
     explicit PopUpMenu(QWidget *parent);
 
-    /// Opens the menu so that the title of \p action begins at \p position, in global coordinates:
-    /// the left end of the line through its middle.
+    /// Opens the menu with the title of \p action at \p position, in global coordinates: the left
+    /// end of the title's horizontal centre line.
     void popUpWithTitleAt(QAction *action, const QPoint &position);
 
 protected:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/Popover.h"
 
+#include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
@@ -16,12 +17,12 @@
 namespace {
 
 constexpr double kRadius = 16.0;
-/// Between the anchor and the panel.
+/// Distance between anchor and panel.
 constexpr int kGap = 4;
 
 constexpr Qt::WindowFlags kFlags = Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
 
-/// Gives \p view an event that came to another one.
+/// Sends \p view an event that another widget received.
 void passOn(const QMouseEvent &event, QWidget *view)
 {
     const QPointF position = event.globalPosition();
@@ -32,7 +33,7 @@ void passOn(const QMouseEvent &event, QWidget *view)
     QCoreApplication::sendEvent(view, &again);
 }
 
-/// Moves the focus as a press on \p view by the user does.
+/// Moves the focus as a mouse press on \p view would.
 void focusByClick(QWidget *view)
 {
     for (; view && !view->isWindow(); view = view->parentWidget()) {
@@ -58,12 +59,12 @@ QPoint popoverPosition(const QRect &anchor, const QSize &size, const QRect &boun
                    bounds.top() + bounds.height())};
 }
 
-Popover::Popover(QWidget *content, QWidget *anchor)
-    : QWidget(anchor->window(), kFlags), m_anchor(anchor)
+Popover::Popover(QWidget *content, QWidget *anchor) : QWidget(anchor, kFlags)
 {
-    setAppearanceOf(this, appearanceOf(anchor));
+    setAccessibleRole(this, QAccessible::Dialog);
+    setAccessibleName(anchor->accessibleName());
     setAttribute(Qt::WA_TranslucentBackground);
-    // It passes on outside presses itself; the toolkit does so on some platforms only.
+    // The popover passes on outside presses itself; Qt replays them on some platforms only.
     setAttribute(Qt::WA_NoMouseReplay);
     setFixedSize(content->size());
     setMask(roundedShape(size(), kRadius));
@@ -71,8 +72,6 @@ Popover::Popover(QWidget *content, QWidget *anchor)
     content->move(0, 0);
     content->show();
     redrawWithAppearance(this);
-
-    setAccessibleName(anchor->accessibleName());
 }
 
 Popover::~Popover()
@@ -82,20 +81,18 @@ Popover::~Popover()
 
 void Popover::present()
 {
-    QWidget *view = m_anchor;
-    if (!view)
-        return;
-    view->installEventFilter(this);
-    view->window()->installEventFilter(this);
-    connect(view, &QObject::destroyed, this, &QWidget::close);
-    // Which window takes over is known only after the change: a panel of ours may be next.
+    QWidget *anchor = parentWidget();
+    anchor->installEventFilter(this);
+    anchor->window()->installEventFilter(this);
+    // Queued, because the next focus window is known only after the change, and it may be the
+    // popover or its host.
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Popover::closeUnlessFocused,
             Qt::QueuedConnection);
 
-    const QRect anchor(view->mapToGlobal(QPoint()), view->size());
-    move(popoverPosition(anchor, size(), platform::placementBounds(view)));
+    const QRect place(anchor->mapToGlobal(QPoint()), anchor->size());
+    move(popoverPosition(place, size(), platform::placementBounds(anchor)));
     show();
-    focusFirst(FocusRing::isShownAround(view) ? Qt::TabFocusReason : Qt::PopupFocusReason);
+    focusFirst(FocusRing::isShownAround(anchor) ? Qt::TabFocusReason : Qt::PopupFocusReason);
 }
 
 void Popover::focusFirst(Qt::FocusReason reason)
@@ -119,8 +116,9 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        // No control took what was passed on, and a window cannot be moved during this grab.
-        if (watched != parentWidget())
+        // No control accepted the press that was passed on. The window must not start to move
+        // during the popover's mouse grab.
+        if (watched != parentWidget()->window())
             break;
         close();
         return true;
@@ -133,7 +131,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
 void Popover::closeUnlessFocused()
 {
     const QWindow *focused = QGuiApplication::focusWindow();
-    const QWindow *host = parentWidget() ? parentWidget()->windowHandle() : nullptr;
+    const QWindow *host = parentWidget()->window()->windowHandle();
     if (!focused || (focused != windowHandle() && focused != host))
         close();
 }
@@ -156,13 +154,13 @@ void Popover::keyPressEvent(QKeyEvent *event)
 QWidget *Popover::controlAt(const QPointF &globalPosition) const
 {
     QWidget *view = QApplication::widgetAt(globalPosition.toPoint());
-    if (!view || view == m_anchor || view->window() != parentWidget())
+    if (!view || view == parentWidget() || view->window() != parentWidget()->window())
         return nullptr;
     return view;
 }
 
-// It stays open, and with it the grab, until the button is released: an X server may lose the
-// release of a short click when the grab ends before it.
+// The popover, and with it the mouse grab, stays until the button is released: some X servers drop
+// the release of a short click when the grab ends before it.
 
 void Popover::mousePressEvent(QMouseEvent *event)
 {
@@ -187,7 +185,8 @@ void Popover::mouseMoveEvent(QMouseEvent *event)
         passOn(*event, m_pressed);
 }
 
-// What may open another popup is passed on last: no popup should close below another one.
+// The popover closes before the event is passed on: the event may open another popup, and popups
+// must close from the top down.
 
 void Popover::mouseReleaseEvent(QMouseEvent *event)
 {

@@ -4,27 +4,25 @@
 #include <QPointer>
 #include <QWidget>
 
-/// Where a popover of \p size goes: above \p anchor and centred on it, below where there is no room
-/// above, and in any case inside \p bounds. All in one coordinate system, y downwards.
+/// The position of a popover of \p size: centred above \p anchor, or below it when there is no room
+/// above; always inside \p bounds. All in one coordinate system with y downwards.
 QPoint popoverPosition(const QRect &anchor, const QSize &size, const QRect &bounds);
 
-/// A small floating panel that belongs to an anchor. It closes on a press outside it, on Escape,
-/// when the anchor goes or hides, when the anchor's window moves, hides or loses the focus, and
-/// when its owner closes it; however it ends, it reports it once. A press outside also reaches the
-/// control of the window it is made on, except the anchor, which so works as a switch.
+/// A small floating panel beside its anchor. It closes on a press outside it, on Escape, when the
+/// anchor is moved, hidden or destroyed, when the anchor's window is moved, hidden or loses the
+/// focus, and when its owner closes it. It emits closed() exactly once. A press outside is passed
+/// on to the control of the anchor's window under the pointer, except to the anchor itself, which
+/// would open the popover again.
 class Popover : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Takes \p content, which has its size already. Belongs to the window of \p anchor.
+    /// Takes ownership of \p content, whose size becomes the panel's. Becomes a child of \p anchor.
     Popover(QWidget *content, QWidget *anchor);
     ~Popover() override;
 
-    /// Null once it is destroyed.
-    QWidget *anchor() const { return m_anchor; }
-
-    /// Shows the panel beside its anchor, with the keyboard in the content.
+    /// Shows the panel and gives the keyboard focus to its content.
     void present();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -47,8 +45,7 @@ private:
     QWidget *controlAt(const QPointF &globalPosition) const;
     void reportOnce();
 
-    QPointer<QWidget> m_anchor;
-    /// What was pressed outside and gets the pointer's events until its release.
+    /// The control that was pressed outside; it receives all mouse events until the release.
     QPointer<QWidget> m_pressed;
     bool m_reported = false;
 };

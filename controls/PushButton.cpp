@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "controls/PushButton.h"
 
-#include "controls/ControlAccessibility.h"
+#include "controls/ControlFont.h"
 #include "controls/Emphasis.h"
 #include "controls/FocusRing.h"
-#include "controls/LineHeight.h"
 #include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
@@ -18,7 +17,6 @@ namespace {
 
 constexpr double kBezelHeight = 24.0;
 constexpr double kUsualRadius = 6.0;
-constexpr double kFontSize = 13.0;
 constexpr double kSymbolGap = 5.0;
 constexpr double kSidePadding = 14.0;
 constexpr double kPressedAlpha = 0.6;
@@ -30,41 +28,10 @@ PushButton::PushButton(const QString &title, QWidget *parent)
     : QAbstractButton(parent), m_radius(kUsualRadius)
 {
     setText(title);
-    setFont(platform::systemFont(kFontSize, QFont::Normal));
+    setFont(controlFont());
     setFocusPolicy(Qt::TabFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] { return FocusRing::Outline{bezel(), m_radius}; });
-}
-
-void PushButton::setSymbol(const Symbol &symbol)
-{
-    m_symbol = symbol;
-    update();
-}
-
-void PushButton::setFill(const QColor &fill)
-{
-    m_fill = fill;
-    update();
-}
-
-void PushButton::setInk(const QColor &ink)
-{
-    m_ink = ink;
-    update();
-}
-
-void PushButton::setProminent(bool prominent)
-{
-    m_prominent = prominent;
-    update();
-}
-
-void PushButton::setRadius(double radius)
-{
-    m_radius = radius;
-    update();
 }
 
 QSize PushButton::sizeHint() const
@@ -80,7 +47,7 @@ QRectF PushButton::bezel() const
     return {0.0, (height() - kBezelHeight) / 2.0, static_cast<double>(width()), kBezelHeight};
 }
 
-/// Not while disabled: pale ink on a pale accent could not be read.
+/// Not while disabled: pale text on a pale accent colour would be unreadable.
 bool PushButton::isEmphasised() const
 {
     return m_prominent && isEnabled();
@@ -90,7 +57,7 @@ QColor PushButton::displayFill() const
 {
     if (isEmphasised())
         return emphasisFrom(appearanceOf(this).controlAccentColor()).fill;
-    return m_fill.isValid() ? m_fill : TamselInputFill(this);
+    return fillOrInputFill(m_fill, this);
 }
 
 QColor PushButton::displayInk() const

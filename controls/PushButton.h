@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/SetAndUpdate.h"
 #include "controls/Symbol.h"
 
 #include <QAbstractButton>
 
-/// A flat button with a title and, before it, an optional symbol. Its bezel is always 24 points
-/// high, in the middle of whatever height the button is given.
+/// A flat button with an optional symbol before its title. The bezel is always 24 points high and
+/// vertically centred in the button.
 class PushButton : public QAbstractButton
 {
     Q_OBJECT
@@ -14,16 +15,16 @@ class PushButton : public QAbstractButton
 public:
     explicit PushButton(const QString &title, QWidget *parent = nullptr);
 
-    void setSymbol(const Symbol &symbol);
-    /// The bezel's colour; TamselInputFill when invalid.
-    void setFill(const QColor &fill);
-    /// The colour of title and symbol; the control text colour when invalid.
-    void setInk(const QColor &ink);
-    /// Whether the bezel takes the accent colour while it is enabled: the button that Return stands
-    /// for. It wins over `fill` and `ink`.
-    void setProminent(bool prominent);
+    void setSymbol(const Symbol &symbol) { setAndUpdate(this, m_symbol, symbol); }
+    /// Colour of the bezel; TamselInputFill when invalid.
+    void setFill(const QColor &fill) { setAndUpdate(this, m_fill, fill); }
+    /// Colour of title and symbol; the control text colour when invalid.
+    void setInk(const QColor &ink) { setAndUpdate(this, m_ink, ink); }
+    /// Whether this is the default button: while enabled, its bezel has the accent colour, whatever
+    /// fill and ink are set.
+    void setProminent(bool prominent) { setAndUpdate(this, m_prominent, prominent); }
     /// Corner radius of the bezel in points.
-    void setRadius(double radius);
+    void setRadius(double radius) { setAndUpdate(this, m_radius, radius); }
 
     QSize sizeHint() const override;
 

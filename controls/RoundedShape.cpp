@@ -19,7 +19,7 @@ QRegion roundedShape(const QSize &size, double radius)
 {
     QRegion shape(QRect({}, size));
     for (int row = 0; row < radius; ++row) {
-        // The row's lower edge is where the arc reaches furthest out.
+        // The arc is widest at the row's lower edge.
         const double up = std::max(0.0, radius - (row + 1));
         const int inset =
             static_cast<int>(std::floor(radius - std::sqrt(radius * radius - up * up)));
@@ -46,7 +46,7 @@ void drawPanel(QPainter &painter, const QWidget *panel, double radius)
     const QRectF area = panel->rect();
     const QColor edge = withAlpha(appearance.labelColor(), kEdgeAlpha);
     if (!platform::blendsWindows()) {
-        // What the window's shape leaves of the corners takes the edge's colour.
+        // The corner pixels that the window mask keeps take the colour of the edge.
         painter.fillRect(area, appearance.windowBackgroundColor());
         painter.fillRect(area, edge);
     }

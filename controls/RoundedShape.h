@@ -9,14 +9,14 @@ class QPainter;
 class QRectF;
 class QWidget;
 
-/// Every pixel that a rectangle of \p size with corners of \p radius touches, be it partly: the
-/// mask of a rounded window, which shows no black corners on a desktop that cannot blend windows
-/// and leaves the smooth edge alone on one that can.
+/// All pixels that a rectangle of \p size with corners of \p radius covers, also partly. As a
+/// window mask it cuts off black corners where windows cannot be blended, and keeps the antialiased
+/// edge where they can.
 QRegion roundedShape(const QSize &size, double radius);
 
-/// Fills \p rect with corners of \p radius; leaves \p painter antialiasing and without a pen.
+/// Fills \p rect with corners of \p radius. Leaves \p painter with antialiasing on and no pen.
 void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QColor &color);
 
-/// Draws the background of the floating window \p panel: the window colour with a faint edge that
-/// sets it apart from a window of the same colour below.
+/// Draws the background of the floating window \p panel: the window colour with a faint edge, which
+/// separates it from a window of the same colour below.
 void drawPanel(QPainter &painter, const QWidget *panel, double radius);

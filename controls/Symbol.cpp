@@ -11,7 +11,7 @@
 namespace {
 
 constexpr double kDrawnPointSize = 100.0;
-/// How much wider a stroke is at weight 500 than at 400; the steps above follow in proportion.
+/// Relative increase of stroke width per weight step of 100 above 400.
 constexpr double kWideningPerWeightStep = 0.18;
 
 double strokeFactor(QFont::Weight weight)
@@ -60,7 +60,7 @@ void Symbol::draw(QPainter &painter, const QRectF &rect, const QColor &ink) cons
 void drawTinted(QPainter &painter, const platform::SvgImage &image, const QRectF &rect,
                 const QColor &ink)
 {
-    // The mask stands on whole device pixels, so composing it does not soften the drawing.
+    // The mask is aligned to whole device pixels, so that drawing it does not resample it.
     const QTransform toDevice = painter.deviceTransform();
     const QRect device = toDevice.mapRect(rect).toAlignedRect();
     if (image.isNull() || device.isEmpty() || !toDevice.isInvertible())

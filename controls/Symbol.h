@@ -8,16 +8,16 @@
 #include <QFont>
 #include <QSizeF>
 
-/// A one-colour drawing that stands beside text and takes its size and weight from it. The files in
-/// the bundle's "symbols" folder are drawn in hundredths of the point size, with strokes for the
-/// regular weight; the drawing's box is centred where the eye sees its middle. A cheap value, null
-/// when there is no such drawing.
+/// A one-colour drawing that stands beside text and matches its size and weight. The files in the
+/// bundle's "symbols" folder use hundredths of the point size as unit and strokes of regular
+/// weight; the optical centre of a drawing is the centre of its view box. Cheap to copy; null when
+/// the file is missing.
 class Symbol
 {
 public:
     Symbol() = default;
 
-    /// The symbol \p name at \p pointSize; a weight above regular widens its strokes.
+    /// Loads symbol \p name at \p pointSize, with wider strokes for a \p weight above regular.
     static Symbol named(const QString &name, double pointSize, QFont::Weight weight = QFont::Normal,
                         const platform::Bundle &bundle = platform::Bundle::ofProgram());
 
@@ -25,7 +25,7 @@ public:
     /// In points.
     QSizeF size() const { return m_size; }
 
-    /// Draws the symbol at its own size in the middle of \p rect, its shape filled with \p ink.
+    /// Draws the symbol at its own size, centred in \p rect, in the colour \p ink.
     void draw(QPainter &painter, const QRectF &rect, const QColor &ink) const;
 
 private:
@@ -33,7 +33,7 @@ private:
     QSizeF m_size;
 };
 
-/// Draws \p image into \p rect with every colour replaced by \p ink, which the image's own alpha
-/// masks. A null image draws nothing.
+/// Fills \p rect with \p ink, masked by the alpha of \p image. Draws nothing when the image is
+/// null.
 void drawTinted(QPainter &painter, const platform::SvgImage &image, const QRectF &rect,
                 const QColor &ink);

@@ -54,7 +54,7 @@ void TamselColorPopover::dropPopover()
         return;
     m_popover->disconnect(this);
     m_popover->close();
-    m_popover->deleteLater(); // it may be in the middle of an event of its own
+    m_popover->deleteLater(); // the popover may be handling an event
 }
 
 Popover *TamselColorPopover::popover() const
@@ -99,7 +99,7 @@ void TamselColorPopover::setColor(const QColor &color)
     float brightness = 0.0F;
     if (color.isValid())
         color.toRgb().getHsvF(&hue, &saturation, &brightness);
-    m_hueSlider->setDoubleValue(std::max(0.0F, hue)); // greys have none and report -1
+    m_hueSlider->setDoubleValue(std::max(0.0F, hue)); // -1 for greys
     m_saturationSlider->setDoubleValue(saturation);
     m_brightnessSlider->setDoubleValue(brightness);
     updateGradients();
@@ -124,7 +124,8 @@ void TamselColorPopover::updateGradients()
     }
 }
 
-// The callbacks are called through copies: their owner may replace them, or this object, meanwhile.
+// Callbacks are called through copies, because their owner may replace them, or delete this object,
+// during the call.
 
 void TamselColorPopover::changed()
 {

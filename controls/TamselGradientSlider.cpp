@@ -18,9 +18,9 @@ constexpr QMarginsF kTrackInset(1.0, 2.0, 1.0, 2.0);
 constexpr double kOutlineAlpha = 0.25;
 constexpr double kKnobDiameter = 24.0;
 constexpr double kKnobRim = 2.0;
-/// How far from either end the knob's centre stops.
+/// Distance of the knob's centre from the slider's ends at values 0 and 1.
 constexpr double kKnobReach = 14.0;
-/// The spectrum bends between its pure colours; the other tracks are straight.
+/// The hue gradient needs intermediate stops; the others are linear in RGB.
 constexpr int kHueSegments = 12;
 
 constexpr double kStep = 0.01;
@@ -28,8 +28,8 @@ constexpr double kPageStep = 0.1;
 /// Eighths of a degree in one notch of a wheel.
 constexpr double kWheelNotch = 120.0;
 
-/// Where \p key takes a slider that stands at \p value; none for other keys.
-std::optional<double> valueAfterKey(int key, double value, double low, double high)
+/// The value after \p key is pressed at \p value; none for keys that do not move the slider.
+std::optional<double> valueAfterKey(int key, double value)
 {
     switch (key) {
     case Qt::Key_Left:
@@ -43,9 +43,9 @@ std::optional<double> valueAfterKey(int key, double value, double low, double hi
     case Qt::Key_PageUp:
         return value + kPageStep;
     case Qt::Key_Home:
-        return low;
+        return TamselGradientSlider::minValue();
     case Qt::Key_End:
-        return high;
+        return TamselGradientSlider::maxValue();
     default:
         return std::nullopt;
     }
@@ -55,43 +55,20 @@ std::optional<double> valueAfterKey(int key, double value, double low, double hi
 
 TamselGradientSlider::TamselGradientSlider(QWidget *parent) : QWidget(parent)
 {
+    setAccessibleRole(this, QAccessible::Slider);
     setFocusPolicy(Qt::StrongFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] {
         const QRectF track = QRectF(rect()).marginsRemoved(kTrackInset);
         return FocusRing::Outline{track, track.height() / 2.0};
     });
 }
 
-void TamselGradientSlider::setComponent(int component)
-{
-    m_component = component;
-    update();
-}
-
-void TamselGradientSlider::setSelectedHue(double hue)
-{
-    m_selectedHue = hue;
-    update();
-}
-
-void TamselGradientSlider::setSelectedSaturation(double saturation)
-{
-    m_selectedSaturation = saturation;
-    update();
-}
-
-void TamselGradientSlider::setSelectedBrightness(double brightness)
-{
-    m_selectedBrightness = brightness;
-    update();
-}
-
 void TamselGradientSlider::setDoubleValue(double value)
 {
-    m_doubleValue = std::clamp(value, m_minValue, std::max(m_minValue, m_maxValue));
-    announceValue(this, m_doubleValue);
+    m_doubleValue = std::clamp(value, minValue(), maxValue());
+    QAccessibleValueChangeEvent event(this, m_doubleValue);
+    QAccessible::updateAccessibility(&event);
     update();
 }
 
@@ -150,7 +127,7 @@ void TamselGradientSlider::drawKnob(QPainter &painter, const QRectF &track) cons
 
 void TamselGradientSlider::track(const QMouseEvent &event)
 {
-    // The knob's own mapping, so that its centre stays under the pointer.
+    // The inverse of the knob's position, so that its centre follows the pointer.
     const double value = (event.position().x() - kKnobReach) / (width() - 2.0 * kKnobReach);
     edit(std::clamp(value, 0.0, 1.0));
 }
@@ -186,7 +163,7 @@ void TamselGradientSlider::wheelEvent(QWheelEvent *event)
 
 void TamselGradientSlider::keyPressEvent(QKeyEvent *event)
 {
-    if (const auto value = valueAfterKey(event->key(), m_doubleValue, m_minValue, m_maxValue))
+    if (const auto value = valueAfterKey(event->key(), m_doubleValue))
         edit(*value);
     else
         QWidget::keyPressEvent(event);

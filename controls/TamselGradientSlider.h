@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/SetAndUpdate.h"
+
 #include <QColor>
 #include <QWidget>
 
-/// A slider along one component of a colour: its track shows the colours it can reach, its knob the
-/// one it stands at. Always from left to right.
+/// A slider for one component of a colour. The track shows the colours it can reach, the knob the
+/// current one. Always runs from left to right. It is not a QAbstractSlider, which has whole
+/// numbers only, also towards assistive technology, and is mirrored in right-to-left layouts.
 class TamselGradientSlider : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(double value READ doubleValue WRITE edit)
 
 public:
     enum Component { Hue = 0, Saturation = 1, Brightness = 2 };
@@ -16,33 +20,37 @@ public:
     explicit TamselGradientSlider(QWidget *parent = nullptr);
 
     int component() const { return m_component; }
-    void setComponent(int component);
+    void setComponent(int component) { setAndUpdate(this, m_component, component); }
 
-    /// The colour being edited, each part 0 to 1; what the track is drawn from.
+    /// The colour being edited, from which the track is drawn; each component 0 to 1.
     double selectedHue() const { return m_selectedHue; }
-    void setSelectedHue(double hue);
+    void setSelectedHue(double hue) { setAndUpdate(this, m_selectedHue, hue); }
     double selectedSaturation() const { return m_selectedSaturation; }
-    void setSelectedSaturation(double saturation);
+    void setSelectedSaturation(double saturation)
+    {
+        setAndUpdate(this, m_selectedSaturation, saturation);
+    }
     double selectedBrightness() const { return m_selectedBrightness; }
-    void setSelectedBrightness(double brightness);
+    void setSelectedBrightness(double brightness)
+    {
+        setAndUpdate(this, m_selectedBrightness, brightness);
+    }
 
     double doubleValue() const { return m_doubleValue; }
-    /// Clamped to the slider's range; reports nothing.
+    /// Clamps \p value to minValue() and maxValue(). Does not emit edited().
     void setDoubleValue(double value);
-    double minValue() const { return m_minValue; }
-    void setMinValue(double value) { m_minValue = value; }
-    double maxValue() const { return m_maxValue; }
-    void setMaxValue(double value) { m_maxValue = value; }
+    static constexpr double minValue() { return 0.0; }
+    static constexpr double maxValue() { return 1.0; }
 
-    /// The colour that position \p value (0 to 1) stands for.
+    /// The colour at position \p value, 0 to 1.
     QColor colorAtValue(double value) const;
 
-    /// Sets the value as the user does, and reports it.
+    /// Sets the value on the user's behalf and emits edited().
     void edit(double value);
 
 Q_SIGNALS:
-    /// The user set the value, be it to what it was: at the press, at each movement and at the
-    /// release of the mouse, at each key and each turn of the wheel.
+    /// Emitted when the user sets the value, even to the same one: at the press, each movement and
+    /// the release of the mouse, each key and each step of the wheel.
     void edited();
 
 protected:
@@ -63,6 +71,4 @@ private:
     double m_selectedSaturation = 0.0;
     double m_selectedBrightness = 0.0;
     double m_doubleValue = 0.0;
-    double m_minValue = 0.0;
-    double m_maxValue = 1.0;
 };

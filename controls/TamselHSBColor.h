@@ -3,6 +3,6 @@
 
 #include <QColor>
 
-/// The opaque sRGB colour of a hue, saturation and brightness, each 0 to 1 (and clamped to it):
-/// the plain HSB conversion, its results taken as sRGB components as they stand.
+/// The opaque sRGB colour of a hue, saturation and brightness, each clamped to 0 to 1. The results
+/// of the HSB conversion are sRGB components as they are.
 QColor TamselHSBColor(double hue, double saturation, double brightness);

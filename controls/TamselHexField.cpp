@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselHexField.h"
 
-#include "controls/RoundedShape.h"
+#include "controls/ControlFont.h"
 #include "controls/TamselInputCell.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
@@ -12,9 +12,7 @@
 
 namespace {
 
-constexpr double kRadius = 6.0;
-constexpr double kFontSize = 13.0;
-/// What the toolkit's editor keeps free on each side inside its margins, and for the caret.
+/// Padding that QLineEdit adds on each side inside its text margins, and the width of its caret.
 constexpr double kEditorPadding = 2.0;
 constexpr double kCaretSpace = 2.0;
 constexpr double kSelectionAlpha = 0.35;
@@ -24,16 +22,10 @@ constexpr double kSelectionAlpha = 0.35;
 TamselHexField::TamselHexField(QWidget *parent) : QLineEdit(parent)
 {
     setFrame(false);
-    // Absolute: a colour's text stays at the right even when it is written from right to left.
+    // AlignAbsolute keeps the text at the right in right-to-left layouts.
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
-    setFont(platform::systemFont(kFontSize, QFont::Normal));
+    setFont(controlFont());
     followAppearance(this, [this] { takeColors(); });
-}
-
-void TamselHexField::setFill(const QColor &fill)
-{
-    m_fill = fill;
-    update();
 }
 
 QRectF TamselHexField::textRect() const
@@ -51,7 +43,8 @@ void TamselHexField::changeEvent(QEvent *event)
 void TamselHexField::keyPressEvent(QKeyEvent *event)
 {
     QLineEdit::keyPressEvent(event);
-    // It has been reported and is not for the window's default button as well.
+    // Return has been reported by returnPressed() and must not press the window's default button
+    // too.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         event->accept();
 }
@@ -66,7 +59,7 @@ void TamselHexField::paintEvent(QPaintEvent *event)
 {
     {
         QPainter painter(this);
-        fillRounded(painter, rect(), kRadius, m_fill.isValid() ? m_fill : TamselInputFill(this));
+        drawInputField(painter, this, m_fill);
     }
     QLineEdit::paintEvent(event);
 }

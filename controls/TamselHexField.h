@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/SetAndUpdate.h"
+
 #include <QColor>
 #include <QLineEdit>
 
-/// A rounded text field without border or ring in which a colour is typed; its caret shows the
-/// focus. Text stands where TamselInputCell says, edited or not.
+/// A rounded text field for a hexadecimal colour, without border or focus ring. Its text keeps its
+/// position when editing starts.
 class TamselHexField : public QLineEdit
 {
     Q_OBJECT
@@ -13,11 +15,11 @@ class TamselHexField : public QLineEdit
 public:
     explicit TamselHexField(QWidget *parent = nullptr);
 
-    /// The background; TamselInputFill when invalid, which is the default.
+    /// The background; TamselInputFill when invalid.
     QColor fill() const { return m_fill; }
-    void setFill(const QColor &fill);
+    void setFill(const QColor &fill) { setAndUpdate(this, m_fill, fill); }
 
-    /// The rectangle of the text in the field's coordinates.
+    /// Where the text is drawn, in the field's coordinates.
     QRectF textRect() const;
 
 protected:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselInputCell.h"
 
-#include "controls/LineHeight.h"
+#include "controls/ControlFont.h"
 
 namespace {
 constexpr double kLeftInset = 4.0;

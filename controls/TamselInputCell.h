@@ -4,12 +4,12 @@
 #include <QFont>
 #include <QRectF>
 
-/// Where the text of an input field stands.
+/// The text geometry of an input field.
 struct TamselInputCell
 {
     QFont font;
 
-    /// One line of text, centred in the height of \p frame. It begins 4 points after the left edge
-    /// and ends 10 points before the right one, where the right-aligned text stands.
+    /// The rectangle of one line of text in \p frame: vertically centred, 4 points from the left
+    /// edge and 10 points from the right edge, where the text is aligned.
     QRectF drawingRectForBounds(const QRectF &frame) const;
 };

@@ -3,8 +3,15 @@
 
 #include <QColor>
 
+class QPainter;
 class QWidget;
 
-/// The background of everything that takes input, in the appearance that \p view is drawn in.
-/// Asked for at drawing time, never stored.
+/// The background colour of controls that take input, in the appearance of \p view. Ask for it
+/// while drawing; do not store it.
 QColor TamselInputFill(const QWidget *view);
+
+/// \p fill, or TamselInputFill when it is invalid.
+QColor fillOrInputFill(const QColor &fill, const QWidget *view);
+
+/// Draws the rounded background of the input field \p view in fillOrInputFill().
+void drawInputField(QPainter &painter, const QWidget *view, const QColor &fill);

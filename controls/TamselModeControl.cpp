@@ -41,6 +41,8 @@ public:
         : QAbstractButton(control), m_control(control),
           m_image(Symbol::named(symbol.name.toString(), symbol.pointSize, QFont::Medium))
     {
+        setAccessibleRole(this, QAccessible::RadioButton);
+        setCheckable(true);
         setFocusPolicy(Qt::TabFocus);
         setAccessibleName(symbol.description.toString());
         new FocusRing(this, [this] {
@@ -50,11 +52,13 @@ public:
     }
 
 protected:
+    /// Clicks do not toggle: the control checks the button of the selected segment.
+    void nextCheckState() override {}
+
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        const bool selected = m_control->buttons().value(m_control->selectedSegment()) == this;
-        painter.setOpacity(selected ? 1.0 : kUnselectedAlpha);
+        painter.setOpacity(isChecked() ? 1.0 : kUnselectedAlpha);
         m_image.draw(painter, rect(), m_control->ink());
     }
 
@@ -75,7 +79,7 @@ TamselModeControl::TamselModeControl(const platform::Clocks &clocks, QWidget *pa
           fadeStep(alpha, atEnd);
       })
 {
-    installControlAccessibility();
+    setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(u"Preview palette"_s);
     for (const ModeSymbol &symbol : kSymbols) {
         const int segment = static_cast<int>(m_buttons.size());
@@ -108,8 +112,8 @@ void TamselModeControl::selectMode(int segment)
 void TamselModeControl::updateIcons()
 {
     for (QAbstractButton *button : m_buttons) {
+        button->setChecked(m_buttons.indexOf(button) == m_selectedSegment);
         button->update();
-        announceChecked(button);
     }
     update();
 }
@@ -117,7 +121,7 @@ void TamselModeControl::updateIcons()
 void TamselModeControl::setVisible(bool visible, bool animated)
 {
     m_visibilityTimer.stop();
-    // A view that nobody hid counts as shown, even before its window is.
+    // Before its window is shown, a view counts as hidden only if it was hidden explicitly.
     const bool hidden = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
     const double from = hidden ? 0.0 : alphaValue(this);
     const double to = visible ? 1.0 : 0.0;

@@ -8,7 +8,7 @@
 #include <QList>
 
 /// The small day and night switch on the live preview: two symbols on a faint background, both in
-/// the ink its owner chooses to suit what is below.
+/// an ink that its owner adapts to the preview's colours.
 class TamselModeControl : public QWidget
 {
     Q_OBJECT
@@ -20,25 +20,25 @@ public:
     /// \p clocks must outlive the control.
     TamselModeControl(const platform::Clocks &clocks, QWidget *parent);
 
-    /// Whose colours the preview shows: Day or Night.
+    /// The palette that the preview shows: Day or Night.
     int selectedSegment() const { return m_selectedSegment; }
     void setSelectedSegment(int segment);
 
     QColor ink() const { return m_ink; }
     void setInk(const QColor &ink);
 
-    /// The button of each segment, Day first.
+    /// One per segment, Day first.
     const QList<QAbstractButton *> &buttons() const { return m_buttons; }
 
     using QWidget::setVisible;
-    /// Shows or hides the control, fading from where it is when \p animated. The buttons work, or
-    /// stop working, at once.
+    /// Shows or hides the control; \p animated fades from the current opacity. The buttons are
+    /// enabled or disabled at once.
     void setVisible(bool visible, bool animated);
-    /// The fade: running, or idle.
+    /// The fade of setVisible().
     Glide &visibilityTimer() { return m_visibilityTimer; }
 
 Q_SIGNALS:
-    /// The user chose a segment, be it the one already selected.
+    /// Emitted when the user clicks a segment, even the selected one.
     void triggered();
 
 protected:

@@ -3,6 +3,6 @@
 
 #include <QImage>
 
-/// The colour wheel that stands for "any colour", 20 x 20 points, loaded once per process from the
-/// module's bundle; null when the bundle has none.
+/// The colour wheel of the custom swatch, 20 x 20 points. Loaded from the bundle once per process;
+/// null when the file is missing.
 const QImage &TamselRainbowImage();

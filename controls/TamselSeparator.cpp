@@ -13,8 +13,8 @@ constexpr double kAlpha = 0.05;
 
 TamselSeparator::TamselSeparator(QWidget *parent) : QWidget(parent)
 {
+    setAccessibleRole(this, QAccessible::Separator);
     redrawWithAppearance(this);
-    installControlAccessibility();
 }
 
 void TamselSeparator::paintEvent(QPaintEvent *)

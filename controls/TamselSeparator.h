@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-/// A faint line, as long and as thick as its frame.
+/// A faint line that fills its frame.
 class TamselSeparator : public QWidget
 {
     Q_OBJECT

@@ -11,30 +11,12 @@
 TamselSettingsView::TamselSettingsView(QWidget *parent) : QWidget(parent)
 {
     redrawWithAppearance(this);
-    installControlAccessibility();
 }
 
 void TamselSettingsView::setGroup(bool group)
 {
     m_group = group;
-    update();
-}
-
-void TamselSettingsView::setTransparent(bool transparent)
-{
-    m_transparent = transparent;
-    update();
-}
-
-void TamselSettingsView::setGroupRadius(double radius)
-{
-    m_groupRadius = radius;
-    update();
-}
-
-void TamselSettingsView::setGroupContrast(double contrast)
-{
-    m_groupContrast = contrast;
+    setAccessibleRole(this, group ? QAccessible::Grouping : QAccessible::Client);
     update();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/SetAndUpdate.h"
+
 #include <QWidget>
 
 /// The background of the options sheet, or of one of its grouped sections.
@@ -11,22 +13,22 @@ class TamselSettingsView : public QWidget
 public:
     explicit TamselSettingsView(QWidget *parent = nullptr);
 
-    /// Whether this is a section: a rounded tint instead of the window background.
+    /// Whether this is a section, drawn as a rounded tint instead of the window background.
     bool group() const { return m_group; }
     void setGroup(bool group);
 
-    /// Whether nothing is drawn at all, whatever else is set.
+    /// Whether nothing is drawn, regardless of the other properties.
     bool transparent() const { return m_transparent; }
-    void setTransparent(bool transparent);
+    void setTransparent(bool transparent) { setAndUpdate(this, m_transparent, transparent); }
 
     /// Corner radius of a section in points.
     double groupRadius() const { return m_groupRadius; }
-    void setGroupRadius(double radius);
+    void setGroupRadius(double radius) { setAndUpdate(this, m_groupRadius, radius); }
 
-    /// Alpha of a section's tint, which is the label colour: it darkens where that is dark and
-    /// lightens where it is light.
+    /// Alpha of a section's tint. The tint is the label colour: it darkens a light appearance and
+    /// lightens a dark one.
     double groupContrast() const { return m_groupContrast; }
-    void setGroupContrast(double contrast);
+    void setGroupContrast(double contrast) { setAndUpdate(this, m_groupContrast, contrast); }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -14,10 +14,10 @@
 TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
 {
+    setAccessibleRole(this, QAccessible::Dialog);
     setAttribute(Qt::WA_TranslucentBackground);
     takeModality();
     redrawWithAppearance(this);
-    installControlAccessibility();
 }
 
 void TamselSettingsWindow::setCornerRadius(double radius)

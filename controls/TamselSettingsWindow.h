@@ -4,8 +4,8 @@
 #include <QPoint>
 #include <QWidget>
 
-/// The window of the options sheet: without a frame, see-through where nothing is drawn, yet able
-/// to take the keyboard like any window. Modal over its parent when it has one.
+/// The window of the options sheet: frameless and translucent, but able to take the keyboard focus.
+/// Modal to its parent when it has one.
 class TamselSettingsWindow : public QWidget
 {
     Q_OBJECT
@@ -16,19 +16,18 @@ public:
     bool canBecomeKeyWindow() const { return true; }
     bool canBecomeMainWindow() const { return true; }
 
-    /// Corner radius of the background in points; 0, the default, draws no background.
-    double cornerRadius() const { return m_cornerRadius; }
+    /// Corner radius of the background in points. At 0, the default, no background is drawn.
     void setCornerRadius(double radius);
 
-    /// Whether the window follows a drag that begins where no control takes it.
-    bool movableByWindowBackground() const { return m_movable; }
+    /// Whether dragging the background moves the window.
     void setMovableByWindowBackground(bool movable) { m_movable = movable; }
 
 Q_SIGNALS:
-    /// Return was pressed and neither a control takes it nor is it for the focused button.
+    /// Emitted when Return is pressed, unless the focused control handles it or is a PushButton,
+    /// which is clicked instead.
     void defaultRequested();
-    /// Escape was pressed where no control takes it, or the desktop was told to close the window;
-    /// it stays unless whoever hears of it hides it.
+    /// Emitted when Escape is pressed and no control handles it, or when the desktop asks the
+    /// window to close. The window stays open unless a receiver hides it.
     void cancelRequested();
 
 protected:
@@ -47,7 +46,7 @@ private:
 
     double m_cornerRadius = 0.0;
     bool m_movable = false;
-    /// While the window moves itself because the desktop cannot: the pointer in the window.
+    /// For desktops that cannot move a window: where the pointer grabbed it, in window coordinates.
     QPoint m_grip;
     bool m_dragging = false;
 };

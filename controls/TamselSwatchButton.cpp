@@ -16,7 +16,6 @@ constexpr double kInset = 4.0;
 constexpr double kRimAlpha = 0.2;
 constexpr double kRingGap = 2.0;
 constexpr double kRingWidth = 1.5;
-constexpr QSize kUsualSize(28, 28);
 
 QRectF grown(const QRectF &rect, double by)
 {
@@ -34,41 +33,40 @@ double scaleOf(const QPainter &painter)
 
 TamselSwatchButton::TamselSwatchButton(QWidget *parent) : QAbstractButton(parent)
 {
+    setAccessibleRole(this, QAccessible::Button);
     setFocusPolicy(Qt::TabFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] { return FocusRing::Outline{rect(), width() / 2.0}; });
 }
 
 void TamselSwatchButton::setSwatchColor(const QColor &color)
 {
     m_swatchColor = color;
-    announce(this, QAccessible::DescriptionChanged);
+    tellColor();
     update();
 }
 
 void TamselSwatchButton::setRainbow(bool rainbow)
 {
     m_rainbow = rainbow;
+    tellColor();
     update();
 }
 
-void TamselSwatchButton::setUsesPickerSelection(bool uses)
+void TamselSwatchButton::tellColor()
 {
-    m_usesPickerSelection = uses;
-    update();
+    const bool isOneColor = !m_rainbow && m_swatchColor.isValid();
+    setAccessibleDescription(isOneColor ? m_swatchColor.name().toUpper() : QString());
 }
 
 void TamselSwatchButton::setPickerActive(bool active)
 {
     m_pickerActive = active;
-    announceExpanded(this);
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
     update();
-}
-
-QSize TamselSwatchButton::sizeHint() const
-{
-    return kUsualSize;
 }
 
 void TamselSwatchButton::paintEvent(QPaintEvent *)
@@ -92,7 +90,7 @@ void TamselSwatchButton::drawColor(QPainter &painter, const QRectF &swatch) cons
     }
     if (TamselRainbowImage().isNull())
         return;
-    // Brought to its size in device pixels beforehand: drawing alone would skip over pixels.
+    // Scaled to device pixels first: the painter alone would sample too few pixels.
     const QSize size = (swatch.size() * scaleOf(painter)).toSize();
     QImage wheel =
         TamselRainbowImage().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/SetAndUpdate.h"
+
 #include <QAbstractButton>
 #include <QColor>
 
@@ -22,7 +24,7 @@ public:
 
     /// Whether the ring follows `pickerActive` instead of the button's checked state.
     bool usesPickerSelection() const { return m_usesPickerSelection; }
-    void setUsesPickerSelection(bool uses);
+    void setUsesPickerSelection(bool uses) { setAndUpdate(this, m_usesPickerSelection, uses); }
 
     /// Whether a colour editor is open for this swatch.
     bool pickerActive() const { return m_pickerActive; }
@@ -31,12 +33,12 @@ public:
     /// Whether the ring is drawn.
     bool isSelected() const { return m_usesPickerSelection ? m_pickerActive : isChecked(); }
 
-    QSize sizeHint() const override;
-
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Describes the colour to assistive technology.
+    void tellColor();
     void drawColor(QPainter &painter, const QRectF &swatch) const;
     void drawRim(QPainter &painter, const QRectF &swatch) const;
     void drawRing(QPainter &painter, const QRectF &swatch) const;

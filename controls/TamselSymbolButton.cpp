@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselSymbolButton.h"
 
-#include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
 #include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
@@ -14,7 +13,6 @@ namespace {
 
 constexpr double kInkAlpha = 0.5;
 constexpr double kPressedAlpha = 0.6;
-constexpr QSize kUsualSize(24, 24);
 
 } // namespace
 
@@ -22,38 +20,7 @@ TamselSymbolButton::TamselSymbolButton(QWidget *parent) : QAbstractButton(parent
 {
     setFocusPolicy(Qt::TabFocus);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] { return FocusRing::Outline{rect(), outlineRadius()}; });
-}
-
-void TamselSymbolButton::setImage(const Symbol &image)
-{
-    m_image = image;
-    update();
-}
-
-void TamselSymbolButton::setFill(const QColor &fill)
-{
-    m_fill = fill;
-    update();
-}
-
-void TamselSymbolButton::setInk(const QColor &ink)
-{
-    m_ink = ink;
-    update();
-}
-
-void TamselSymbolButton::setHoverInk(const QColor &hoverInk)
-{
-    m_hoverInk = hoverInk;
-    update();
-}
-
-void TamselSymbolButton::setRadius(double radius)
-{
-    m_radius = radius;
-    update();
 }
 
 QColor TamselSymbolButton::displayInk() const
@@ -65,7 +32,7 @@ QColor TamselSymbolButton::displayInk() const
 
 QColor TamselSymbolButton::displayFill() const
 {
-    return m_fill.isValid() ? m_fill : TamselInputFill(this);
+    return fillOrInputFill(m_fill, this);
 }
 
 void TamselSymbolButton::drawSymbolInRect(QPainter &painter, const QRectF &rect) const
@@ -74,11 +41,6 @@ void TamselSymbolButton::drawSymbolInRect(QPainter &painter, const QRectF &rect)
     painter.setOpacity(painter.opacity() * (isDown() ? kPressedAlpha : 1.0));
     m_image.draw(painter, rect, displayInk());
     painter.restore();
-}
-
-QSize TamselSymbolButton::sizeHint() const
-{
-    return kUsualSize;
 }
 
 void TamselSymbolButton::enterEvent(QEnterEvent *)

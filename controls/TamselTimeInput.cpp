@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselTimeInput.h"
 
-#include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 
@@ -12,10 +11,9 @@
 
 namespace {
 
-constexpr double kRadius = 6.0;
 constexpr double kWidthLoss = 14.0;
 constexpr double kRightMargin = 8.0;
-/// A picker's text stands higher than the middle of its cell.
+/// Moves the picker down, because its text is above the centre of its cell.
 constexpr double kNudge = 1.5;
 
 } // namespace
@@ -42,12 +40,6 @@ void TamselTimeInput::setPicker(QWidget *picker)
     }
 }
 
-void TamselTimeInput::setFill(const QColor &fill)
-{
-    m_fill = fill;
-    update();
-}
-
 void TamselTimeInput::alignPicker()
 {
     if (QWidget *picker = m_picker)
@@ -57,5 +49,5 @@ void TamselTimeInput::alignPicker()
 void TamselTimeInput::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    fillRounded(painter, rect(), kRadius, m_fill.isValid() ? m_fill : TamselInputFill(this));
+    drawInputField(painter, this, m_fill);
 }

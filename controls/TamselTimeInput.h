@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/SetAndUpdate.h"
+
 #include <QColor>
 #include <QPointer>
 #include <QWidget>
 
-/// The rounded field that holds a time picker.
+/// A rounded field around a time picker.
 class TamselTimeInput : public QWidget
 {
     Q_OBJECT
@@ -13,16 +15,17 @@ class TamselTimeInput : public QWidget
 public:
     explicit TamselTimeInput(QWidget *parent = nullptr);
 
-    /// The control inside; null when there is none.
+    /// Null until it is set and once it is destroyed.
     QWidget *picker() const { return m_picker; }
-    /// Takes \p picker into the field; alignPicker() then places it by its size hint.
+    /// Takes ownership of \p picker; call alignPicker() afterwards.
     void setPicker(QWidget *picker);
 
     /// The background; TamselInputFill when invalid.
     QColor fill() const { return m_fill; }
-    void setFill(const QColor &fill);
+    void setFill(const QColor &fill) { setAndUpdate(this, m_fill, fill); }
 
-    /// Places the picker. To be called when it was set and whenever the field's size changed.
+    /// Places the picker by its size hint. Call it after setPicker() and after each change of the
+    /// field's size.
     void alignPicker();
 
 protected:
@@ -33,5 +36,5 @@ private:
     QColor m_fill;
 };
 
-/// The frame of a picker of size \p cell in a time input of size \p bounds.
+/// The frame of a picker with size hint \p cell in a time input of size \p bounds.
 QRectF timePickerFrame(const QSizeF &bounds, const QSizeF &cell);

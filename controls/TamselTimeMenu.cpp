@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/TamselTimeMenu.h"
 
-#include "controls/LineHeight.h"
+#include "controls/ControlAccessibility.h"
+#include "controls/ControlFont.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -12,13 +13,11 @@
 
 namespace {
 
-/// Where every row of the sheet ends.
-constexpr double kRightEdge = 334.0;
 constexpr double kTitledHeight = 24.0;
 constexpr double kSymbolSide = 20.0;
-/// What the width has beside the title: the symbol, the gap before it and the space on the left.
+/// Width of the symbol, the gap before it and the space before the title.
 constexpr double kTitleSurround = 44.0;
-constexpr double kTitleRightInset = 32.0;
+constexpr int kTitleRightInset = 32;
 constexpr double kExpandedRadius = 6.0;
 constexpr double kCircleRadius = kSymbolSide / 2.0;
 
@@ -26,6 +25,7 @@ constexpr double kCircleRadius = kSymbolSide / 2.0;
 
 TamselTimeMenu::TamselTimeMenu(QWidget *parent) : TamselSymbolButton(parent)
 {
+    setAccessibleRole(this, QAccessible::ButtonMenu);
 }
 
 void TamselTimeMenu::alignAtRowCenter(double y)
@@ -34,7 +34,13 @@ void TamselTimeMenu::alignAtRowCenter(double y)
     const double titleWidth = QFontMetricsF(font()).horizontalAdvance(text());
     const double width = titled ? std::ceil(titleWidth) + kTitleSurround : kSymbolSide;
     const double height = titled ? kTitledHeight : kSymbolSide;
-    setGeometry(QRectF(kRightEdge - width, y - height / 2.0, width, height).toRect());
+    const double right = x() + this->width();
+    setGeometry(QRectF(right - width, y - height / 2.0, width, height).toRect());
+}
+
+int TamselTimeMenu::titleEnd() const
+{
+    return width() - kTitleRightInset;
 }
 
 double TamselTimeMenu::outlineRadius() const
@@ -59,7 +65,7 @@ void TamselTimeMenu::paintEvent(QPaintEvent *)
     if (!text().isEmpty()) {
         const double line = lineHeight(font());
         painter.setPen(hoverInk().isValid() ? hoverInk() : appearanceOf(this).controlTextColor());
-        painter.drawText(QRectF(0.0, (height() - line) / 2.0, width() - kTitleRightInset, line),
+        painter.drawText(QRectF(0.0, (height() - line) / 2.0, titleEnd(), line),
                          Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignTop | Qt::TextSingleLine,
                          text());
     }

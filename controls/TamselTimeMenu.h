@@ -3,8 +3,8 @@
 
 #include "controls/TamselSymbolButton.h"
 
-/// A button that opens a menu of time modes: the chosen mode's title, which may be empty, and a
-/// symbol at its right end.
+/// A button that opens a menu of time modes: the title of the chosen mode, which may be empty, and
+/// a symbol at the right end.
 class TamselTimeMenu : public TamselSymbolButton
 {
     Q_OBJECT
@@ -12,9 +12,13 @@ class TamselTimeMenu : public TamselSymbolButton
 public:
     explicit TamselTimeMenu(QWidget *parent = nullptr);
 
-    /// Sizes the menu for its title and places it at the right end of the row whose middle is at
-    /// \p y in the parent's coordinates.
+    /// Sizes the menu for its title, keeps its right edge, and centres it vertically at \p y in the
+    /// parent's coordinates.
     void alignAtRowCenter(double y);
+
+    /// Where the title ends, in the menu's coordinates. Without a title it is where one would end
+    /// before the symbol, outside the menu.
+    int titleEnd() const;
 
 protected:
     double outlineRadius() const override;

@@ -29,21 +29,16 @@ TamselToggle::TamselToggle(const platform::Clocks &clocks, QWidget *parent)
     : QAbstractButton(parent),
       m_slide(clocks, kSlideDuration, [this](double position, bool) { setKnobPosition(position); })
 {
+    setAccessibleRole(this, QAccessible::CheckBox);
     setCheckable(true);
     setFocusPolicy(Qt::TabFocus);
     resize(kSize);
     redrawWithAppearance(this);
-    installControlAccessibility();
     new FocusRing(this, [this] { return FocusRing::Outline{rect(), height() / 2.0}; });
     connect(this, &QAbstractButton::toggled, this, [this](bool on) {
         m_slide.stop();
         setKnobPosition(on ? 1.0 : 0.0);
     });
-}
-
-QSize TamselToggle::sizeHint() const
-{
-    return kSize;
 }
 
 void TamselToggle::nextCheckState()

@@ -5,8 +5,8 @@
 
 #include <QAbstractButton>
 
-/// A small switch, 36 x 16 points. Its knob slides when the user throws it; a program that sets it
-/// sees it there at once.
+/// A small switch, 36 x 16 points. The knob slides when the user clicks it, and jumps when the
+/// program sets it.
 class TamselToggle : public QAbstractButton
 {
     Q_OBJECT
@@ -16,8 +16,7 @@ public:
     /// \p clocks must outlive the toggle.
     TamselToggle(const platform::Clocks &clocks, QWidget *parent);
 
-    QSize sizeHint() const override;
-    /// The slide of the knob: running, or idle.
+    /// The animation of the knob.
     Glide &slide() { return m_slide; }
 
 protected:
@@ -28,6 +27,6 @@ private:
     void setKnobPosition(double position);
 
     Glide m_slide;
-    /// 0 off, 1 on, between them on its way.
+    /// 0 is off, 1 is on.
     double m_knobPosition = 0.0;
 };

@@ -2,8 +2,8 @@
 #include "controls/TimePicker.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/ControlFont.h"
 #include "controls/Emphasis.h"
-#include "controls/LineHeight.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 #include "platform/ShortTime.h"
@@ -21,26 +21,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kFontSize = 13.0;
-/// What the toolkit's editor keeps free around its text, and the caret.
+/// Padding of the line edit around its text, caret included.
 constexpr double kEditorPadding = 6.0;
 constexpr int kCaretSpace = 2;
-/// Below the text, so that its line comes to the middle of a time input, which puts the picker a
-/// little below it.
+/// Space below the text. It centres the text line in a time input, which places the picker below
+/// its middle.
 constexpr double kSpaceBelow = 5.0;
-/// Late enough to have two digits everywhere, and the longer half of a day.
+/// A time with two digits in every field and the longer of the day halves.
 constexpr QTime kWidestTime = QTime::fromMSecsSinceStartOfDay((22 * 60 + 58) * 60 * 1000);
 constexpr int kHalfDay = 12; // hours
 constexpr int kLastHour = 23;
 constexpr int kLastMinute = 59;
 
-/// The hour of the day that a clock with halves calls \p hour, where 12 is the same as 0.
+/// The hour of the day, 0 to 23, for \p hour of a 12-hour clock, where 12 means 0.
 int hourOf(int hour, bool evening)
 {
     return hour % kHalfDay + (evening ? kHalfDay : 0);
 }
 
-/// The letters of \p text alone, so that "a. m." is the same as "AM".
+/// The letters of \p text in folded case; reduces "a. m." to "am".
 QString lettersOf(const QString &text)
 {
     QString letters;
@@ -49,7 +48,7 @@ QString lettersOf(const QString &text)
     return letters.toCaseFolded();
 }
 
-/// What a key types; empty for shortcuts and keys without a sign.
+/// The text that a key types; empty for shortcuts and for keys that type nothing.
 QString typedText(const QKeyEvent &event)
 {
     const bool isCommand =
@@ -63,18 +62,20 @@ QString typedText(const QKeyEvent &event)
 
 TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
 {
+    setAccessibleRole(this, QAccessible::SpinBox);
     setFrame(false);
-    setFocusPolicy(Qt::StrongFocus); // the toolkit's own comes with the wheel as well
+    setFocusPolicy(Qt::StrongFocus); // QTimeEdit also takes the focus by the wheel
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignTop);
-    // The caret's place is taken from the margin, so that the digits end where other input does.
+    // QLineEdit reserves space for the caret; a negative margin aligns the digits with other
+    // fields.
     lineEdit()->setTextMargins(0, 0, -kCaretSpace, 0);
     setDisplayFormat(platform::shortTimeFormat(locale()));
-    setFont(platform::systemFont(kFontSize, QFont::Normal));
+    setFont(controlFont());
     lineEdit()->installEventFilter(this);
-    // By its usual name the toolkit keeps the editor from assistive technology.
+    // With the object name that Qt gives it, Qt hides the line edit from assistive technology, and
+    // the picker's text interface with it.
     lineEdit()->setObjectName(QStringLiteral("time"));
-    installControlAccessibility();
     followAppearance(this, [this] { takeColors(); });
 }
 
@@ -128,8 +129,8 @@ bool TimePicker::hasHalves() const
     return displayedSections().testFlag(AmPmSection);
 }
 
-// The toolkit refuses digits beyond 16 bits, does not read every time that it writes, and takes
-// 130 for half past ten.
+// QTimeEdit's own typing is not used: it refuses digits outside the basic multilingual plane,
+// cannot parse every format it writes, and reads 130 as 10:30.
 
 void TimePicker::typeSign(char32_t sign)
 {
@@ -155,7 +156,7 @@ void TimePicker::typeDigit(int digit)
     const Section section = currentSection();
     const int last = section == MinuteSection ? kLastMinute : hasHalves() ? kHalfDay : kLastHour;
     const int number = 10 * m_typedNumber.value_or(0) + digit;
-    if (number > last) { // an hour of one digit is followed by the minute
+    if (number > last) { // the hour had one digit; this digit belongs to the minute
         m_typedNumber.reset();
         setSelectedSection(MinuteSection);
         typeDigit(digit);
@@ -164,7 +165,7 @@ void TimePicker::typeDigit(int digit)
     const bool isComplete = m_typedNumber || 10 * number > last;
     m_typedNumber = isComplete ? std::nullopt : std::optional(number);
     setNumber(section, number);
-    lineEdit()->home(false); // the toolkit knows another section by a caret that moves
+    lineEdit()->home(false); // setSelectedSection() needs a caret that moves
     setSelectedSection(isComplete ? MinuteSection : section);
 }
 
@@ -210,7 +211,7 @@ void TimePicker::forgetTyped()
 
 void TimePicker::wheelEvent(QWheelEvent *event)
 {
-    // Whoever scrolls past it does not mean it.
+    // The wheel over an unfocused picker scrolls the sheet.
     if (hasFocus())
         QTimeEdit::wheelEvent(event);
     else
@@ -225,7 +226,7 @@ void TimePicker::selectCurrentSection()
 
 void TimePicker::paintEvent(QPaintEvent *)
 {
-    // The editor inside draws the text; there is nothing else to see.
+    // The line edit draws the text; the frame is not drawn.
 }
 
 void TimePicker::takeColors()

@@ -5,21 +5,26 @@
 
 #include <optional>
 
-/// An hour and a minute, typed or stepped one at a time, without frame, buttons or background of
-/// its own. It follows the user's way to write a time. Where that has halves of the day, letters
-/// choose one, by its local or its Latin name, whichever number is being typed. Digits of every
-/// script are taken.
+/// An editor for hour and minute without frame, buttons or background. It uses the time format of
+/// the user's locale and accepts digits of every script. Where the format has day halves, typed
+/// letters select one by its local or Latin name, from any section.
 class TimePicker : public QTimeEdit
 {
     Q_OBJECT
+    Q_PROPERTY(int value READ minuteOfDay WRITE setMinuteOfDay)
 
 public:
     explicit TimePicker(QWidget *parent = nullptr);
 
-    /// Shows the time in red, as one that cannot be taken.
+    /// The time in minutes after midnight.
+    int minuteOfDay() const { return time().hour() * 60 + time().minute(); }
+    /// Does nothing unless \p minute is between 0 and 1439.
+    void setMinuteOfDay(int minute) { setTime({minute / 60, minute % 60}); }
+
+    /// Shows the time in red, as an invalid one.
     void setRefused(bool refused);
 
-    /// Room for the widest time, one line high.
+    /// Fits the widest time in one line.
     QSize sizeHint() const override;
 
 protected:
@@ -30,10 +35,10 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    /// Lets the next digits replace the hour or minute that the caret stands in.
+    /// Selects the section at the caret, so that typed digits replace it.
     void selectCurrentSection();
     void takeColors();
-    /// Whether the time is written with halves of the day.
+    /// Whether the format has day halves.
     bool hasHalves() const;
     void typeSign(char32_t sign);
     void typeDigit(int digit);
@@ -42,9 +47,9 @@ private:
     void setHalf(bool evening);
     void forgetTyped();
 
-    /// The letters of a half's name that were typed so far.
+    /// Letters of a day half's name typed so far.
     QString m_typedHalf;
-    /// What was typed of a number that may get another digit.
+    /// The first digit of a number that may take another one.
     std::optional<int> m_typedNumber;
     bool m_isRefused = false;
 };

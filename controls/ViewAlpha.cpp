@@ -22,6 +22,6 @@ void setAlphaValue(QWidget *view, double alpha)
         view->setGraphicsEffect(effect);
     }
     effect->setOpacity(std::clamp(alpha, 0.0, 1.0));
-    // An idle effect would still draw the view into a layer of its own.
+    // An enabled effect renders the view into a separate layer even at full opacity.
     effect->setEnabled(alpha < 1.0);
 }

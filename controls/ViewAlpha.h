@@ -3,9 +3,8 @@
 
 class QWidget;
 
-/// The opacity, 0 to 1, at which \p view and everything in it is composed onto what is below; 1
-/// unless it was set.
+/// The opacity, 0 to 1, at which \p view and its children are composited; 1 by default.
 double alphaValue(const QWidget *view);
 
-/// Sets that opacity. It costs nothing at 1.
+/// Sets that opacity. Costs nothing while it is 1.
 void setAlphaValue(QWidget *view, double alpha);

@@ -11,15 +11,16 @@ namespace platform {
 class Appearance;
 }
 
-/// The light or dark appearance that \p view is drawn in: that of the nearest view around it that
-/// was given one, else that of the process.
+/// The light or dark appearance of \p view: the one given to the nearest view among it and its
+/// ancestors, else that of the process.
 const platform::Appearance &appearanceOf(const QWidget *view);
 
-/// Gives \p view, and whatever is put into it afterwards, an appearance of its own, which must
+/// Gives \p view its own appearance, which views added to it later share. \p appearance must
 /// outlive them.
 void setAppearanceOf(QWidget *view, const platform::Appearance &appearance);
 
-/// Calls \p apply now and whenever the appearance of \p view changes, as long as the view lives.
+/// Calls \p apply now and at every change of the appearance of \p view, until the view is
+/// destroyed.
 void followAppearance(QWidget *view, const std::function<void()> &apply);
 
 /// Repaints \p view whenever its appearance changes.

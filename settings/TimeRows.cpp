@@ -34,10 +34,6 @@ constexpr QRect kMenuFrame(207, 105, 127, 24);
 constexpr int kRowCenter = 117;
 constexpr double kMenuRadius = 10.0;
 constexpr double kChevronSize = 10.0;
-/// From the menu's right edge to the end of its title; from its left edge to the end of a title
-/// that stands before a bare chevron.
-constexpr int kTitleRightInset = 32;
-constexpr int kTitleBeforeChevron = 12;
 
 /// The stored mode of row \p row when it follows the sun, which is the event's name as well.
 QString solarMode(int row)
@@ -169,9 +165,8 @@ void TimeRows::showTimeMenu(TamselTimeMenu *sender)
     }
     // The chosen title lies on the sender's own, or ends just before a bare chevron.
     const int width = QFontMetrics(menu->font()).horizontalAdvance(chosen->text());
-    const int end =
-        sender->text().isEmpty() ? -kTitleBeforeChevron : sender->width() - kTitleRightInset;
-    menu->popUpWithTitleAt(chosen, sender->mapToGlobal(QPoint(end - width, sender->height() / 2)));
+    const QPoint title(sender->titleEnd() - width, sender->height() / 2);
+    menu->popUpWithTitleAt(chosen, sender->mapToGlobal(title));
 }
 
 void TimeRows::selectTimeMode(const QString &mode, int row)

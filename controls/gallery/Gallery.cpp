@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/gallery/Gallery.h"
 
+#include "controls/ControlFont.h"
 #include "controls/Popover.h"
 #include "controls/PushButton.h"
 #include "controls/TamselColorPopover.h"
@@ -46,7 +47,7 @@ void focusByKey(QWidget *control)
 void addLabel(QWidget *row, const QString &text, const QRect &frame)
 {
     auto *label = new QLabel(text, row);
-    label->setFont(platform::systemFont(13, QFont::Normal));
+    label->setFont(controlFont());
     label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     label->setGeometry(frame);
     followAppearance(label, [label] {
@@ -56,7 +57,7 @@ void addLabel(QWidget *row, const QString &text, const QRect &frame)
     });
 }
 
-/// A plain coloured ground, like the preview under a mode control.
+/// A coloured background, as the preview is below a mode control.
 class Ground final : public QWidget
 {
 public:
@@ -76,7 +77,7 @@ private:
     QColor m_color;
 };
 
-/// Text with symbols on either side: do they sit on one line, in one weight?
+/// Text beside symbols, to compare their base lines and weights.
 class SymbolLine final : public QWidget
 {
 public:
@@ -87,7 +88,7 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setFont(platform::systemFont(13, QFont::Normal));
+        painter.setFont(controlFont());
         const QColor ink = appearanceOf(this).labelColor();
         painter.setPen(ink);
         const QStringList names{u"sun.max.fill"_s, u"moon.fill"_s, u"chevron.up.chevron.down"_s,
@@ -119,12 +120,13 @@ TamselSymbolButton *addSymbolButton(QWidget *row, int x)
 TamselTimeMenu *addTimeMenu(QWidget *row, const QString &title, double y)
 {
     auto *menu = new TamselTimeMenu(row);
-    menu->setFont(platform::systemFont(13, QFont::Normal));
+    menu->setFont(controlFont());
     menu->setText(title);
     menu->setImage(Symbol::named(u"chevron.up.chevron.down"_s, 10, QFont::DemiBold));
     menu->setAccessibleName(title.isEmpty() ? u"Night mode end setting"_s : title);
     menu->setRadius(10);
     followAppearance(menu, [menu] { menu->setInk(appearanceOf(menu).controlTextColor()); });
+    menu->setGeometry(0, 0, kRowRight, 24);
     menu->alignAtRowCenter(y);
     return menu;
 }

@@ -13,7 +13,7 @@ namespace platform {
 class Appearance;
 }
 
-/// Every control in every state, in one appearance: what is shown works, too.
+/// Every control in every state, in one appearance. The controls work.
 class Gallery : public QWidget
 {
     Q_OBJECT

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Shows the controls, or draws them into a picture: script/gallery --help.
+// Shows the controls or renders them to a picture; see script/gallery --help.
 #include "controls/gallery/Gallery.h"
 #include "platform/Appearance.h"
 
