@@ -115,6 +115,26 @@ std::unique_ptr<QApplication> makeWithoutBuses(int &argc, char **argv)
     return application;
 }
 
+/// A platform may start without a screen to show windows on, and the toolkit then crashes with the
+/// first. Wayland and X have one at all times, if need be one that stands in for a real one.
+void endWithoutScreen()
+{
+    if (QGuiApplication::screens().isEmpty())
+        qFatal("no display: the platform '%s' has no screen",
+               qUtf8Printable(QGuiApplication::platformName()));
+}
+
+std::unique_ptr<QApplication> makeForInteraction(int &argc, char **argv, Interaction interaction)
+{
+    if (interaction == Interaction::Watching) {
+        qunsetenv("QT_IM_MODULE");
+        qunsetenv("QT_IM_MODULES");
+    } else if (busesAnswer()) {
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return makeWithoutBuses(argc, argv);
+}
+
 } // namespace
 
 void prepareEnvironment()
@@ -136,13 +156,9 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, const QByt
     qInstallMessageHandler(handler);
     prepareEnvironment();
     qputenv("QT_QPA_PLATFORM", qtPlatform);
-    if (interaction == Interaction::Watching) {
-        qunsetenv("QT_IM_MODULE");
-        qunsetenv("QT_IM_MODULES");
-    } else if (busesAnswer()) {
-        return std::make_unique<QApplication>(argc, argv);
-    }
-    return makeWithoutBuses(argc, argv);
+    auto application = makeForInteraction(argc, argv, interaction);
+    endWithoutScreen();
+    return application;
 }
 
 void endIfFatal(const char *program, QtMsgType type, const QString &text)
