@@ -92,6 +92,16 @@ QSize TimePicker::sizeHint() const
             static_cast<int>(lineHeight(font()) + kSpaceBelow)};
 }
 
+bool TimePicker::event(QEvent *event)
+{
+    // An input method may compose the names of the halves, and digits too.
+    if (event->type() == QEvent::InputMethod) {
+        typeText(static_cast<QInputMethodEvent *>(event)->commitString());
+        return true;
+    }
+    return QTimeEdit::event(event);
+}
+
 bool TimePicker::eventFilter(QObject *watched, QEvent *event)
 {
     const bool handled = QTimeEdit::eventFilter(watched, event);
@@ -110,8 +120,7 @@ void TimePicker::keyPressEvent(QKeyEvent *event)
 {
     const QString text = typedText(*event);
     if (!text.isEmpty()) {
-        for (const char32_t sign : text.toUcs4())
-            typeSign(sign);
+        typeText(text);
         return;
     }
     forgetTyped();
@@ -130,6 +139,12 @@ bool TimePicker::hasHalves() const
 
 // The toolkit refuses digits beyond 16 bits, does not read every time that it writes, and takes
 // 130 for half past ten.
+
+void TimePicker::typeText(const QString &text)
+{
+    for (const char32_t sign : text.toUcs4())
+        typeSign(sign);
+}
 
 void TimePicker::typeSign(char32_t sign)
 {

@@ -23,6 +23,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -35,6 +36,7 @@ private:
     void takeColors();
     /// Whether the time is written with halves of the day.
     bool hasHalves() const;
+    void typeText(const QString &text);
     void typeSign(char32_t sign);
     void typeDigit(int digit);
     void typeHalf(const QString &letter);
