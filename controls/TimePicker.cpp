@@ -93,6 +93,16 @@ QSize TimePicker::sizeHint() const
             static_cast<int>(lineHeight(font()) + kSpaceBelow)};
 }
 
+bool TimePicker::event(QEvent *event)
+{
+    // An input method may compose the names of the halves, and digits too.
+    if (event->type() == QEvent::InputMethod) {
+        typeText(static_cast<QInputMethodEvent *>(event)->commitString());
+        return true;
+    }
+    return QTimeEdit::event(event);
+}
+
 bool TimePicker::eventFilter(QObject *watched, QEvent *event)
 {
     const bool handled = QTimeEdit::eventFilter(watched, event);
@@ -111,8 +121,7 @@ void TimePicker::keyPressEvent(QKeyEvent *event)
 {
     const QString text = typedText(*event);
     if (!text.isEmpty()) {
-        for (const char32_t sign : text.toUcs4())
-            typeSign(sign);
+        typeText(text);
         return;
     }
     forgetTyped();
@@ -131,6 +140,12 @@ bool TimePicker::hasHalves() const
 
 // QTimeEdit's own typing is not used: it refuses digits outside the basic multilingual plane,
 // cannot parse every format it writes, and reads 130 as 10:30.
+
+void TimePicker::typeText(const QString &text)
+{
+    for (const char32_t sign : text.toUcs4())
+        typeSign(sign);
+}
 
 void TimePicker::typeSign(char32_t sign)
 {

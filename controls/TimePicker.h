@@ -28,6 +28,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -40,6 +41,7 @@ private:
     void takeColors();
     /// Whether the format has day halves.
     bool hasHalves() const;
+    void typeText(const QString &text);
     void typeSign(char32_t sign);
     void typeDigit(int digit);
     void typeHalf(const QString &letter);

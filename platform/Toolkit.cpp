@@ -120,6 +120,26 @@ void endIfFatal(QtMsgType type, const QMessageLogContext &, const QString &text)
         ::_exit(complain(text.simplified()));
 }
 
+/// A platform may start without a screen to show windows on, and the toolkit then crashes with the
+/// first. Wayland and X have one at all times, if need be one that stands in for a real one.
+void endWithoutScreen()
+{
+    if (QGuiApplication::screens().isEmpty())
+        qFatal("no display: the platform '%s' has no screen",
+               qUtf8Printable(QGuiApplication::platformName()));
+}
+
+std::unique_ptr<QApplication> makeForInteraction(int &argc, char **argv, Interaction interaction)
+{
+    if (interaction == Interaction::Watching) {
+        qunsetenv("QT_IM_MODULE");
+        qunsetenv("QT_IM_MODULES");
+    } else if (busesAnswer()) {
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return makeWithoutBuses(argc, argv);
+}
+
 } // namespace
 
 void prepareToolkit()
@@ -141,13 +161,9 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, const QByt
 {
     prepareToolkit();
     qputenv("QT_QPA_PLATFORM", qtPlatform);
-    if (interaction == Interaction::Watching) {
-        qunsetenv("QT_IM_MODULE");
-        qunsetenv("QT_IM_MODULES");
-    } else if (busesAnswer()) {
-        return std::make_unique<QApplication>(argc, argv);
-    }
-    return makeWithoutBuses(argc, argv);
+    auto application = makeForInteraction(argc, argv, interaction);
+    endWithoutScreen();
+    return application;
 }
 
 } // namespace platform

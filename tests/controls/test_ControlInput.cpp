@@ -251,17 +251,23 @@ private Q_SLOTS:
         QFETCH(QTime, from);
         QFETCH(QString, typed);
         m_window->setLocale(QLocale(language));
-        TimePicker picker(m_window.get());
-        QVERIFY(!picker.displayFormat().contains(u'B'));
-        picker.setTime(from);
-        picker.show();
-        picker.setFocus();
-        QTest::keySequence(&picker, QKeySequence(QKeySequence::SelectAll));
-        for (const char32_t sign : typed.toUcs4())
-            QTest::sendKeyEvent(QTest::Click, &picker, Qt::Key_unknown, QString::fromUcs4(&sign, 1),
-                                {});
-        picker.clearFocus();
-        QTEST(picker.time(), "to");
+        for (const bool isComposed : {false, true}) {
+            TimePicker picker(m_window.get());
+            QVERIFY(!picker.displayFormat().contains(u'B'));
+            picker.setTime(from);
+            picker.show();
+            picker.setFocus();
+            QTest::keySequence(&picker, QKeySequence(QKeySequence::SelectAll));
+            const auto keys = isComposed ? QList<uint>() : typed.toUcs4();
+            for (const char32_t sign : keys)
+                QTest::sendKeyEvent(QTest::Click, &picker, Qt::Key_unknown,
+                                    QString::fromUcs4(&sign, 1), {});
+            QInputMethodEvent composed;
+            composed.setCommitString(isComposed ? typed : QString());
+            QCoreApplication::sendEvent(&picker, &composed);
+            picker.clearFocus();
+            QTEST(picker.time(), "to");
+        }
     }
 
     void aScrollerWithNothingToScrollStaysHidden()

@@ -32,6 +32,10 @@ DISPLAY=:987 expect 1 'no display'
 WAYLAND_DISPLAY=wayland-9 expect 1 'no display'
 QT_QPA_PLATFORM='wayland;xcb' expect 1 'no display'
 QT_QPA_PLATFORM=nonsense expect 1 'no Qt platform plugin'
+echo '{"screens": []}' >none.json
+for mode in '' --window --configure; do
+    QT_QPA_PLATFORM=offscreen:configfile=$PWD/none.json expect 1 'has no screen' ${mode:+$mode}
+done
 
 mkdir -p moved/bin moved/lib/tamsel-clock
 cp "$program" moved/bin/
