@@ -27,7 +27,6 @@ namespace {
 
 constexpr int kWidth = 440;
 constexpr double kTitleSize = 20.0;
-constexpr double kTextSize = 13.0;
 constexpr std::chrono::milliseconds kNoWaiting(0);
 
 } // namespace
@@ -41,7 +40,7 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
       m_saveBar(new SaveBar(this))
 {
     setWindowTitle(u"Pelko Location"_s);
-    setFont(platform::systemFont(kTextSize));
+    setFont(controlFont());
     layOut();
     connectWays();
     connectButtons();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "settings/ColorPanel.h"
 
+#include "controls/ControlFont.h"
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
-#include "settings/SheetParts.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -41,7 +41,7 @@ QColorDialog &sharedColorPanel()
         dialog->setOptions(QColorDialog::DontUseNativeDialog | QColorDialog::NoButtons);
         dialog->setModal(false);
         dialog->setWindowTitle(QStringLiteral("Colors"));
-        dialog->setFont(settingsFont());
+        dialog->setFont(controlFont());
         followAppearance(dialog, [dialog] { dialog->setPalette(paletteOf(dialog)); });
         panel() = dialog;
         qAddPostRoutine(destroyPanel);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetParts.h"
 
+#include "controls/ControlFont.h"
 #include "controls/Symbol.h"
 #include "controls/TamselInputFill.h"
 #include "controls/TamselSeparator.h"
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr double kFontSize = 13.0;
 constexpr double kGroupRadius = 12.0;
 constexpr double kGroupContrast = 0.03;
 constexpr int kDividerLeft = 10;
@@ -24,16 +24,11 @@ constexpr int kDividerWidth = 324;
 
 } // namespace
 
-QFont settingsFont()
-{
-    return platform::systemFont(kFontSize, QFont::Normal);
-}
-
 QLabel *labelWithString(const QString &text, const QRect &frame, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
     label->setGeometry(frame);
-    label->setFont(settingsFont());
+    label->setFont(controlFont());
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setTextFormat(Qt::PlainText);
     setLabelColor(label, &platform::Appearance::labelColor);

@@ -18,9 +18,6 @@ class Appearance;
 // The plain pieces that the sheet is put together from. Frames are in the parent's coordinates;
 // each piece belongs to its parent.
 
-/// The type of everything written on the sheet.
-QFont settingsFont();
-
 /// A line of text in the label colour, at the top of \p frame.
 QLabel *labelWithString(const QString &text, const QRect &frame, QWidget *parent);
 /// Writes \p label in \p color of its appearance instead.

@@ -2,6 +2,7 @@
 #include "settings/TimeRows.h"
 
 #include "controls/Alert.h"
+#include "controls/ControlFont.h"
 #include "controls/PopUpMenu.h"
 #include "controls/PushButton.h"
 #include "controls/TamselSettingsView.h"
@@ -20,7 +21,6 @@
 #include "settings/ColorEditing.h"
 #include "settings/SettingsSheet.h"
 #include "settings/SheetLayout.h"
-#include "settings/SheetParts.h"
 
 #include <QProcess>
 
@@ -92,7 +92,7 @@ void TimeRows::addTimeRow(int row)
                                  m_desktop.bundle));
     menu->setGeometry(kMenuFrame.translated(offset));
     menu->setRadius(kMenuRadius);
-    menu->setFont(settingsFont());
+    menu->setFont(controlFont());
     followAppearance(menu, [menu] { menu->setInk(appearanceOf(menu).controlTextColor()); });
     menu->show();
     connect(menu, &QAbstractButton::clicked, this, [this, menu] { showTimeMenu(menu); });
