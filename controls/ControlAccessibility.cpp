@@ -9,8 +9,6 @@
 #include <QAccessibleWidget>
 #include <QLineEdit>
 
-#include <algorithm>
-
 namespace {
 
 constexpr const char *kRole = "accessibleRole";
@@ -89,11 +87,6 @@ public:
     {
     }
 
-    QAccessible::Role role() const override
-    {
-        return m_swatch->isCheckable() ? QAccessible::RadioButton : QAccessible::Button;
-    }
-
     QAccessible::State state() const override
     {
         QAccessible::State state = AccessibleButton::state();
@@ -123,9 +116,11 @@ private:
     Popover *openPopover() const
     {
         const auto popovers = m_swatch->findChildren<Popover *>(Qt::FindDirectChildrenOnly);
-        const auto open = std::find_if(popovers.begin(), popovers.end(),
-                                       [](const Popover *popover) { return popover->isVisible(); });
-        return open == popovers.end() ? nullptr : *open;
+        for (Popover *popover : popovers) {
+            if (popover->isVisible())
+                return popover;
+        }
+        return nullptr;
     }
 
     TamselSwatchButton *m_swatch;

@@ -33,7 +33,7 @@ double scaleOf(const QPainter &painter)
 
 TamselSwatchButton::TamselSwatchButton(QWidget *parent) : QAbstractButton(parent)
 {
-    setAccessibleRole(this, QAccessible::Button);
+    setAccessibleRole(this, QAccessible::RadioButton);
     setFocusPolicy(Qt::TabFocus);
     redrawWithAppearance(this);
     new FocusRing(this, [this] { return FocusRing::Outline{rect(), width() / 2.0}; });
@@ -57,6 +57,13 @@ void TamselSwatchButton::tellColor()
 {
     const bool isOneColor = !m_rainbow && m_swatchColor.isValid();
     setAccessibleDescription(isOneColor ? m_swatchColor.name().toUpper() : QString());
+}
+
+void TamselSwatchButton::setUsesPickerSelection(bool uses)
+{
+    m_usesPickerSelection = uses;
+    setAccessibleRole(this, uses ? QAccessible::Button : QAccessible::RadioButton);
+    update();
 }
 
 void TamselSwatchButton::setPickerActive(bool active)

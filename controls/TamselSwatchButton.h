@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/SetAndUpdate.h"
-
 #include <QAbstractButton>
 #include <QColor>
 
@@ -22,9 +20,10 @@ public:
     bool rainbow() const { return m_rainbow; }
     void setRainbow(bool rainbow);
 
-    /// Whether the ring follows `pickerActive` instead of the button's checked state.
+    /// Whether the swatch opens a colour editor instead of being one choice of several: the ring
+    /// then follows `pickerActive`, not the checked state.
     bool usesPickerSelection() const { return m_usesPickerSelection; }
-    void setUsesPickerSelection(bool uses) { setAndUpdate(this, m_usesPickerSelection, uses); }
+    void setUsesPickerSelection(bool uses);
 
     /// Whether a colour editor is open for this swatch.
     bool pickerActive() const { return m_pickerActive; }
