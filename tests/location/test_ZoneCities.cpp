@@ -62,7 +62,8 @@ void test_ZoneCities::readsWhatMakesSense()
              (QStringList{u"Africa/Abidjan"_s, u"Europe/Helsinki"_s, u"Nowhere/Null_Island"_s,
                           u"America/Sao_Paulo"_s, u"Antarctica/Syowa"_s}));
     QCOMPARE(m_cities.matching({})[2].fullName(), u"Null Island, XX"_s);
-    QCOMPARE(m_cities.matching({})[3].location, (SolarLocation{-(23 + 32 / 60.0), -(46 + 37 / 60.0)}));
+    QCOMPARE(m_cities.matching({})[3].location,
+             (SolarLocation{-(23 + 32 / 60.0), -(46 + 37 / 60.0)}));
     const SolarLocation syowa{-(69 + 22 / 3600.0), 39 + 35 / 60.0 + 24 / 3600.0};
     QCOMPARE(m_cities.matching({})[4].location, syowa);
     QVERIFY(ZoneCities({}, {}, {}).matching({}).isEmpty());
