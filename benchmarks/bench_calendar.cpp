@@ -2,10 +2,7 @@
 // What the month adds to a frame of the full-screen clock: it may at most double it.
 #include "calendar/TamselCalendarLayout.h"
 #include "clock/ClockFrame.h"
-#include "platform/Bundle.h"
-
-#include <QGuiApplication>
-#include <QPainter>
+#include "tests/support/Frames.h"
 
 #include <benchmark/benchmark.h>
 
@@ -17,15 +14,6 @@ const QDate kDate(2026, 8, 26); // six rows
 const CalendarMonth kMonth{kDate, false, QLocale(QLocale::English, QLocale::UnitedStates)};
 constexpr QSize kScreen(1920, 1080);
 
-Artwork orangeArtwork()
-{
-    const platform::Bundle bundle(QStringLiteral(TAMSEL_TEST_BUNDLE));
-    const auto layer = [&bundle](const QString &name) {
-        return platform::SvgImage::fromFile(bundle.pathForResource(name, u"svg"_s, u"orange"_s));
-    };
-    return {layer(u"face"_s), layer(u"hour"_s), layer(u"minute"_s), layer(u"second"_s)};
-}
-
 ClockFrame firstFrame()
 {
     ClockFrame frame;
@@ -33,12 +21,12 @@ ClockFrame firstFrame()
     frame.background = QColor(255, 70, 0);
     frame.mark = Qt::black;
     frame.angles = {304.0, 48.0, 183.0};
-    frame.artwork = orangeArtwork();
+    frame.artwork = frames::artworkOf(u"orange"_s);
     return frame;
 }
 
-/// Frames as they follow each other on a screen, the clock breathing and its second hand sweeping.
-/// With and without the calendar they show the same clock.
+/// Consecutive frames: the clock's size drifts and its second hand sweeps. The clock is the same
+/// with and without the calendar.
 void drawFrames(benchmark::State &state, ClockFrame frame, bool withCalendar)
 {
     QImage picture(kScreen, QImage::Format_RGB32);
@@ -65,7 +53,7 @@ void frame(benchmark::State &state, bool withCalendar)
 BENCHMARK_CAPTURE(frame, plain, false)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(frame, calendar, true)->Unit(benchmark::kMicrosecond);
 
-/// Within a cross-fade the colours are other ones in every frame.
+/// In a cross-fade the colours change with every frame.
 void fadingFrame(benchmark::State &state, bool withCalendar)
 {
     ClockFrame frame = firstFrame();
@@ -84,11 +72,3 @@ void layOutMonth(benchmark::State &state)
 BENCHMARK(layOutMonth)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

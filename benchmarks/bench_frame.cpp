@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
-// What a frame costs beside a plain fill of the same surface: drawn afresh, painted from what is
-// kept, and only where it changed. And what loading the artwork costs.
+// What a frame costs compared with a plain fill of the same surface: drawn anew, painted by the
+// caching painter, and painted only where it changed; and what loading the artwork costs.
 #include "clock/ClockFrame.h"
 #include "clock/FrameDamage.h"
 #include "clock/FramePainter.h"
-#include "platform/Bundle.h"
-
-#include "calendar/TamselCalendarLayout.h"
-
-#include <QImage>
-#include <QPainter>
+#include "tests/support/Frames.h"
 
 #include <benchmark/benchmark.h>
 
@@ -20,15 +15,6 @@ namespace {
 /// Of the second hand, at 30 frames a second.
 constexpr double kDegreesPerFrame = 0.2;
 
-Artwork orangeArtwork()
-{
-    const platform::Bundle bundle(QStringLiteral(TAMSEL_TEST_BUNDLE));
-    const auto layer = [&](const QString &name) {
-        return platform::SvgImage::fromFile(bundle.pathForResource(name, u"svg"_s, u"orange"_s));
-    };
-    return {layer(u"face"_s), layer(u"hour"_s), layer(u"minute"_s), layer(u"second"_s)};
-}
-
 ClockFrame frameOf(const QSize &size)
 {
     ClockFrame frame;
@@ -36,7 +22,7 @@ ClockFrame frameOf(const QSize &size)
     frame.background = QColor(0xff, 0x46, 0x00);
     frame.mark = Qt::black;
     frame.clockRect = TamselSoloClockRect(frame.bounds, 0.9987);
-    frame.artwork = orangeArtwork();
+    frame.artwork = frames::artworkOf(u"orange"_s);
     frame.angles = TamselClockAnglesForDate(QDateTime(QDate(2026, 3, 14), QTime(10, 8, 36, 300)));
     return frame;
 }
@@ -65,7 +51,7 @@ void frame(benchmark::State &state, bool tinted)
         drawFrame(painter, shown, scratch);
 }
 
-/// The next frame through the painter that keeps what stands still: whole, or only what it changed.
+/// The next frame by the caching painter: the whole frame or only what changed.
 void paint(benchmark::State &state, bool whole)
 {
     QImage surface(sizeOf(state), QImage::Format_RGB32);
@@ -83,7 +69,7 @@ void paint(benchmark::State &state, bool whole)
         for (const QRect &rect : damage)
             pixels += qsizetype(rect.width()) * rect.height();
     }
-    // What a presenter has to bring to the screen.
+    // What a presenter has to copy to the screen.
     state.counters["pixels"] =
         benchmark::Counter(double(pixels), benchmark::Counter::kAvgIterations);
 }
@@ -91,7 +77,7 @@ void paint(benchmark::State &state, bool whole)
 void artworkLoad(benchmark::State &state)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(orangeArtwork());
+        benchmark::DoNotOptimize(frames::artworkOf(u"orange"_s));
 }
 
 void sizes(benchmark::internal::Benchmark *benchmark)
@@ -107,5 +93,3 @@ BENCHMARK_CAPTURE(frame, fading, true)->Apply(sizes);
 BENCHMARK_CAPTURE(paint, whole, true)->Apply(sizes);
 BENCHMARK_CAPTURE(paint, steady, false)->Apply(sizes);
 BENCHMARK(artworkLoad)->Unit(benchmark::kMicrosecond);
-
-BENCHMARK_MAIN();

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What a frame's change check costs with a night from sunset to sunrise, beside one without a
+// What the change check of a frame costs with a night from sunset to sunrise, compared with no
 // night.
 #include "saver/TamselScheduledSaverView.h"
 #include "tests/support/SaverFixture.h"
-
-#include <QApplication>
 
 #include <benchmark/benchmark.h>
 
@@ -15,7 +13,7 @@ namespace {
 void changeCheck(benchmark::State &state, bool nightEnabled)
 {
     const SaverFixture f;
-    // A location among the preferences: the user's own file is left alone.
+    // The location comes from the preferences, not from the user's own file.
     SaverFixture::set(f.stores.suite, u"SolarLocation"_s,
                       QVariantMap{{u"latitude"_s, 60.17}, {u"longitude"_s, 24.94}});
     f.setNight(
@@ -31,11 +29,3 @@ void changeCheck(benchmark::State &state, bool nightEnabled)
 
 BENCHMARK_CAPTURE(changeCheck, withoutNight, false)->MinWarmUpTime(0.2);
 BENCHMARK_CAPTURE(changeCheck, sunsetToSunrise, true)->MinWarmUpTime(0.2);
-
-int main(int argc, char **argv)
-{
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What following the stored settings costs per frame while nothing changes.
+// What the change check of a frame costs while no setting changes.
 #include "tests/support/SaverFixture.h"
-
-#include <QApplication>
 
 #include <benchmark/benchmark.h>
 
@@ -28,11 +26,3 @@ void changeCheck(benchmark::State &state, const QString &variant)
 
 BENCHMARK_CAPTURE(changeCheck, variant, QStringLiteral("blue"))->MinWarmUpTime(0.2);
 BENCHMARK_CAPTURE(changeCheck, custom, QStringLiteral("custom"))->MinWarmUpTime(0.2);
-
-int main(int argc, char **argv)
-{
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

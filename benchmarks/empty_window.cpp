@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The least a Qt program can do in a host's window: start, paint one colour, stay. The clock's
-// start is compared with it.
+// The minimal Qt program in a host's window: it starts and paints one colour. The reference for the
+// clock's start.
 #include <QApplication>
 #include <QPainter>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The least that an animation on an X screen can cost: a bare program that fills a square of the
-// given number of pixels in shared memory and puts it on its window 30 times a second.
-//   floor WIDTHxHEIGHT PIXELS
+// The lower bound for the cost of an animation under X: a plain program that fills a square of the
+// given number of pixels in shared memory and puts it on its window 30 times a second. floor
+// WIDTHxHEIGHT PIXELS
 #include <sys/ipc.h>
 #include <sys/shm.h>
 #include <xcb/shm.h>

@@ -14,15 +14,17 @@ constexpr double kSoloShare = 0.84; // of the shorter side
 
 constexpr double kPortraitLimit = 0.8; // width by height
 
-constexpr double kLandscapeWidthShare = 0.86;
-constexpr double kLandscapeHeightShare = 0.8;
-constexpr double kLandscapeGap = 0.2;          // of the clock
-constexpr double kLandscapeCalendar = 0.78125; // of the clock
+/// How clock and calendar share a view.
+struct Shares
+{
+    double width; // of the view, at most
+    double height;
+    double gap; // of the clock
+    double calendarWidth;
+};
 
-constexpr double kPortraitWidthShare = 0.84;
-constexpr double kPortraitHeightShare = 0.88;
-constexpr double kPortraitGap = 0.14;       // of the clock
-constexpr double kPortraitCalendar = 0.976; // of the clock
+constexpr Shares kLandscape{0.86, 0.8, 0.2, 0.78125};
+constexpr Shares kPortrait{0.84, 0.88, 0.14, 0.976};
 
 constexpr double kDriftSeconds = 293.0; // per radian
 constexpr double kDriftDepth = 0.002;
@@ -36,33 +38,27 @@ double heightByWidth(bool portrait, int rows)
     return grid.height(rows) / grid.width;
 }
 
-CalendarLayoutRects landscape(const QSizeF &size, int rows, double scale)
+CalendarLayoutRects sharedView(const QSizeF &size, int rows, double scale)
 {
-    const double base =
-        std::min(kLandscapeWidthShare * size.width() / (1.0 + kLandscapeGap + kLandscapeCalendar),
-                 kLandscapeHeightShare * size.height());
-    const double clock = base * scale;
-    const double width = kLandscapeCalendar * clock;
-    const double height = width * heightByWidth(false, rows);
-    const double gap = clock * kLandscapeGap;
+    const bool isPortrait = calendarIsPortrait(size);
+    const Shares &shares = isPortrait ? kPortrait : kLandscape;
+    const double ratio = heightByWidth(isPortrait, rows);
+    const double across = isPortrait ? 1.0 : 1.0 + shares.gap + shares.calendarWidth;
+    const double down = isPortrait ? 1.0 + shares.gap + ratio * shares.calendarWidth : 1.0;
+    const double clock =
+        std::min(shares.width * size.width() / across, shares.height * size.height() / down) *
+        scale;
+    const double width = shares.calendarWidth * clock;
+    const double height = width * ratio;
+    const double gap = clock * shares.gap;
+    if (isPortrait) {
+        const double top = (size.height() - clock - gap - height) / 2.0;
+        return {QRectF((size.width() - clock) / 2.0, top, clock, clock),
+                QRectF((size.width() - width) / 2.0, top + clock + gap, width, height)};
+    }
     const double left = (size.width() - clock - gap - width) / 2.0;
     return {QRectF(left, (size.height() - clock) / 2.0, clock, clock),
             QRectF(left + clock + gap, (size.height() - height) / 2.0, width, height)};
-}
-
-CalendarLayoutRects portrait(const QSizeF &size, int rows, double scale)
-{
-    const double ratio = heightByWidth(true, rows);
-    const double base = std::min(kPortraitHeightShare * size.height() /
-                                     (1.0 + kPortraitGap + ratio * kPortraitCalendar),
-                                 kPortraitWidthShare * size.width());
-    const double clock = base * scale;
-    const double width = kPortraitCalendar * clock;
-    const double height = width * ratio;
-    const double gap = clock * kPortraitGap;
-    const double top = (size.height() - clock - gap - height) / 2.0;
-    return {QRectF((size.width() - clock) / 2.0, top, clock, clock),
-            QRectF((size.width() - width) / 2.0, top + clock + gap, width, height)};
 }
 
 } // namespace
@@ -101,10 +97,7 @@ CalendarLayoutRects TamselCalendarLayout(QDate date, const QRectF &bounds, doubl
 {
     if (bounds.width() <= 0.0 || bounds.height() <= 0.0)
         return {};
-    const int rows = TamselCalendarRows(date);
-    CalendarLayoutRects rects = calendarIsPortrait(bounds.size())
-                                    ? portrait(bounds.size(), rows, scale)
-                                    : landscape(bounds.size(), rows, scale);
+    CalendarLayoutRects rects = sharedView(bounds.size(), TamselCalendarRows(date), scale);
     rects.clock.translate(bounds.topLeft());
     rects.calendar.translate(bounds.topLeft());
     return rects;

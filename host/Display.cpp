@@ -6,35 +6,32 @@
 
 #include <xcb/xcb.h>
 
+#include <cstdlib>
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace host {
 
 namespace {
 
-/// A short-lived connection, closed before Qt opens its own.
-class XConnection
+xcb_connection_t *xcb(const platform::DisplayConnection &x)
 {
-public:
-    XConnection() : m_connection(xcb_connect(nullptr, &m_screenNumber)) {}
-    ~XConnection() { xcb_disconnect(m_connection); }
-    XConnection(const XConnection &) = delete;
-    XConnection &operator=(const XConnection &) = delete;
+    return static_cast<xcb_connection_t *>(x.get());
+}
 
-    bool answers() const { return xcb_connection_has_error(m_connection) == 0; }
-    xcb_connection_t *get() const { return m_connection; }
-    xcb_window_t root() const
-    {
-        auto screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
-        for (int i = 0; i < m_screenNumber && screen.rem > 1; ++i)
-            xcb_screen_next(&screen);
-        return screen.data->root;
-    }
-
-private:
-    int m_screenNumber = 0;
-    xcb_connection_t *m_connection;
-};
+xcb_window_t defaultRoot(xcb_connection_t *connection)
+{
+    char *hostName = nullptr;
+    int display = 0;
+    int screenNumber = 0;
+    xcb_parse_display(nullptr, &hostName, &display, &screenNumber);
+    std::free(hostName);
+    auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (int i = 0; i < screenNumber && screen.rem > 1; ++i)
+        xcb_screen_next(&screen);
+    return screen.data->root;
+}
 
 /// The value of the window property \p name if it is one window id.
 std::optional<xcb_window_t> windowProperty(xcb_connection_t *connection, xcb_window_t window,
@@ -49,34 +46,28 @@ std::optional<xcb_window_t> windowProperty(xcb_connection_t *connection, xcb_win
 
 } // namespace
 
-std::optional<quint32> xRootWindow()
+quint32 xRootWindow(const platform::DisplayConnection &x)
 {
-    const XConnection x;
-    if (!x.answers())
-        return std::nullopt;
-    const xcb_window_t root = x.root();
+    const xcb_window_t root = defaultRoot(xcb(x));
     constexpr char kVirtualRoot[] = "__SWM_VROOT";
     const platform::XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
-        x.get(), xcb_intern_atom(x.get(), 1, sizeof kVirtualRoot - 1, kVirtualRoot), nullptr));
+        xcb(x), xcb_intern_atom(xcb(x), 1, sizeof kVirtualRoot - 1, kVirtualRoot), nullptr));
     const platform::XcbReply<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(x.get(), xcb_query_tree(x.get(), root), nullptr));
+        xcb_query_tree_reply(xcb(x), xcb_query_tree(xcb(x), root), nullptr));
     if (!atom || atom->atom == XCB_ATOM_NONE || !tree)
         return root;
     const xcb_window_t *children = xcb_query_tree_children(tree.get());
     for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
-        if (const auto virtualRoot = windowProperty(x.get(), children[i], atom->atom))
-            return virtualRoot;
+        if (const auto virtualRoot = windowProperty(xcb(x), children[i], atom->atom))
+            return *virtualRoot;
     }
     return root;
 }
 
-bool xWindowExists(quint32 id)
+bool xWindowExists(const platform::DisplayConnection &x, quint32 id)
 {
-    const XConnection x;
-    if (!x.answers())
-        return false;
     const platform::XcbReply<xcb_get_window_attributes_reply_t> attributes(
-        xcb_get_window_attributes_reply(x.get(), xcb_get_window_attributes(x.get(), id), nullptr));
+        xcb_get_window_attributes_reply(xcb(x), xcb_get_window_attributes(xcb(x), id), nullptr));
     return attributes && attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
 }
 

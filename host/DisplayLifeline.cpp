@@ -28,26 +28,21 @@ DisplayLifeline::DisplayLifeline()
 {
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
         if (wl_display *display = wl_display_connect(nullptr)) {
-            hold(std::shared_ptr<wl_display>(display, wl_display_disconnect),
-                 wl_display_get_fd(display), waylandIsAlive);
+            const std::shared_ptr<wl_display> wayland(display, wl_display_disconnect);
+            watch(wl_display_get_fd(display), [wayland] { return waylandIsAlive(wayland.get()); });
             return;
         }
     }
-    const std::shared_ptr<xcb_connection_t> connection(xcb_connect(nullptr, nullptr),
-                                                       xcb_disconnect);
-    if (xcb_connection_has_error(connection.get()) == 0)
-        hold(connection, xcb_get_file_descriptor(connection.get()), xIsAlive);
+    const std::shared_ptr<xcb_connection_t> x(xcb_connect(nullptr, nullptr), xcb_disconnect);
+    if (xcb_connection_has_error(x.get()) == 0)
+        watch(xcb_get_file_descriptor(x.get()), [x] { return xIsAlive(x.get()); });
 }
 
-DisplayLifeline::~DisplayLifeline() = default;
-
-template <typename Connection>
-void DisplayLifeline::hold(const std::shared_ptr<Connection> &connection, int descriptor,
-                           bool (*isAlive)(Connection *))
+void DisplayLifeline::watch(int descriptor, const std::function<bool()> &isAlive)
 {
     m_end = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    connect(m_end.get(), &QSocketNotifier::activated, this, [this, connection, isAlive] {
-        if (isAlive(connection.get()))
+    connect(m_end.get(), &QSocketNotifier::activated, this, [this, isAlive] {
+        if (isAlive())
             return;
         m_end->setEnabled(false);
         Q_EMIT ended();

@@ -17,7 +17,6 @@ class DisplayLifeline : public QObject
 
 public:
     DisplayLifeline();
-    ~DisplayLifeline() override;
 
     bool isConnected() const { return m_end != nullptr; }
 
@@ -25,11 +24,9 @@ Q_SIGNALS:
     void ended();
 
 private:
-    template <typename Connection>
-    void hold(const std::shared_ptr<Connection> &connection, int descriptor,
-              bool (*isAlive)(Connection *));
+    void watch(int descriptor, const std::function<bool()> &isAlive);
 
-    /// The slot connected to it owns the display connection.
+    /// Its slot owns the connection.
     std::unique_ptr<QSocketNotifier> m_end;
 };
 

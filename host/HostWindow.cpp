@@ -66,22 +66,14 @@ bool HostWindow::show()
     m_view->setAttribute(Qt::WA_ShowWithoutActivating);
     m_view->winId();
     m_view->windowHandle()->setParent(QWindow::fromWinId(m_window));
-    if (!followWindow())
-        return false;
-    m_view->show();
-    m_view->lower();
-    m_view->startAnimation();
-    return true;
-}
-
-/// Fits the view to the window's present size. The server is asked, since changes before the events
-/// were selected have sent none.
-bool HostWindow::followWindow()
-{
+    // The server is asked, since changes before the events were selected have sent none.
     const QSize size = windowSize(m_window);
     if (size.isEmpty())
         return false;
     fitView(size);
+    m_view->show();
+    m_view->lower();
+    m_view->startAnimation();
     return true;
 }
 

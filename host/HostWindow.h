@@ -32,7 +32,6 @@ public:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
 private:
-    bool followWindow();
     void fitView(const QSize &devicePixels);
 
     std::unique_ptr<platform::ScreenSaverView> m_view;

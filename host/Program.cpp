@@ -70,8 +70,6 @@ public:
         return std::make_unique<TamselScheduledSaverView>(desktop, isPreview);
     }
 
-    int exec() { return QApplication::exec(); }
-
 private:
     std::unique_ptr<QApplication> m_application;
     TerminationSignals m_signals;
@@ -132,7 +130,7 @@ int runHostWindow(const Options &options, Application &application, quint32 wind
     HostWindow hostWindow(application.makeView(options.preview), window);
     if (!hostWindow.show())
         return failWithoutWindow(window);
-    return application.exec();
+    return QApplication::exec();
 }
 
 int runWindow(const Options &options, Application &application)
@@ -142,7 +140,7 @@ int runWindow(const Options &options, Application &application)
     view->resize(options.size);
     view->show();
     view->startAnimation();
-    return application.exec();
+    return QApplication::exec();
 }
 
 int runFullScreen(Application &application)
@@ -150,20 +148,20 @@ int runFullScreen(Application &application)
     QApplication::setQuitOnLastWindowClosed(false);
     SaverHost host([&] { return application.makeView(false); }, *application.desktop().clocks);
     host.start();
-    return application.exec();
+    return QApplication::exec();
 }
 
 int inHostWindow(const Options &options, int argc, char **argv)
 {
     auto connection = platform::connectToXServer();
-    const std::optional<quint32> window = options.hostWindow ? options.hostWindow : xRootWindow();
-    if (!connection || !window)
+    if (!connection)
         return complain(u"no X display can be reached"_s);
-    if (!xWindowExists(*window))
-        return failWithoutWindow(*window);
+    const quint32 window = options.hostWindow ? *options.hostWindow : xRootWindow(connection);
+    if (!xWindowExists(connection, window))
+        return failWithoutWindow(window);
     Application application(argc, argv, "xcb", platform::Interaction::Watching);
     connection.reset();
-    return application.hasResources() ? runHostWindow(options, application, *window)
+    return application.hasResources() ? runHostWindow(options, application, window)
                                       : failWithoutResources(application);
 }
 

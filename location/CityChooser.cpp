@@ -11,7 +11,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +20,6 @@ namespace {
 
 constexpr int kRowsShown = 6;
 constexpr int kRowHeight = 26;
-
-bool movesInList(int key)
-{
-    constexpr std::array kKeys{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
-    return std::find(kKeys.begin(), kKeys.end(), key) != kKeys.end();
-}
 
 } // namespace
 
@@ -91,16 +84,20 @@ bool CityChooser::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_field || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (movesInList(key)) {
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
         QCoreApplication::sendEvent(m_list, event);
         return true;
-    }
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
         takeFirstMatch();
         return true;
+    default:
+        return QWidget::eventFilter(watched, event);
     }
-    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace location

@@ -17,11 +17,6 @@ constexpr double kEarthRadius = 6371.0; // in kilometres, the mean one
 constexpr double kRadians = std::numbers::pi / 180.0;
 constexpr int kDecimals = 4;
 
-SolarLocation onAxis(double degrees, Axis axis)
-{
-    return axis == Axis::Latitude ? SolarLocation{degrees, 0.0} : SolarLocation{0.0, degrees};
-}
-
 QString withHemisphere(double degrees, QChar positive, QChar negative)
 {
     return u"%1° %2"_s.arg(QString::number(std::abs(degrees), 'f', 2),
@@ -44,7 +39,7 @@ std::optional<double> degreesFrom(const QString &text, Axis axis)
     const double size = match.captured(2).replace(u',', u'.').toDouble();
     const bool isNegative = (!sign.isEmpty() && sign != "+"_L1) || hemisphere == fitting.last(1);
     const double degrees = isNegative ? -size : size;
-    return onAxis(degrees, axis).isValid() ? std::optional(degrees) : std::nullopt;
+    return size <= (axis == Axis::Latitude ? 90.0 : 180.0) ? std::optional(degrees) : std::nullopt;
 }
 
 std::optional<SolarLocation> locationFrom(const QString &text)

@@ -25,14 +25,14 @@ double fractionOfDay(QTime time)
 }
 
 /// The highlighted parts of \p bar: one, or two when the daylight spans midnight.
-QPainterPath litParts(const QRectF &bar, const DaylightHours &daylight)
+QPainterPath litParts(const QRectF &bar, QTime sunrise, QTime sunset)
 {
     const auto part = [&](double from, double to) {
         return QRectF(bar.left() + from * bar.width(), bar.top(), (to - from) * bar.width(),
                       bar.height());
     };
-    const double rise = fractionOfDay(daylight.sunrise);
-    const double set = fractionOfDay(daylight.sunset);
+    const double rise = fractionOfDay(sunrise);
+    const double set = fractionOfDay(sunset);
     QPainterPath path;
     if (rise <= set) {
         path.addRect(part(rise, set));
@@ -63,9 +63,10 @@ DayBar::DayBar(QWidget *parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void DayBar::setDaylight(const std::optional<DaylightHours> &daylight)
+void DayBar::setDaylight(std::optional<QTime> sunrise, std::optional<QTime> sunset)
 {
-    m_daylight = daylight;
+    m_sunrise = sunrise;
+    m_sunset = sunset;
     update();
 }
 
@@ -85,8 +86,8 @@ void DayBar::paintEvent(QPaintEvent *)
     QColor night = palette().color(QPalette::WindowText);
     night.setAlphaF(float(kNightOpacity));
     painter.fillPath(track, night);
-    if (m_daylight)
-        painter.fillPath(track & litParts(bar, *m_daylight), kDaylight);
+    if (m_sunrise && m_sunset)
+        painter.fillPath(track & litParts(bar, *m_sunrise, *m_sunset), kDaylight);
     painter.setPen(platform::Appearance::shared().secondaryLabelColor());
     drawLabels(painter, bar);
 }

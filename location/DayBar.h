@@ -8,14 +8,6 @@
 
 namespace location {
 
-/// Sunrise and sunset on one day by this computer's clock; at a distant place the sun may rise
-/// after it sets.
-struct DaylightHours
-{
-    QTime sunrise;
-    QTime sunset;
-};
-
 /// A bar for the day from midnight to midnight, with the daylight highlighted.
 class DayBar : public QWidget
 {
@@ -24,8 +16,9 @@ class DayBar : public QWidget
 public:
     explicit DayBar(QWidget *parent = nullptr);
 
-    /// None on a day without a sunrise or a sunset, or without a place.
-    void setDaylight(const std::optional<DaylightHours> &daylight);
+    /// Sunrise and sunset by this computer's clock; at a distant place the sun may rise after it
+    /// sets. Without one of them there is no daylight to show.
+    void setDaylight(std::optional<QTime> sunrise, std::optional<QTime> sunset);
 
     QSize sizeHint() const override;
 
@@ -33,7 +26,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    std::optional<DaylightHours> m_daylight;
+    std::optional<QTime> m_sunrise;
+    std::optional<QTime> m_sunset;
 };
 
 } // namespace location

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "location/LocationWindow.h"
 
+#include "controls/ControlFont.h"
 #include "controls/OverlayScrollArea.h"
 #include "location/CityChooser.h"
 #include "location/CoordinateFields.h"
@@ -42,8 +43,7 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
     setWindowTitle(u"Pelko Location"_s);
     setFont(controlFont());
     layOut();
-    connectWays();
-    connectButtons();
+    connectParts();
     connect(&platform::Appearance::shared(), &platform::Appearance::changed, this,
             &LocationWindow::followAppearance);
     followAppearance();
@@ -53,8 +53,6 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
                                        [this] { followStore(); });
     m_chooser->setFocus();
 }
-
-LocationWindow::~LocationWindow() = default;
 
 void LocationWindow::layOut()
 {
@@ -126,7 +124,7 @@ QWidget *LocationWindow::makeIntroduction()
     return introduction;
 }
 
-void LocationWindow::connectWays()
+void LocationWindow::connectParts()
 {
     connect(m_finder, &ServiceFinder::found, this, &LocationWindow::chooseFound);
     connect(m_chooser, &CityChooser::chosen, this, [this](const ZoneCity &city) {
@@ -142,10 +140,6 @@ void LocationWindow::connectWays()
                 m_chooser->setCity(std::nullopt);
                 choose(location);
             });
-}
-
-void LocationWindow::connectButtons()
-{
     connect(m_saveBar->forgetButton(), &QPushButton::clicked, this, &LocationWindow::forget);
     connect(m_saveBar->closeButton(), &QPushButton::clicked, this, &LocationWindow::reject);
     connect(m_saveBar->saveButton(), &QPushButton::clicked, this, &LocationWindow::save);
@@ -228,7 +222,7 @@ void LocationWindow::refreshButtons()
     m_saveBar->saveButton()->setEnabled(m_choice && m_choice != m_saved);
 }
 
-/// The choice stays.
+/// After a change of the saved place by another program; the choice stays.
 void LocationWindow::followStore()
 {
     const auto known = m_saved;

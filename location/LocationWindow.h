@@ -33,7 +33,6 @@ public:
     /// objects that \p desktop points to must outlive the window.
     LocationWindow(const platform::Desktop &desktop, ZoneCities cities, const QString &systemZone,
                    QWidget *parent = nullptr);
-    ~LocationWindow() override;
 
     /// The place that Save would save.
     const std::optional<SolarLocation> &choice() const { return m_choice; }
@@ -50,8 +49,7 @@ private:
     int neededHeight() const;
     void growToContent();
     void suggest(const QString &systemZone);
-    void connectWays();
-    void connectButtons();
+    void connectParts();
 
     void choose(const std::optional<SolarLocation> &location);
     void chooseCity(const ZoneCity &city);

@@ -8,11 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace location {
 
-std::optional<DaylightHours> Place::daylight() const
-{
-    return sunrise && sunset ? std::optional(DaylightHours{*sunrise, *sunset}) : std::nullopt;
-}
-
 Place placeAt(const SolarLocation &location, const ZoneCities &cities, TamselSolarTimes &sun,
               const QDateTime &now)
 {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "location/DayBar.h"
 #include "night/SolarLocation.h"
 
 #include <QTime>
@@ -25,9 +24,6 @@ struct Place
     std::optional<QTime> sunset = {};
     /// Whether clocks at the place differ from this computer's at sunrise or sunset.
     bool hasOtherTime = false;
-
-    /// None on a day without a sunrise or without a sunset.
-    std::optional<DaylightHours> daylight() const;
 };
 
 /// The place at \p location on the day of \p now. \p sun is left at that location.

@@ -28,11 +28,10 @@ QString sunText(const std::optional<Place> &place)
 {
     if (!place)
         return u"Choose a place to see its sunrise and sunset."_s;
-    const auto daylight = place->daylight();
-    if (!daylight)
+    if (!place->sunrise || !place->sunset)
         return u"The sun does not rise or set there today, so it cannot begin or end a night."_s;
     return u"Today: sunrise %1, sunset %2%3"_s.arg(
-        platform::shortTimeText(daylight->sunrise), platform::shortTimeText(daylight->sunset),
+        platform::shortTimeText(*place->sunrise), platform::shortTimeText(*place->sunset),
         place->hasOtherTime ? u" by this computer's clock"_s : QString());
 }
 
@@ -71,7 +70,7 @@ void PlaceCard::setPlace(const std::optional<Place> &place)
     m_coordinates->setText(place && !place->name.isNull() ? coordinatesText(place->location)
                                                           : QString());
     m_sun->setText(sunText(place));
-    m_bar->setDaylight(place ? place->daylight() : std::nullopt);
+    m_bar->setDaylight(place ? place->sunrise : std::nullopt, place ? place->sunset : std::nullopt);
     setAccessibleDescription(
         QStringList{m_name->text(), m_coordinates->text(), m_sun->text()}.join(". "_L1));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "location/DayBar.h"
 #include "location/Place.h"
 
 #include <QFrame>

@@ -19,16 +19,13 @@ namespace {
 
 constexpr int kProgressHeight = 4;
 
-QString findText()
-{
-    return u"&Find my location"_s;
-}
+const QString kFindText = u"&Find my location"_s;
 
 } // namespace
 
 ServiceFinder::ServiceFinder(const platform::Clocks &clocks, QWidget *parent)
     : QWidget(parent), m_clocks(clocks), m_service(QString(kLocationDesktopId)),
-      m_button(new QPushButton(findText(), this)), m_progress(new QProgressBar(this)),
+      m_button(new QPushButton(kFindText, this)), m_progress(new QProgressBar(this)),
       m_message(new QLabel(this))
 {
     using platform::LocationService;
@@ -89,7 +86,7 @@ void ServiceFinder::cancel()
 
 void ServiceFinder::end(const QString &text)
 {
-    m_button->setText(findText());
+    m_button->setText(kFindText);
     m_progress->hide();
     m_message->setText(text);
     m_message->setVisible(!text.isEmpty());
