@@ -9,4 +9,6 @@ if(TAMSEL_SANITIZE)
     add_test(NAME sanitizer_canary COMMAND sanitizer_canary)
     set_tests_properties(sanitizer_canary PROPERTIES
         PASS_REGULAR_EXPRESSION "AddressSanitizer: heap-use-after-free")
+    add_test(NAME leak_canary COMMAND ${TAMSEL_ISOLATED} --home $<TARGET_FILE:sanitizer_canary> leak)
+    set_tests_properties(leak_canary PROPERTIES PASS_REGULAR_EXPRESSION "LeakSanitizer: detected memory leaks")
 endif()

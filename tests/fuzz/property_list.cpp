@@ -4,13 +4,10 @@
 
 using namespace platform::PropertyList;
 
-/// A larger tree, which few bytes that share objects can make, only takes longer.
-constexpr qsizetype kLargest = 64LL * 1024;
-
 void tryBytes(const QByteArray &bytes)
 {
     const auto value = parse(bytes);
-    if (!value || toBinary(*value).size() > kLargest)
+    if (!value)
         return;
     // Compared as bytes, since a number that is none differs from itself.
     for (const auto write : {toXml, toBinary, toXmlOrBinary}) {
