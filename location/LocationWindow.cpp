@@ -101,6 +101,18 @@ void LocationWindow::growToContent()
         setGeometry(frame);
 }
 
+/// The toolkit places a dialog above the middle: on a low screen with its title beyond the edge.
+void LocationWindow::showEvent(QShowEvent *event)
+{
+    const QPoint before = pos();
+    QDialog::showEvent(event);
+    if (pos() == before)
+        return;
+    QRect frame = geometry();
+    frame.moveCenter(screen()->availableGeometry().center());
+    move(frame.topLeft());
+}
+
 bool LocationWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest && isVisible())
