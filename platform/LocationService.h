@@ -4,10 +4,17 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <chrono>
+#include <functional>
+#include <memory>
 
 namespace platform {
+
+class MessageBus;
+struct BusCall;
+struct BusMessage;
 
 /// One answer of the location service: degrees, north and east positive.
 struct LocationFix
@@ -31,8 +38,8 @@ enum class LocationError {
 };
 
 /// The desktop's location service, GeoClue 2 on the system bus, at city accuracy. It asks the user
-/// for consent itself. Every question is asked without waiting, no position is kept, and the bus is
-/// not connected to before the first start, nor while it does not answer.
+/// for consent itself. Nothing waits for it, no position is kept, and there is a connection to
+/// the bus only while a question is open.
 ///
 /// What its errors mean here: an AccessDenied that begins "Agent rejected" is the user's own no,
 /// so Denied; every other AccessDenied ("Geolocation disabled", "no agent", "disallowed by
@@ -56,7 +63,7 @@ public:
     /// begins anew.
     void startUpdating();
     void stopUpdating();
-    bool isUpdating() const { return m_request != nullptr; }
+    bool isUpdating() const { return m_bus != nullptr; }
 
 Q_SIGNALS:
     /// When it is Restricted, updating has ended.
@@ -66,11 +73,20 @@ Q_SIGNALS:
     void failed(platform::LocationError error);
 
 private:
-    class Request;
+    void getClient();
+    void useClient(const BusMessage &reply);
+    void getLocation(const QString &owner, const QString &path);
+    /// Calls a method that ends updating when it fails.
+    void call(const BusCall &call, const std::function<void(const BusMessage &)> &replied);
+    void giveUp();
+    void fail(const BusMessage &error);
 
     QString m_desktopId;
     std::chrono::milliseconds m_patience = kPatience;
-    Request *m_request = nullptr;
+    /// Runs while an answer is due that has no deadline of its own.
+    QTimer m_silence;
+    /// Null while nobody is asked.
+    std::unique_ptr<MessageBus> m_bus;
 };
 
 } // namespace platform

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Toolkit.h"
 
-#include "platform/BusProbe.h"
+#include "platform/BusConnection.h"
 #include "platform/MessageBus.h"
 
 #include <QAccessible>
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDeadlineTimer>
 #include <QFileInfo>
 
@@ -66,25 +65,21 @@ void dropUnusableScale()
 }
 
 /// Where the bus of assistive technology listens; empty while there is none, nothing when the
-/// session's bus at \p session or the service there does not tell.
-std::optional<QByteArray> assistiveBus(const QByteArray &session, QDeadlineTimer end)
+/// session's bus or the service there does not tell.
+std::optional<QByteArray> assistiveBus(sd_bus *session, QDeadlineTimer end)
 {
     const QByteArray given = qgetenv("AT_SPI_BUS_ADDRESS");
     if (!given.isEmpty())
         return given;
-    const QString name = u"assistive technology"_s;
-    auto call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
-                                               u"org.a11y.Bus"_s, u"GetAddress"_s);
-    call.setAutoStartService(false);
-    QDBusMessage reply;
-    {
-        const auto connection = QDBusConnection::connectToBus(QString::fromUtf8(session), name);
-        reply = connection.call(call, QDBus::Block, int(end.remainingTime()));
-    }
-    QDBusConnection::disconnectFromBus(name);
-    if (reply.type() == QDBusMessage::ReplyMessage)
-        return reply.arguments().value(0).toString().toUtf8();
-    const QString error = reply.errorName();
+    const auto reply = callAndWait(
+        session,
+        {u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s, u"GetAddress"_s, {}, false},
+        end);
+    if (!reply)
+        return {};
+    if (!reply->isError())
+        return reply->argument().toString().toUtf8();
+    const QString &error = reply->error;
     return error == "org.freedesktop.DBus.Error.ServiceUnknown"_L1 ||
                    error == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1
                ? std::optional(QByteArray())
@@ -94,14 +89,11 @@ std::optional<QByteArray> assistiveBus(const QByteArray &session, QDeadlineTimer
 bool busesAnswer()
 {
     const QDeadlineTimer end(kBusPatience);
-    const auto session = MessageBus::address(MessageBus::Kind::Session);
-    if (!session || !busAnswers(*session, end))
+    const auto session = connectBefore(MessageBus::addresses(MessageBus::Kind::Session), end);
+    if (!session)
         return false;
-    const auto assistive = assistiveBus(*session, end);
-    if (!assistive || assistive->isEmpty())
-        return assistive.has_value();
-    const auto address = firstUnixBusAddress(*assistive);
-    return address && busAnswers(*address, end);
+    const auto assistive = assistiveBus(session.get(), end);
+    return assistive && (assistive->isEmpty() || connectBefore(*assistive, end));
 }
 
 /// The toolkit asks for its buses late and once: here it asks while there are none.

@@ -20,7 +20,7 @@ VIEW = "saver/TamselClockSaverView.h"
 MAY_NAME_VIEW = {"saver", "host"}
 SCHEDULED_VIEW = "night/TamselScheduledSaverView"
 # Windowing systems and buses stay where another system would replace them.
-SYSTEM = re.compile(r'#include\s+[<"](xcb/|X11/|wayland|QDBus|dbus/)')
+SYSTEM = re.compile(r'#include\s+[<"](xcb/|X11/|wayland|QDBus|dbus/|systemd/)')
 OURS = re.compile(r'#include\s+"([a-z]+)/([^"]+)"')
 
 
