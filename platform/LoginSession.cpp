@@ -107,8 +107,6 @@ void LoginSession::setActive(bool isActive)
     m_isActive = isActive;
     if (isActive) {
         Q_EMIT becameActive();
-    } else {
-        Q_EMIT becameInactive();
     }
 }
 

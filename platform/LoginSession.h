@@ -27,7 +27,6 @@ Q_SIGNALS:
     /// The session became the active one again, for example after switching users, or the machine
     /// woke up with this session active.
     void becameActive();
-    void becameInactive();
 
 private:
     void findSession();
