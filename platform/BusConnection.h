@@ -22,28 +22,28 @@ struct BusCloser
     void operator()(sd_bus_message *message) const;
 };
 
-/// A connection; closed at the end without sending what is still queued.
+/// A connection. Closing it discards messages that are still queued.
 using BusHandle = std::unique_ptr<sd_bus, BusCloser>;
-/// A subscription or a call; at the end nothing more is reported to it.
+/// A subscription or a pending call. Destroying it ends its callbacks.
 using BusSlot = std::unique_ptr<sd_bus_slot, BusCloser>;
 using BusMessageHandle = std::unique_ptr<sd_bus_message, BusCloser>;
 
-/// Begins to connect to the first bus of the D-Bus address list \p addresses that takes a
-/// connection, without waiting for anything; null when none does. Only Unix sockets are tried:
-/// every daemon of a Linux desktop has one, and other addresses may start a program.
+/// Starts to connect to the first bus of the D-Bus address list \p addresses that accepts a
+/// connection. Does not block; null when none accepts. Only Unix sockets are tried: every bus of a
+/// Linux desktop has one, and some other addresses start a program.
 BusHandle startBus(const QByteArray &addresses);
 
-/// Lets \p bus work until \p done() or \p end, making the caller wait so long. Whether it is done.
+/// Processes \p bus until \p done() returns true or \p end. Blocks; returns whether it is done.
 bool workUntil(sd_bus *bus, QDeadlineTimer end, const std::function<bool()> &done);
 
-/// A connection that has been greeted by the bus before \p end, else null. Makes the caller wait so
-/// long: for the time before there is an event loop.
+/// A connection to a bus that has completed its handshake before \p end, else null. Blocks; meant
+/// for the time before there is an event loop.
 BusHandle connectBefore(const QByteArray &addresses, QDeadlineTimer end);
 
 /// Null when \p call is not valid.
 BusMessageHandle newCall(sd_bus *bus, const BusCall &call);
 
-/// The reply to \p call if it comes before \p end. Makes the caller wait so long.
+/// The reply to \p call if it comes before \p end. Blocks.
 std::optional<BusMessage> callAndWait(sd_bus *bus, const BusCall &call, QDeadlineTimer end);
 
 } // namespace platform

@@ -56,8 +56,8 @@ QVariant busVariant(const QVariant &value);
 /// Appends \p arguments to \p message; false when one of them has no D-Bus type.
 bool appendArguments(sd_bus_message *message, const QVariantList &arguments);
 
-/// Reads \p message, at most some thousand values of it, so that a sender cannot make us allocate
-/// many times the size of its message.
+/// Reads at most 4096 values of \p message. A value here takes many times its size in the message,
+/// so a sender could otherwise make us allocate gigabytes.
 BusMessage readMessage(sd_bus_message *message);
 
 } // namespace platform

@@ -58,7 +58,7 @@ std::optional<bool> asPrefersDark(const QVariant &value)
     }
 }
 
-/// Red, green and blue of sRGB, 0 to 1; anything outside means that there is no accent.
+/// A colour of sRGB red, green and blue, each 0 to 1. Values out of range mean "no accent colour".
 QColor asColor(const QVariant &value)
 {
     const auto components = as<QVariantList>(value).value_or(QVariantList());

@@ -9,8 +9,8 @@ namespace platform {
 
 namespace {
 
-/// The signal that carries the notification \p name. Names no signal can have are left to the bus
-/// to refuse.
+/// The signal that carries the notification \p name. The message bus ignores names that are not
+/// valid.
 BusSignal signalForName(const QString &name)
 {
     const QString interface = name.section(u'.', 0, -2);

@@ -21,7 +21,7 @@ const QString kProperties = u"org.freedesktop.DBus.Properties"_s;
 
 constexpr uint kCityAccuracy = 4; // GClueAccuracyLevel
 constexpr std::chrono::milliseconds kConnectTimeout = 2s;
-/// A call that asks the user returns when they have answered.
+/// The call returns only when the user has answered.
 constexpr std::chrono::milliseconds kConsentTimeout = 5min;
 
 /// The time in the property "Timestamp", a pair of seconds and microseconds since 1970.
@@ -34,7 +34,7 @@ QDateTime timestampFrom(const QVariant &property)
                                           pair[1].toLongLong() / 1000);
 }
 
-/// A location without coordinates of its own has an accuracy that means nothing.
+/// Without coordinates the accuracy is not valid either.
 LocationFix fixFrom(const QVariantMap &properties)
 {
     bool hasLatitude = false;
@@ -75,7 +75,7 @@ void LocationService::startUpdating()
     m_silence.start(kConnectTimeout);
 }
 
-/// The service forgets a client whose connection ends.
+/// The service drops the client when its connection closes.
 void LocationService::stopUpdating()
 {
     m_silence.stop();
@@ -89,7 +89,8 @@ void LocationService::getClient()
          [this](const BusMessage &reply) { useClient(reply); });
 }
 
-/// Talks to the owner of the service's name, so that nobody else's signals are taken for its.
+/// Accepts signals only from the connection that answered for the service: any other program could
+/// send signals that look the same.
 void LocationService::useClient(const BusMessage &reply)
 {
     const QString owner = reply.sender;

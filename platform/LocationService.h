@@ -21,9 +21,9 @@ struct LocationFix
 {
     double latitude = 0.0;
     double longitude = 0.0;
-    /// Radius in metres; negative when the coordinates mean nothing.
+    /// Radius in metres; negative when the coordinates are not valid.
     double horizontalAccuracy = -1.0;
-    /// When it was found; invalid when the service does not tell.
+    /// When the position was found; invalid when the service does not say.
     QDateTime timestamp;
 };
 
@@ -37,19 +37,19 @@ enum class LocationError {
     Unavailable, ///< no service, no answer, or it went away
 };
 
-/// The desktop's location service, GeoClue 2 on the system bus, at city accuracy. It asks the user
-/// for consent itself. Nothing waits for it, no position is kept, and there is a connection to
-/// the bus only while a question is open.
+/// The desktop's location service, GeoClue 2 on the system bus, at city accuracy. The service asks
+/// the user for consent itself. No call blocks, no position is stored, and the bus is connected
+/// only while updating.
 ///
-/// What its errors mean here: an AccessDenied that begins "Agent rejected" is the user's own no,
-/// so Denied; every other AccessDenied ("Geolocation disabled", "no agent", "disallowed by
+/// Errors: an AccessDenied whose text begins with "Agent rejected" means that the user refused, so
+/// Denied; every other AccessDenied ("Geolocation disabled", "no agent", "disallowed by
 /// configuration", a missing desktop entry) is Restricted; anything else is Unavailable.
 class LocationService : public QObject
 {
     Q_OBJECT
 
 public:
-    /// How long a service that agreed to answer may stay silent.
+    /// How long to wait for a position after consent was given.
     static constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(60);
 
     /// \p desktopId is the name of the program's installed desktop entry without its suffix: the
@@ -83,9 +83,9 @@ private:
 
     QString m_desktopId;
     std::chrono::milliseconds m_patience = kPatience;
-    /// Runs while an answer is due that has no deadline of its own.
+    /// Limits the wait for the bus and for a position, which are not replies to a call.
     QTimer m_silence;
-    /// Null while nobody is asked.
+    /// Null while not updating.
     std::unique_ptr<MessageBus> m_bus;
 };
 

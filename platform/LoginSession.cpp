@@ -55,8 +55,8 @@ void LoginSession::findSession()
                 });
 }
 
-/// A process that the user's service manager started is in no session; it shows itself in the one
-/// that owns the user's display.
+/// A process started by the user's service manager belongs to no session; its windows appear in the
+/// session that owns the user's display.
 void LoginSession::findDisplaySession()
 {
     m_bus->call(propertyCall(u"/org/freedesktop/login1/user/self"_s,
@@ -71,7 +71,8 @@ void LoginSession::findDisplaySession()
                 });
 }
 
-/// Anybody may send a signal that looks like the session's, so it only says when to ask.
+/// Any program can send a signal that looks like the session's, so a signal is only a reason to
+/// ask.
 void LoginSession::follow(const QString &path)
 {
     m_path = path;

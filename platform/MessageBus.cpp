@@ -18,13 +18,13 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kRetryInterval = 2s;
-/// Shorter than the library's own patience: behind the same address another bus may answer.
+/// Shorter than the library's own timeout, as a new bus may be listening at the same address.
 constexpr auto kConnectTimeout = 10s;
 constexpr auto kPaceInterval = 16ms;
 constexpr auto kLongestFarewell = 100ms;
 constexpr quint64 kMostWaiting = 64;
 constexpr qsizetype kMostSignals = 64;
-/// Messages that are taken in before the event loop has its turn again.
+/// Messages that are read before control returns to the event loop.
 constexpr int kMostAtOnce = 64;
 
 /// Where the login manager of every current system puts the session bus.
@@ -275,7 +275,7 @@ void MessageBus::deliverSignals()
     }
 }
 
-/// A reply to a last call shows that the bus has read what was sent before it.
+/// The bus reads messages in order, so its reply to a ping shows that it has read all before it.
 void MessageBus::sayFarewell()
 {
     const auto noteReply = [](sd_bus_message *, void *isAnswered, sd_bus_error *) {

@@ -20,12 +20,12 @@ class QSocketNotifier;
 
 namespace platform {
 
-/// One of the user's message buses, which may be missing, hang, die and come back. Nothing here
-/// waits for it, except the destructor for a moment. Everything is reported from the event loop.
+/// One of the user's message buses, which may be missing, hang, die and come back. Only the
+/// destructor ever blocks, and for 100 ms at most. Everything is reported from the event loop.
 ///
-/// Memory stays bounded whatever the other side does. At most 64 messages to send wait for a bus
-/// that does not read; further ones are dropped. Signals are handed over at most once per 16 ms and
-/// 64 at a time; of a larger flood the oldest are dropped.
+/// Memory is bounded whatever the bus does. At most 64 outgoing messages are queued; further ones
+/// are dropped. Signals are delivered at most every 16 ms and 64 at a time; when more arrive, the
+/// oldest are dropped.
 class MessageBus : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
     using Receiver = std::function<void(const BusMessage &)>;
 
     explicit MessageBus(Kind kind, QObject *parent = nullptr);
-    /// Gives messages that are still on their way 100 ms to leave.
+    /// Waits at most 100 ms for the bus to read what was sent.
     ~MessageBus() override;
 
     /// Calls \p received for every such signal until \p context is destroyed, over reconnects too.
@@ -92,7 +92,7 @@ private:
     bool m_hasSent = false;
     std::unique_ptr<QSocketNotifier> m_readable;
     std::unique_ptr<QSocketNotifier> m_writable;
-    /// Runs out at the next try to connect or at the next deadline of the connection.
+    /// Fires at the next attempt to connect or the next deadline of the connection.
     QTimer m_turn;
     QTimer m_pace;
     int m_lastId = 0;

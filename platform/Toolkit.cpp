@@ -30,7 +30,7 @@ constexpr char kScaleVariable[] = "QT_SCALE_FACTOR";
 constexpr double kSmallestScale = 0.1;
 constexpr double kLargestScale = 16.0;
 
-/// Gives an environment variable another value, and its own back at the end.
+/// Sets an environment variable and restores its old value in the destructor.
 class OtherValue
 {
 public:
@@ -54,18 +54,17 @@ private:
     std::optional<QByteArray> m_before;
 };
 
-/// Removes a scale from the environment at which no window could be shown; the toolkit takes the
-/// number as it is.
+/// Removes a scale at which no window could be shown; the toolkit does not check it.
 void dropUnusableScale()
 {
-    // Not a number is neither above nor below any.
+    // Written so that it also catches NaN.
     const double scale = qgetenv(kScaleVariable).toDouble();
     if (!(scale >= kSmallestScale && scale <= kLargestScale))
         qunsetenv(kScaleVariable);
 }
 
-/// Where the bus of assistive technology listens; empty while there is none, nothing when the
-/// session's bus or the service there does not tell.
+/// Address of the bus of assistive technology: empty when there is none, nullopt when the session's
+/// bus or the service on it does not answer.
 std::optional<QByteArray> assistiveBus(sd_bus *session, QDeadlineTimer end)
 {
     const QByteArray given = qgetenv("AT_SPI_BUS_ADDRESS");
@@ -96,7 +95,8 @@ bool busesAnswer()
     return assistive && (assistive->isEmpty() || connectBefore(*assistive, end));
 }
 
-/// The toolkit asks for its buses late and once: here it asks while there are none.
+/// The toolkit looks for its buses once and remembers the result. This makes it look while the
+/// environment names none.
 std::unique_ptr<QApplication> makeWithoutBuses(int &argc, char **argv)
 {
     const OtherValue session("DBUS_SESSION_BUS_ADDRESS", kNoBus);
@@ -113,9 +113,9 @@ void prepareEnvironment()
 {
     dropUnusableScale();
     qunsetenv("SESSION_MANAGER");
-    // The plain event loop wakes up and runs at less cost.
+    // Qt's own event loop costs less per wake-up than GLib's.
     qputenv("QT_NO_GLIB", "1");
-    // Without a bus the D-Bus library would launch a daemon of its own that stays behind for ever.
+    // Without a bus the D-Bus library would launch a daemon, which outlives the program.
     const bool hasRuntimeBus =
         QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
     if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") && !hasRuntimeBus)
