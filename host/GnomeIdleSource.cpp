@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/GnomeIdleSource.h"
 
-#include <QDBusMessage>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -21,14 +21,14 @@ GnomeIdleSource::GnomeIdleSource(double idleSeconds) : m_idleSeconds(idleSeconds
 
 void GnomeIdleSource::start()
 {
-    m_bus.subscribe({kPath, kService, u"WatchFired"_s}, this, [this](const QDBusMessage &signal) {
-        fired(signal.arguments().value(0).toUInt());
-    });
+    m_bus.subscribe(
+        {kPath, kService, u"WatchFired"_s}, this,
+        [this](const platform::BusMessage &signal) { fired(signal.argument().toUInt()); });
     // A restarted compositor has no watches.
     m_bus.subscribe({u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s},
-                    this, [this](const QDBusMessage &signal) {
-                        const QVariantList names = signal.arguments();
-                        if (names.value(0) == kService && !names.value(2).toString().isEmpty())
+                    this, [this](const platform::BusMessage &signal) {
+                        const bool hasOwner = !signal.argument(2).toString().isEmpty();
+                        if (signal.argument(0) == kService && hasOwner)
                             watch();
                     });
     connect(&m_bus, &platform::MessageBus::connected, this, &GnomeIdleSource::watch);
@@ -46,16 +46,14 @@ void GnomeIdleSource::watch()
 void GnomeIdleSource::addWatch(const QString &method, const QVariantList &arguments, Watch &watch,
                                const std::function<void()> &failed)
 {
-    auto call = QDBusMessage::createMethodCall(kService, kPath, kService, method);
-    call.setAutoStartService(false);
-    call.setArguments(arguments);
     watch.reset();
-    m_bus.call(call, [this, &watch, failed](const QDBusMessage &reply) {
-        if (reply.type() != QDBusMessage::ReplyMessage) {
+    const platform::BusCall call{kService, kPath, kService, method, arguments, false};
+    m_bus.call(call, [this, &watch, failed](const platform::BusMessage &reply) {
+        if (reply.isError()) {
             failed();
             return;
         }
-        watch = reply.arguments().value(0).toUInt();
+        watch = reply.argument().toUInt();
         Q_EMIT available();
     });
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/Inhibitors.h"
 
-#include <QDBusMessage>
-#include <QDBusVariant>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -17,24 +16,21 @@ constexpr auto kPatience = 1s;
 constexpr quint32 kSessionIsIdle = 8;
 constexpr quint32 kScreenChanges = 4;
 
-QDBusMessage callOf(const QString &service, const QString &path, const QString &method,
-                    const QVariantList &arguments = {})
+platform::BusCall callOf(const QString &service, const QString &path, const QString &method,
+                         const QVariantList &arguments = {})
 {
-    auto call = QDBusMessage::createMethodCall(service, path, service, method);
-    call.setArguments(arguments);
-    return call;
+    return {service, path, service, method, arguments, false};
 }
 
-bool saysYes(const QDBusMessage &reply)
+bool saysYes(const platform::BusMessage &reply)
 {
-    return reply.arguments().value(0).toBool();
+    return reply.argument().toBool();
 }
 
 /// The login manager lists what is inhibited in the form "sleep:idle".
-bool namesIdle(const QDBusMessage &reply)
+bool namesIdle(const platform::BusMessage &reply)
 {
-    const auto inhibited = reply.arguments().value(0).value<QDBusVariant>().variant().toString();
-    return inhibited.split(u':').contains("idle"_L1);
+    return reply.argument().toString().split(u':').contains("idle"_L1);
 }
 
 } // namespace
@@ -55,29 +51,33 @@ void Inhibitors::ask(const std::function<void(bool)> &answered)
                callOf(u"org.gnome.SessionManager"_s, u"/org/gnome/SessionManager"_s,
                       u"IsInhibited"_s, {kSessionIsIdle}),
                saysYes);
-    auto policy = callOf(u"org.kde.Solid.PowerManagement.PolicyAgent"_s,
-                         u"/org/kde/Solid/PowerManagement/PolicyAgent"_s, u"HasInhibition"_s,
-                         {kScreenChanges});
-    askService(m_session, policy, saysYes);
-    auto power = callOf(u"org.freedesktop.PowerManagement.Inhibit"_s,
-                        u"/org/freedesktop/PowerManagement/Inhibit"_s, u"HasInhibit"_s);
-    askService(m_session, power, saysYes);
-    auto login =
-        QDBusMessage::createMethodCall(u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s,
-                                       u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
-    login << u"org.freedesktop.login1.Manager"_s << u"BlockInhibited"_s;
+    askService(m_session,
+               callOf(u"org.kde.Solid.PowerManagement.PolicyAgent"_s,
+                      u"/org/kde/Solid/PowerManagement/PolicyAgent"_s, u"HasInhibition"_s,
+                      {kScreenChanges}),
+               saysYes);
+    askService(m_session,
+               callOf(u"org.freedesktop.PowerManagement.Inhibit"_s,
+                      u"/org/freedesktop/PowerManagement/Inhibit"_s, u"HasInhibit"_s),
+               saysYes);
+    const platform::BusCall login{u"org.freedesktop.login1"_s,
+                                  u"/org/freedesktop/login1"_s,
+                                  u"org.freedesktop.DBus.Properties"_s,
+                                  u"Get"_s,
+                                  {u"org.freedesktop.login1.Manager"_s, u"BlockInhibited"_s},
+                                  false};
     askService(m_system, login, namesIdle);
 }
 
-void Inhibitors::askService(platform::MessageBus &bus, QDBusMessage call, const Judge &inhibits)
+void Inhibitors::askService(platform::MessageBus &bus, const platform::BusCall &call,
+                            const Judge &inhibits)
 {
-    call.setAutoStartService(false);
     ++m_open;
-    bus.call(call, [this, inhibits, question = m_question](const QDBusMessage &reply) {
+    bus.call(call, [this, inhibits, question = m_question](const platform::BusMessage &reply) {
         if (question != m_question)
             return;
         --m_open;
-        const bool isInhibited = reply.type() == QDBusMessage::ReplyMessage && inhibits(reply);
+        const bool isInhibited = !reply.isError() && inhibits(reply);
         if (isInhibited || m_open == 0)
             conclude(isInhibited);
     });

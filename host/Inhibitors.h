@@ -24,9 +24,10 @@ public:
     void ask(const std::function<void(bool isInhibited)> &answered);
 
 private:
-    using Judge = std::function<bool(const QDBusMessage &reply)>;
+    using Judge = std::function<bool(const platform::BusMessage &reply)>;
 
-    void askService(platform::MessageBus &bus, QDBusMessage call, const Judge &inhibits);
+    void askService(platform::MessageBus &bus, const platform::BusCall &call,
+                    const Judge &inhibits);
     void conclude(bool isInhibited);
 
     platform::MessageBus m_session{platform::MessageBus::Kind::Session};

@@ -3,8 +3,6 @@
 
 #include "platform/Clocks.h"
 
-#include <QDBusMessage>
-
 using namespace Qt::StringLiterals;
 
 namespace host {
@@ -29,16 +27,15 @@ void ServiceIdleSource::start()
 void ServiceIdleSource::look()
 {
     const QString name = u"org.freedesktop.ScreenSaver"_s;
-    auto call = QDBusMessage::createMethodCall(name, u"/org/freedesktop/ScreenSaver"_s, name,
-                                               u"GetSessionIdleTime"_s);
-    call.setAutoStartService(false);
-    m_bus.call(call, [this](const QDBusMessage &reply) {
-        if (reply.type() != QDBusMessage::ReplyMessage) {
+    const platform::BusCall call{
+        name, u"/org/freedesktop/ScreenSaver"_s, name, u"GetSessionIdleTime"_s, {}, false};
+    m_bus.call(call, [this](const platform::BusMessage &reply) {
+        if (reply.isError()) {
             Q_EMIT unavailable();
             return;
         }
         Q_EMIT available();
-        const double value = reply.arguments().value(0).toDouble();
+        const double value = reply.argument().toDouble();
         if (const auto seconds = m_unit.read(value, m_clocks.monotonicSeconds()))
             taken(*seconds);
         else

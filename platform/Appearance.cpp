@@ -22,11 +22,11 @@ struct SchemeColors
     QRgb label;
     QRgb secondaryLabel;
     QRgb red;
-    /// Where the user chose none.
+    /// Used when the user chose none.
     QRgb accent;
-    /// The ground of text fields and lists of Qt's own widgets.
+    /// Background of Qt's own text fields and lists.
     QRgb base;
-    /// The body of Qt's own buttons.
+    /// Background of Qt's own buttons.
     QRgb button;
 };
 

@@ -13,9 +13,9 @@ namespace platform {
 
 class DesktopSettingsReader;
 
-/// The look the user asked the desktop for: light or dark, the accent colour, less motion. The
-/// desktop portal tells it, without ever being waited for; until it has, and where it does not, the
-/// application's palette decides. Every colour is opaque.
+/// The look the user chose for the desktop: light or dark, the accent colour, reduced motion. It
+/// comes from the desktop portal, which is asked asynchronously; the application's palette decides
+/// until the portal has answered and where it does not. Every colour is opaque.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -23,19 +23,20 @@ class Appearance : public QObject
 public:
     enum class Scheme { Light, Dark };
 
-    /// A look that stands still, for pictures and tests; the desktop is never asked.
+    /// A fixed look, for pictures and tests; the desktop is never asked.
     explicit Appearance(Scheme scheme, QObject *parent = nullptr);
     ~Appearance() override;
 
-    /// The look of this process, which follows the desktop. Made on first use and ended with the
-    /// application object, which must be there.
+    /// The look of this process, which follows the desktop. Made on first use and destroyed with
+    /// the application object, which must exist.
     static Appearance &shared();
 
-    /// Shows \p scheme in its own colours whatever the desktop says; none follows the desktop.
+    /// Uses \p scheme with our own colours whatever the desktop says; nullopt follows the desktop.
     void setForcedScheme(std::optional<Scheme> scheme);
 
     bool isDark() const;
-    /// Text; at least 4.5 : 1 against the window's background, as are the next three.
+    /// Colour of text. This and the next three have a contrast of at least 4.5 : 1 against
+    /// windowBackgroundColor().
     QColor labelColor() const;
     QColor secondaryLabelColor() const;
     QColor controlTextColor() const;
@@ -43,8 +44,8 @@ public:
     /// The user's accent colour.
     QColor controlAccentColor() const;
     QColor windowBackgroundColor() const;
-    /// The same colours for Qt's own widgets. For a window of ours, not for the application, whose
-    /// palette is one of the sources.
+    /// The same colours for Qt's own widgets. To be set on our windows, not on the application,
+    /// whose palette is an input of this class.
     QPalette palette() const;
 
     /// Whether the user asked for less motion.
@@ -53,14 +54,14 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// Anything of the above may be different now.
+    /// Any of the values above may have changed.
     void changed();
 
 private:
     explicit Appearance(QObject *application);
 
     std::optional<Scheme> m_forcedScheme;
-    /// Null when the look stands still.
+    /// Null when the look is fixed.
     std::unique_ptr<DesktopSettingsReader> m_desktop;
 };
 

@@ -9,8 +9,8 @@
 namespace platform {
 
 /// The binary form of PropertyList::parse() and PropertyList::toBinary(). In this form a container
-/// may hold the same object many times, so that a few hundred bytes can stand for a tree that no
-/// machine could hold; a tree is read up to 8 MiB, every object counted as 32 bytes and its text.
+/// may refer to the same object many times, so a few hundred bytes can expand to a tree larger than
+/// any memory. Reading stops at 8 MiB, counting 32 bytes and the text for every object.
 std::optional<QVariant> parseBinaryPropertyList(const QByteArray &bytes);
 QByteArray binaryPropertyList(const QVariant &value);
 

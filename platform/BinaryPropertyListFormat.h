@@ -4,8 +4,8 @@
 #include <QDateTime>
 #include <QtGlobal>
 
-/// The binary form. A file is a header, a row of objects, a table of their offsets, and a trailer
-/// that says how wide offsets and references are. An object begins with a marker: its kind in the
+/// The binary form. A file is a header, the objects, a table of their offsets, and a trailer that
+/// says how wide offsets and references are. An object begins with a marker: its kind in the
 /// upper four bits, in the lower four its length, or 15 when the length follows as an integer.
 namespace platform::BinaryPropertyListFormat {
 
@@ -28,8 +28,8 @@ enum Kind : quint8 {
     kDictionary = 0xD,
 };
 
-/// What a whole tree may cost: bytes of text and data, and this much for every object. Where bytes
-/// are made up by the million, trees stay small: large ones only take longer.
+/// Limit of a whole tree: the bytes of its text and data, and this many for every object. Fuzzers
+/// make up trees by the million and get a smaller limit, since large ones only take longer.
 #ifdef FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION
 inline constexpr quint64 kBudget = 64ULL * 1024;
 #else
@@ -40,7 +40,7 @@ inline constexpr quint64 kObjectCost = 32;
 inline constexpr quint64 kFalse = 0x8;
 inline constexpr quint64 kTrue = 0x9;
 
-/// The beginning of \p year; dates are seconds since that of 2001.
+/// The beginning of \p year, UTC. Dates are stored as seconds since the beginning of 2001.
 inline QDateTime utc(int year)
 {
     return {QDate(year, 1, 1), QTime(0, 0), Qt::UTC};

@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    /// One object: \p position is that of its contents, \p start that of its marker.
+    /// Reads one object, whose marker is at \p start and whose contents begin at \p position.
     struct Object
     {
         quint64 start = 0;
@@ -45,7 +45,7 @@ private:
         quint64 position = 0;
     };
 
-    /// The big-endian number of \p width bytes at \p offset; none where the file has no such bytes.
+    /// The big-endian number of \p width bytes at \p offset; none beyond the end of the file.
     std::optional<quint64> number(quint64 offset, quint64 width) const
     {
         if (width == 0 || width > 8 || !isInside(offset, width))
@@ -158,7 +158,7 @@ private:
             ForeignObject{m_bytes.mid(qsizetype(object.start), qsizetype(size + 1))});
     }
 
-    /// Up to four bytes are unsigned, eight and sixteen are in two's complement.
+    /// Integers of up to four bytes are unsigned, those of eight and sixteen two's complement.
     std::optional<QVariant> integer(const Object &object) const
     {
         if (object.length < 4) {
@@ -185,7 +185,8 @@ private:
         return std::nullopt;
     }
 
-    /// Seconds since the beginning of 2001, of which a QDateTime must give back every bit.
+    /// A date, in seconds since 2001. One that a QDateTime could not write back bit by bit becomes
+    /// a ForeignObject.
     std::optional<QVariant> date(const Object &object) const
     {
         const auto bits = object.length == 3 ? number(object.position, 8) : std::nullopt;
@@ -218,7 +219,7 @@ private:
         return QVariant(text);
     }
 
-    /// The value that the container's reference number \p place leads to.
+    /// The value of reference number \p place of a container.
     std::optional<QVariant> item(const Object &container, quint64 place, int depth)
     {
         const auto index = number(container.position + place * m_referenceSize, m_referenceSize);

@@ -16,7 +16,7 @@ namespace {
 
 using namespace BinaryPropertyListFormat;
 
-/// One object with the place of its first child among all objects; children stand in a row.
+/// One object and the index of its first child; the children of an object are consecutive.
 struct Entry
 {
     QVariant value;
@@ -31,7 +31,7 @@ QByteArray bigEndian(quint64 value, int width)
     return bytes.last(width);
 }
 
-/// The exponent of the smallest width, of one to eight bytes, that holds \p value.
+/// Binary logarithm of the smallest width (1, 2, 4 or 8 bytes) that holds \p value.
 int widthExponent(quint64 value)
 {
     return value <= 0xFF ? 0 : value <= 0xFFFF ? 1 : value <= 0xFFFF'FFFF ? 2 : 3;
@@ -107,7 +107,7 @@ QByteArray containerObject(const Entry &entry, int referenceSize)
     return object;
 }
 
-/// Empty for what the form cannot hold.
+/// Empty when the binary form cannot hold the value.
 QByteArray objectFor(const Entry &entry, int referenceSize)
 {
     const QVariant &value = entry.value;

@@ -5,9 +5,9 @@
 
 namespace platform {
 
-/// Full path of the file that runs, links resolved; empty when it cannot be told. Where /proc is
-/// missing the toolkit would guess from the program's name, in the current folder at worst; the
-/// kernel also tells what it has started.
+/// Full path of the running executable, links resolved; empty when it is unknown. Without /proc the
+/// toolkit would guess from the program's name, in the worst case in the current folder, so the
+/// path that the kernel passes to every program is used instead.
 QString programPath();
 
 /// The folder of real files that makes up the saver module: artwork, symbols, fonts, scripts and
@@ -19,7 +19,7 @@ public:
     explicit Bundle(QString path);
 
     /// The module's bundle, found relative to the running program: the build tree and an
-    /// installation have the same shape. One of nothing when the program's own place is unknown.
+    /// installation have the same layout. An empty bundle when the program's own path is unknown.
     static Bundle ofProgram();
 
     QString path() const { return m_path; }

@@ -25,7 +25,8 @@ public:
     }
 
 private:
-    /// Of Greenwich. Looks for another zone each time, but only once: Qt would do so twice.
+    /// Offset from UTC at \p second. tzset() reads the time zone again if the user changed it; Qt's
+    /// own conversion would do that twice.
     static int secondsEastAt(time_t second)
     {
         tzset();

@@ -5,14 +5,14 @@
 
 namespace platform {
 
-/// The two times the program lives by. Everything that shows or measures time takes them from here,
-/// so that a test or a one-frame picture can stand at any moment.
+/// Wall clock and monotonic clock. Everything that shows or measures time takes them from here, so
+/// that a test or a one-frame picture can be set to any moment.
 class Clocks
 {
 public:
     virtual ~Clocks() = default;
 
-    /// Wall-clock time in the system's present time zone, millisecond resolution. Steps when the
+    /// Wall-clock time in the system's current time zone, millisecond resolution. Steps when the
     /// user or the system sets the clock.
     virtual QDateTime now() const = 0;
 
@@ -23,7 +23,7 @@ public:
 /// The machine's own clocks, for the main thread; lives as long as the process.
 const Clocks &systemClocks();
 
-/// Clocks that stand still until they are set.
+/// Clocks that only change when they are set.
 class FixedClocks final : public Clocks
 {
 public:

@@ -44,7 +44,8 @@ QStringList damagedCopies(const QString &path)
     return copies.values();
 }
 
-/// A damaged file reads as empty, just as the missing one does until its successor is in place.
+/// Between the rename and the next write the file is missing, which reads as empty, as it did when
+/// it was damaged.
 bool putDamagedAside(const QString &path)
 {
     QStringList copies = damagedCopies(path);

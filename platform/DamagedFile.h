@@ -6,12 +6,12 @@
 
 namespace platform {
 
-/// Puts the damaged file \p path aside as "<file>.damaged", or with a number after that which is
-/// larger for later copies. Four are kept; the oldest ones go. The caller holds the file's lock.
-/// False when it stays where it is; errno says why.
+/// Renames the damaged file \p path to "<file>.damaged", or to that with a number behind it, which
+/// grows with every copy. Four copies are kept and older ones deleted. The caller holds the file's
+/// lock. False when the file could not be renamed; errno says why.
 bool putDamagedAside(const QString &path);
 
-/// The copies that were put aside of the file \p path, the oldest first.
+/// The damaged copies of the file \p path, the oldest first.
 QStringList damagedCopies(const QString &path);
 
 } // namespace platform

@@ -10,8 +10,7 @@ class DistributedNotifications;
 class LoginSession;
 
 /// What a view asks of the desktop around it, handed in by the program and replaced piece by piece
-/// in tests. The objects pointed to outlive every view; notifications and session may be null and
-/// are then never heard of.
+/// in tests. The objects pointed to outlive every view; notifications and session may be null.
 struct Desktop
 {
     const Clocks *clocks = nullptr;

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/DesktopSettings.h"
 
-#include <QDBusArgument>
-#include <QDBusError>
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QList>
 
+#include <algorithm>
 #include <utility>
 
 namespace platform {
@@ -32,15 +29,6 @@ constexpr uint kNoPreference = 0;
 constexpr uint kPrefersDark = 1;
 constexpr uint kPrefersLight = 2;
 constexpr uint kReduceMotion = 1;
-
-/// The value inside any number of variants: older portals put one more around it.
-QVariant unwrapped(QVariant value)
-{
-    while (value.metaType() == QMetaType::fromType<QDBusVariant>()) {
-        value = QVariant(value.value<QDBusVariant>().variant());
-    }
-    return value;
-}
 
 template <typename T>
 std::optional<T> as(const QVariant &value)
@@ -70,26 +58,20 @@ std::optional<bool> asPrefersDark(const QVariant &value)
     }
 }
 
-/// Red, green and blue of sRGB, 0 to 1; anything outside means that there is no accent.
+/// A colour of sRGB red, green and blue, each 0 to 1. Values out of range mean "no accent colour".
 QColor asColor(const QVariant &value)
 {
-    const auto argument = as<QDBusArgument>(value);
-    if (!argument || argument->currentSignature() != "(ddd)"_L1) {
+    const auto components = as<QVariantList>(value).value_or(QVariantList());
+    const auto isComponent = [](const QVariant &component) {
+        const auto number = as<double>(component);
+        return number && *number >= 0.0 && *number <= 1.0;
+    };
+    if (components.size() != 3 ||
+        !std::all_of(components.cbegin(), components.cend(), isComponent)) {
         return {};
     }
-    // Reading from an argument that is not const would make it one to be written.
-    const QDBusArgument &components = *argument;
-    double red = 0.0;
-    double green = 0.0;
-    double blue = 0.0;
-    components.beginStructure();
-    components >> red >> green >> blue;
-    components.endStructure();
-    const auto isComponent = [](double c) { return c >= 0.0 && c <= 1.0; };
-    if (!isComponent(red) || !isComponent(green) || !isComponent(blue)) {
-        return {};
-    }
-    return QColor::fromRgbF(float(red), float(green), float(blue));
+    return QColor::fromRgbF(components[0].toFloat(), components[1].toFloat(),
+                            components[2].toFloat());
 }
 
 } // namespace
@@ -126,9 +108,8 @@ DesktopSettingsReader::DesktopSettingsReader(QObject *parent)
 {
     connect(&m_bus, &MessageBus::connected, this, &DesktopSettingsReader::readAll);
     m_bus.subscribe(
-        {kPath, kInterface, u"SettingChanged"_s}, this, [this](const QDBusMessage &signal) {
-            const QVariantList arguments = signal.arguments();
-            take(arguments.value(0).toString(), arguments.value(1).toString(), arguments.value(2));
+        {kPath, kInterface, u"SettingChanged"_s}, this, [this](const BusMessage &signal) {
+            take(signal.argument(0).toString(), signal.argument(1).toString(), signal.argument(2));
         });
 }
 
@@ -147,24 +128,22 @@ void DesktopSettingsReader::readAll()
 /// Portals before version 2 of the interface know only the older "Read".
 void DesktopSettingsReader::read(const QString &method, const QString &group, const QString &key)
 {
-    auto call = QDBusMessage::createMethodCall(kService, kPath, kInterface, method);
-    call << group << key;
-    m_bus.call(call, [this, method, group, key](const QDBusMessage &reply) {
+    const BusCall call{kService, kPath, kInterface, method, {group, key}};
+    m_bus.call(call, [this, method, group, key](const BusMessage &reply) {
         const QString older = u"Read"_s;
-        const bool isUnknown = QDBusError(reply).type() == QDBusError::UnknownMethod;
+        const bool isUnknown = reply.error == "org.freedesktop.DBus.Error.UnknownMethod"_L1;
         if (isUnknown && method != older) {
             read(older, group, key);
             return;
         }
-        const bool isReply = reply.type() == QDBusMessage::ReplyMessage;
-        take(group, key, isReply ? reply.arguments().value(0) : QVariant());
+        take(group, key, reply.argument());
     });
 }
 
 void DesktopSettingsReader::take(const QString &group, const QString &key, const QVariant &value)
 {
     const DesktopSettings before = m_settings;
-    m_settings.take(group, key, unwrapped(value));
+    m_settings.take(group, key, value);
     if (m_settings != before) {
         Q_EMIT changed();
     }

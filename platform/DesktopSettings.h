@@ -11,8 +11,8 @@
 
 namespace platform {
 
-/// What the desktop has told of the user's wishes. What it never told, or told in a form that makes
-/// no sense, is absent.
+/// The user's settings as far as the desktop has reported them. A setting that was not reported, or
+/// not in a valid form, is absent.
 struct DesktopSettings
 {
     /// Absent also when the user has no preference.
@@ -20,19 +20,19 @@ struct DesktopSettings
     /// Invalid when there is none.
     QColor accent{};
     std::optional<bool> reducedMotion{};
-    /// GNOME's and its relatives' switch.
+    /// The switch of GNOME and the desktops derived from it.
     std::optional<bool> enableAnimations{};
-    /// KDE's factor on all durations.
+    /// KDE's factor on all durations; 0 means no animation.
     std::optional<double> animationFactor{};
 
     bool operator==(const DesktopSettings &) const = default;
 
-    /// Whether to move less: the first of the three settings above that is there decides; no when
-    /// none is.
+    /// Whether to reduce motion. The first of the last three settings that is present decides;
+    /// false when none is.
     bool wantsReducedMotion() const;
 
-    /// Takes over one setting of the desktop portal; settings we do not use are ignored. An invalid
-    /// \p value means that the setting is not there.
+    /// Stores one setting of the desktop portal; settings we do not use are ignored. An invalid
+    /// \p value means that the portal has no such setting.
     void take(const QString &group, const QString &key, const QVariant &value);
 };
 

@@ -21,14 +21,14 @@ class DistributedNotifications : public QObject
 
 public:
     explicit DistributedNotifications(QObject *parent = nullptr);
-    /// Gives posts that are still on their way 100 ms to leave.
+    /// Waits at most 100 ms for posts that the bus has not read yet.
     ~DistributedNotifications() override;
 
     /// Sends \p name to every observer in every process, this one included. Never blocks.
     void post(const QString &name, const QVariantMap &userInfo = {});
 
     /// Calls \p received on the main thread for every notification \p name, until \p observer is
-    /// destroyed. In a flood some calls are left out, never the last.
+    /// destroyed. When very many arrive, some calls are left out, but never the last.
     void observe(const QString &name, QObject *observer, std::function<void()> received);
 
 private:

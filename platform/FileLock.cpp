@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kPollInterval(1);
 
-/// The bytes of the file that are locked.
+/// Offsets of the two bytes that are locked.
 constexpr off_t kTurn = 0;
 constexpr off_t kLock = 1;
 
@@ -40,7 +40,7 @@ FileLock::FileLock(const QString &path, std::chrono::milliseconds timeout)
     m_descriptor = -1;
 }
 
-/// Closing the file unlocks it.
+/// Closing the file releases the lock.
 FileLock::~FileLock()
 {
     if (m_descriptor >= 0)
@@ -58,8 +58,9 @@ bool FileLock::isTaken() const
     return m_error == EAGAIN;
 }
 
-/// Takes the turn, then the lock, then passes the turn on. Whoever waits for the lock keeps the
-/// turn, so that a busy writer cannot overtake the others again and again.
+/// Locks the turn byte, then the lock byte, then unlocks the turn byte. A process that waits for
+/// the lock byte keeps the turn byte. So a process that has just released the lock cannot take it
+/// again before the waiting one, which with a single byte starved waiting writers for seconds.
 int FileLock::lock()
 {
     if (!m_hasTurn) {

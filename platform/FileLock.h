@@ -7,30 +7,31 @@
 
 namespace platform {
 
-/// An advisory lock between processes for as long as the object lives. The kernel ends it with the
-/// process, however that dies, so the lock's file never needs cleaning up and is left in place.
+/// An advisory lock between processes, held as long as the object exists. The kernel releases it
+/// when the process ends, however it ends, so the lock file never becomes stale and is never
+/// deleted.
 class FileLock
 {
 public:
-    /// Makes the file \p path if needed (not its folder) and locks it, waiting at most \p timeout
-    /// for other holders.
+    /// Creates the file \p path if needed (not its folder) and locks it. Waits at most \p timeout
+    /// while another process holds the lock.
     FileLock(const QString &path, std::chrono::milliseconds timeout);
     ~FileLock();
     Q_DISABLE_COPY_MOVE(FileLock)
 
-    /// The lock file of all who replace the file \p path, beside it.
+    /// Path of the lock file that every process takes before it replaces the file \p path.
     static QString pathBeside(const QString &path);
 
     bool isHeld() const { return m_error == 0; }
-    /// Whether it is not held because another process holds it, and not for want of a file.
+    /// Whether another process holds the lock. False after any other failure.
     bool isTaken() const;
-    /// Why it is not held: EAGAIN when it is taken, ENOLCK when the file system has no locks, else
-    /// the errno of opening the file. 0 when it is held.
+    /// 0 when the lock is held, EAGAIN when another process holds it, ENOLCK when the file system
+    /// does not support locks, else the errno of opening the file.
     int error() const { return m_error; }
 
 private:
     int lock();
-    /// Locks or unlocks one byte of the file for this descriptor; the file stays empty.
+    /// Locks or unlocks one byte of the file, which stays empty. Returns 0 or the error.
     int set(off_t byte, short type) const;
 
     int m_descriptor;

@@ -32,8 +32,8 @@ bool writeAll(int descriptor, const QByteArray &contents)
     return true;
 }
 
-/// Makes a new name in a folder as durable as the file itself. Not every file system can, and the
-/// name is in place either way, so the outcome does not matter.
+/// Flushes the folder, so that the rename survives a power cut. Not every file system supports
+/// this; the file has been replaced in any case, so errors are ignored.
 void flushFolder(const QByteArray &path)
 {
     const int descriptor = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

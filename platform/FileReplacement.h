@@ -6,14 +6,14 @@
 
 namespace platform {
 
-/// Makes the folder \p path and those above it that are missing, for the user alone. True when it
-/// stands afterwards.
+/// Creates the folder \p path and missing parents, accessible to the user only. True when the
+/// folder exists afterwards.
 bool makePrivateFolder(const QString &path);
 
-/// A file's new version, written beside it under a fixed name and put in its place as a whole.
-/// Readers see the old version or the new one and nothing else, also after a power cut. Only one
-/// process at a time may replace the same file; what one left behind that was killed meanwhile goes
-/// with the next replacement.
+/// Replaces a file atomically: writes the new version beside it under a fixed name and renames it.
+/// Readers see either the old version or the new one, also after a power cut. Only one process at a
+/// time may replace a file (see FileLock). The next replacement removes what a killed process left
+/// behind.
 class FileReplacement
 {
 public:
@@ -23,13 +23,12 @@ public:
     ~FileReplacement();
     Q_DISABLE_COPY_MOVE(FileReplacement)
 
-    /// Where the new version of the file \p path stands until it is committed, or for good when its
-    /// writer was killed.
+    /// Path of the new version of the file \p path until commit().
     static QString newPath(const QString &path);
 
-    /// Writes the new version, readable for the user alone, and flushes it to the disk.
+    /// Writes the new version, readable by the user only, and flushes it to the disk.
     bool write(const QByteArray &contents);
-    /// Puts the version that was written in place; on failure the old one stands.
+    /// Renames the new version to the file's name; on failure the old version remains.
     bool commit();
     /// The errno of the step that failed; 0 when none did.
     int error() const { return m_error; }

@@ -7,7 +7,7 @@
 namespace platform {
 
 namespace {
-/// A timer may fire this much before its time; the frame it was set for still counts as shown.
+/// A timer may fire this much early; the frame it was set for still counts as shown.
 constexpr double kTimerSlack = 0.0015;
 } // namespace
 

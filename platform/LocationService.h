@@ -4,19 +4,26 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <chrono>
+#include <functional>
+#include <memory>
 
 namespace platform {
+
+class MessageBus;
+struct BusCall;
+struct BusMessage;
 
 /// One answer of the location service: degrees, north and east positive.
 struct LocationFix
 {
     double latitude = 0.0;
     double longitude = 0.0;
-    /// Radius in metres; negative when the coordinates mean nothing.
+    /// Radius in metres; negative when the coordinates are not valid.
     double horizontalAccuracy = -1.0;
-    /// When it was found; invalid when the service does not tell.
+    /// When the position was found; invalid when the service does not say.
     QDateTime timestamp;
 };
 
@@ -30,19 +37,19 @@ enum class LocationError {
     Unavailable, ///< no service, no answer, or it went away
 };
 
-/// The desktop's location service, GeoClue 2 on the system bus, at city accuracy. It asks the user
-/// for consent itself. Every question is asked without waiting, no position is kept, and the bus is
-/// not connected to before the first start, nor while it does not answer.
+/// The desktop's location service, GeoClue 2 on the system bus, at city accuracy. The service asks
+/// the user for consent itself. No call blocks, no position is stored, and the bus is connected
+/// only while updating.
 ///
-/// What its errors mean here: an AccessDenied that begins "Agent rejected" is the user's own no,
-/// so Denied; every other AccessDenied ("Geolocation disabled", "no agent", "disallowed by
+/// Errors: an AccessDenied whose text begins with "Agent rejected" means that the user refused, so
+/// Denied; every other AccessDenied ("Geolocation disabled", "no agent", "disallowed by
 /// configuration", a missing desktop entry) is Restricted; anything else is Unavailable.
 class LocationService : public QObject
 {
     Q_OBJECT
 
 public:
-    /// How long a service that agreed to answer may stay silent.
+    /// How long to wait for a position after consent was given.
     static constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(60);
 
     /// \p desktopId is the name of the program's installed desktop entry without its suffix: the
@@ -56,7 +63,7 @@ public:
     /// begins anew.
     void startUpdating();
     void stopUpdating();
-    bool isUpdating() const { return m_request != nullptr; }
+    bool isUpdating() const { return m_bus != nullptr; }
 
 Q_SIGNALS:
     /// When it is Restricted, updating has ended.
@@ -66,11 +73,20 @@ Q_SIGNALS:
     void failed(platform::LocationError error);
 
 private:
-    class Request;
+    void getClient();
+    void useClient(const BusMessage &reply);
+    void getLocation(const QString &owner, const QString &path);
+    /// Calls a method that ends updating when it fails.
+    void call(const BusCall &call, const std::function<void(const BusMessage &)> &replied);
+    void giveUp();
+    void fail(const BusMessage &error);
 
     QString m_desktopId;
     std::chrono::milliseconds m_patience = kPatience;
-    Request *m_request = nullptr;
+    /// Limits the wait for the bus and for a position, which are not replies to a call.
+    QTimer m_silence;
+    /// Null while not updating.
+    std::unique_ptr<MessageBus> m_bus;
 };
 
 } // namespace platform

@@ -4,10 +4,6 @@
 #include "platform/MessageBus.h"
 
 #include <QCoreApplication>
-#include <QDBusArgument>
-#include <QDBusMessage>
-#include <QDBusObjectPath>
-#include <QDBusVariant>
 
 namespace platform {
 
@@ -20,35 +16,9 @@ const QString kManagerPath = u"/org/freedesktop/login1"_s;
 const QString kManager = u"org.freedesktop.login1.Manager"_s;
 const QString kProperties = u"org.freedesktop.DBus.Properties"_s;
 
-QDBusMessage propertyCall(const QString &path, const QString &interface, const QString &property)
+BusCall propertyCall(const QString &path, const QString &interface, const QString &property)
 {
-    auto call = QDBusMessage::createMethodCall(kService, path, kProperties, u"Get"_s);
-    call << interface << property;
-    return call;
-}
-
-/// The value a property call was answered with; invalid when the answer is an error.
-QVariant propertyValue(const QDBusMessage &reply)
-{
-    const bool isReply = reply.type() == QDBusMessage::ReplyMessage;
-    return isReply ? reply.arguments().value(0).value<QDBusVariant>().variant() : QVariant();
-}
-
-/// The path in a session's entry of id and path; empty when there is no session.
-QString sessionPath(const QVariant &entry)
-{
-    // Reading from an argument that is not const would make it one to be written.
-    const auto argument = entry.value<QDBusArgument>();
-    if (entry.metaType() != QMetaType::fromType<QDBusArgument>() ||
-        argument.currentSignature() != "(so)"_L1) {
-        return {};
-    }
-    QString id;
-    QDBusObjectPath path;
-    argument.beginStructure();
-    argument >> id >> path;
-    argument.endStructure();
-    return id.isEmpty() ? QString() : path.path();
+    return {kService, path, kProperties, u"Get"_s, {interface, property}};
 }
 
 } // namespace
@@ -59,8 +29,8 @@ LoginSession::LoginSession(QObject *parent)
     connect(m_bus.get(), &MessageBus::connected, this, &LoginSession::findSession);
     connect(m_bus.get(), &MessageBus::disconnected, this, [this] { setActive(true); });
     m_bus->subscribe({kManagerPath, kManager, u"PrepareForSleep"_s}, this,
-                     [this](const QDBusMessage &signal) {
-                         const bool isWaking = signal.arguments().value(0) == QVariant(false);
+                     [this](const BusMessage &signal) {
+                         const bool isWaking = signal.argument() == QVariant(false);
                          if (isWaking && m_isActive) {
                              Q_EMIT becameActive();
                          }
@@ -73,40 +43,42 @@ void LoginSession::findSession()
 {
     m_following.reset();
     m_isAsking = false;
-    auto call =
-        QDBusMessage::createMethodCall(kService, kManagerPath, kManager, u"GetSessionByPID"_s);
-    call << quint32(QCoreApplication::applicationPid());
-    m_bus->call(call, [this](const QDBusMessage &reply) {
-        const auto path = reply.arguments().value(0).value<QDBusObjectPath>().path();
-        if (path.isEmpty()) {
-            findDisplaySession();
-        } else {
-            follow(path);
-        }
-    });
-}
-
-/// A process that the user's service manager started is in no session; it shows itself in the one
-/// that owns the user's display.
-void LoginSession::findDisplaySession()
-{
-    m_bus->call(propertyCall(u"/org/freedesktop/login1/user/self"_s,
-                             u"org.freedesktop.login1.User"_s, u"Display"_s),
-                [this](const QDBusMessage &reply) {
-                    const QString path = sessionPath(propertyValue(reply));
-                    if (!path.isEmpty()) {
+    const auto processId = uint(QCoreApplication::applicationPid());
+    m_bus->call({kService, kManagerPath, kManager, u"GetSessionByPID"_s, {processId}},
+                [this](const BusMessage &reply) {
+                    const QString path = reply.argument().toString();
+                    if (path.isEmpty()) {
+                        findDisplaySession();
+                    } else {
                         follow(path);
                     }
                 });
 }
 
-/// Anybody may send a signal that looks like the session's, so it only says when to ask.
+/// A process started by the user's service manager belongs to no session; its windows appear in the
+/// session that owns the user's display.
+void LoginSession::findDisplaySession()
+{
+    m_bus->call(propertyCall(u"/org/freedesktop/login1/user/self"_s,
+                             u"org.freedesktop.login1.User"_s, u"Display"_s),
+                [this](const BusMessage &reply) {
+                    // Id and path of the session, both empty when there is none.
+                    const QVariantList session = reply.argument().toList();
+                    const QString path = session.value(1).toString();
+                    if (!session.value(0).toString().isEmpty() && !path.isEmpty()) {
+                        follow(path);
+                    }
+                });
+}
+
+/// Any program can send a signal that looks like the session's, so a signal is only a reason to
+/// ask.
 void LoginSession::follow(const QString &path)
 {
     m_path = path;
     m_following = std::make_unique<QObject>();
     m_bus->subscribe({path, kProperties, u"PropertiesChanged"_s}, m_following.get(),
-                     [this](const QDBusMessage &) { ask(); });
+                     [this](const BusMessage &) { ask(); });
     ask();
 }
 
@@ -118,9 +90,9 @@ void LoginSession::ask()
     }
     m_isAsking = true;
     m_bus->call(propertyCall(m_path, u"org.freedesktop.login1.Session"_s, u"Active"_s),
-                [this](const QDBusMessage &reply) {
+                [this](const BusMessage &reply) {
                     m_isAsking = false;
-                    const QVariant active = propertyValue(reply);
+                    const QVariant active = reply.argument();
                     setActive(!active.isValid() || active.toBool());
                     if (m_askAgain) {
                         ask();
@@ -136,8 +108,6 @@ void LoginSession::setActive(bool isActive)
     m_isActive = isActive;
     if (isActive) {
         Q_EMIT becameActive();
-    } else {
-        Q_EMIT becameInactive();
     }
 }
 

@@ -10,9 +10,8 @@ namespace platform {
 
 class MessageBus;
 
-/// The login session this process belongs to, as the system's session manager reports it. Where
-/// there is no session manager, or it is not reached, the session counts as active. Never blocks:
-/// what the session manager says arrives later.
+/// The login session of this process, as the system's session manager reports it. Without a session
+/// manager, or while it does not answer, the session counts as active. Never blocks.
 class LoginSession : public QObject
 {
     Q_OBJECT
@@ -27,7 +26,6 @@ Q_SIGNALS:
     /// The session became the active one again, for example after switching users, or the machine
     /// woke up with this session active.
     void becameActive();
-    void becameInactive();
 
 private:
     void findSession();
@@ -37,7 +35,7 @@ private:
     void setActive(bool isActive);
 
     std::unique_ptr<MessageBus> m_bus;
-    /// The subscription to the session now followed ends with this.
+    /// Context of the subscription to the current session; destroying it unsubscribes.
     std::unique_ptr<QObject> m_following;
     QString m_path;
     bool m_isActive = true;

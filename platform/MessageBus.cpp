@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/MessageBus.h"
 
-#include "platform/BusProbe.h"
-#include "platform/BusWorker.h"
+#include <QSocketNotifier>
 
-#include <QThread>
-
+#include <algorithm>
 #include <chrono>
-#include <optional>
-#include <utility>
+#include <limits>
 
+#include <poll.h>
+#include <systemd/sd-bus.h>
 #include <unistd.h>
 
 namespace platform {
@@ -18,30 +17,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr auto kRetryInterval = 2s;
+/// Shorter than the library's own timeout, as a new bus may be listening at the same address.
+constexpr auto kConnectTimeout = 10s;
+constexpr auto kPaceInterval = 16ms;
 constexpr auto kLongestFarewell = 100ms;
-
-/// Ends a thread, or leaves it behind when somebody's call makes it wait for long.
-void endThread(QThread *thread)
-{
-    thread->quit();
-    if (thread->wait(kLongestFarewell)) {
-        delete thread;
-    }
-}
-
-/// The thread all buses of the process share; it ends with the last of them.
-std::shared_ptr<QThread> busThread()
-{
-    static std::weak_ptr<QThread> current;
-    auto thread = current.lock();
-    if (!thread) {
-        thread = std::shared_ptr<QThread>(new QThread, endThread);
-        thread->setObjectName(QStringLiteral("message buses"));
-        thread->start();
-        current = thread;
-    }
-    return thread;
-}
+constexpr quint64 kMostWaiting = 64;
+constexpr qsizetype kMostSignals = 64;
+/// Messages that are read before control returns to the event loop.
+constexpr int kMostAtOnce = 64;
 
 /// Where the login manager of every current system puts the session bus.
 QByteArray defaultSessionAddress()
@@ -53,109 +37,255 @@ QByteArray defaultSessionAddress()
     return "unix:path=" + folder.toPercentEncoding("/") + "/bus";
 }
 
+quint64 microseconds(std::chrono::milliseconds duration)
+{
+    return quint64(std::chrono::microseconds(duration).count());
+}
+
 } // namespace
 
-std::optional<QByteArray> MessageBus::address(Kind kind)
+QByteArray MessageBus::addresses(Kind kind)
 {
-    const bool system = kind == Kind::System;
-    const QByteArray given =
-        qgetenv(system ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
+    const bool isSystem = kind == Kind::System;
+    QByteArray given = qgetenv(isSystem ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
     if (!given.isEmpty()) {
-        return firstUnixBusAddress(given);
+        return given;
     }
-    return firstUnixBusAddress(system ? QByteArray("unix:path=/run/dbus/system_bus_socket")
-                                      : defaultSessionAddress());
+    return isSystem ? QByteArray("unix:path=/run/dbus/system_bus_socket") : defaultSessionAddress();
 }
 
 MessageBus::MessageBus(Kind kind, QObject *parent)
-    : QObject(parent), m_outbox(std::make_shared<BusOutbox>())
+    : QObject(parent), m_addresses(addresses(kind)), m_turn(this), m_pace(this)
 {
-    if (const auto where = address(kind)) {
-        startWorker(*where);
-    }
+    m_turn.setSingleShot(true);
+    m_pace.setSingleShot(true);
+    connect(&m_turn, &QTimer::timeout, this, &MessageBus::takeTurn);
+    connect(&m_pace, &QTimer::timeout, this, &MessageBus::deliverSignals);
+    open();
 }
 
 MessageBus::~MessageBus()
 {
-    if (m_worker) {
-        m_outbox->waitUntilEmpty(kLongestFarewell);
-        m_worker->deleteLater();
+    if (m_bus && m_hasSent) {
+        sayFarewell();
+    }
+    close();
+}
+
+void MessageBus::takeTurn()
+{
+    if (m_bus) {
+        process();
+    } else {
+        open();
     }
 }
 
-void MessageBus::startWorker(const QByteArray &address)
+void MessageBus::open()
 {
-    m_thread = busThread();
-    m_worker = new BusWorker(address, m_outbox);
-    m_worker->moveToThread(m_thread.get());
-    connect(m_worker, &BusWorker::connected, this, [this] { setConnected(true); });
-    connect(m_worker, &BusWorker::disconnected, this, [this] { setConnected(false); });
-    connect(m_worker, &BusWorker::arrived, this, &MessageBus::deliver);
-    connect(m_worker, &BusWorker::answered, this, &MessageBus::answer);
-    QMetaObject::invokeMethod(m_worker, &BusWorker::tryToConnect, Qt::QueuedConnection);
+    m_bus = startBus(m_addresses);
+    if (!m_bus) {
+        m_turn.start(kRetryInterval);
+        return;
+    }
+    m_connectEnd = Clock::now() + kConnectTimeout;
+    const int socket = sd_bus_get_fd(m_bus.get());
+    m_readable = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Read);
+    m_writable = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Write);
+    connect(m_readable.get(), &QSocketNotifier::activated, this, &MessageBus::process);
+    connect(m_writable.get(), &QSocketNotifier::activated, this, &MessageBus::process);
+    for (auto &entry : m_subscriptions) {
+        follow(entry.second);
+    }
+    awaitEvents();
 }
 
-void MessageBus::setConnected(bool isConnected)
+void MessageBus::close()
 {
-    m_isConnected = isConnected;
+    m_isConnected = false;
+    m_hasSent = false;
+    for (auto &entry : m_subscriptions) {
+        entry.second.slot.reset();
+    }
     m_calls.clear();
-    if (isConnected) {
-        Q_EMIT connected();
+    m_replies.clear();
+    if (m_bus) {
+        m_readable->setEnabled(false);
+        m_writable->setEnabled(false);
+        m_bus.reset();
+    }
+}
+
+void MessageBus::process()
+{
+    int progress = 1;
+    for (int i = 0; i < kMostAtOnce && progress > 0 && sd_bus_is_open(m_bus.get()) > 0; ++i) {
+        progress = sd_bus_process(m_bus.get(), nullptr);
+    }
+    const bool wasConnected = m_isConnected;
+    m_isConnected = sd_bus_is_ready(m_bus.get()) > 0;
+    const bool isOpen = progress >= 0 && sd_bus_is_open(m_bus.get()) > 0;
+    if (isOpen && (m_isConnected || Clock::now() < m_connectEnd)) {
+        awaitEvents();
     } else {
+        close();
+        m_turn.start(kRetryInterval);
+    }
+    const QPointer<MessageBus> self(this);
+    if (m_isConnected && !wasConnected) {
+        Q_EMIT connected();
+    } else if (wasConnected && !m_isConnected) {
         Q_EMIT disconnected();
     }
+    if (self) {
+        deliverReplies();
+    }
+    if (self && !m_pace.isActive()) {
+        deliverSignals();
+    }
+}
+
+void MessageBus::awaitEvents()
+{
+    const int events = sd_bus_get_events(m_bus.get());
+    m_readable->setEnabled(events & POLLIN);
+    m_writable->setEnabled(events & POLLOUT);
+    constexpr uint64_t kNever = std::numeric_limits<uint64_t>::max();
+    uint64_t timeout = kNever;
+    auto end = m_isConnected ? Clock::time_point::max() : m_connectEnd;
+    if (sd_bus_get_timeout(m_bus.get(), &timeout) >= 0 && timeout != kNever) {
+        end = std::min(end, Clock::time_point(std::chrono::microseconds(timeout)));
+    }
+    if (end == Clock::time_point::max()) {
+        m_turn.stop();
+        return;
+    }
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now());
+    m_turn.start(std::max(left, std::chrono::milliseconds::zero()));
+}
+
+bool MessageBus::hasRoom() const
+{
+    uint64_t waiting = 0;
+    return m_bus && sd_bus_get_n_queued_write(m_bus.get(), &waiting) >= 0 && waiting < kMostWaiting;
 }
 
 void MessageBus::subscribe(const BusSignal &signal, QObject *context, const Receiver &received)
 {
-    if (!m_worker) {
+    const int id = ++m_lastId;
+    auto &subscription =
+        m_subscriptions.emplace(id, Subscription{this, id, signal, context, received})
+            .first->second;
+    connect(context, &QObject::destroyed, this, [this, id] { m_subscriptions.erase(id); });
+    if (m_bus) {
+        follow(subscription);
+        awaitEvents();
+    }
+}
+
+/// Names neither the sender, whom the bus would have to look up, nor the types of the arguments,
+/// which whoever sends the signal may leave out.
+void MessageBus::follow(Subscription &subscription)
+{
+    const BusSignal &signal = subscription.signal;
+    const auto receive = [](sd_bus_message *message, void *data, sd_bus_error *) {
+        const auto *receiver = static_cast<Subscription *>(data);
+        auto &arrived = receiver->bus->m_signals;
+        arrived.emplace_back(receiver->id, readMessage(message));
+        if (arrived.size() > kMostSignals) {
+            arrived.removeFirst();
+        }
+        return 0;
+    };
+    sd_bus_slot *slot = nullptr;
+    sd_bus_match_signal_async(m_bus.get(), &slot, nullptr, signal.path.toUtf8().constData(),
+                              signal.interface.toUtf8().constData(),
+                              signal.member.toUtf8().constData(), receive, nullptr, &subscription);
+    subscription.slot.reset(slot);
+}
+
+void MessageBus::send(const BusSignal &signal, const QVariantList &arguments)
+{
+    if (!hasRoom()) {
         return;
     }
-    const int id = ++m_lastId;
-    m_subscriptions.insert(id, {context, received});
-    connect(context, &QObject::destroyed, this, [this, id] { unsubscribe(id); });
-    QMetaObject::invokeMethod(m_worker,
-                              [worker = m_worker, id, signal] { worker->subscribe(id, signal); });
-}
-
-void MessageBus::unsubscribe(int id)
-{
-    m_subscriptions.remove(id);
-    QMetaObject::invokeMethod(m_worker, [worker = m_worker, id] { worker->unsubscribe(id); });
-}
-
-void MessageBus::send(const QDBusMessage &signal)
-{
-    if (m_worker && m_outbox->enter()) {
-        QMetaObject::invokeMethod(m_worker, [worker = m_worker, signal] { worker->send(signal); });
+    sd_bus_message *message = nullptr;
+    sd_bus_message_new_signal(m_bus.get(), &message, signal.path.toUtf8().constData(),
+                              signal.interface.toUtf8().constData(),
+                              signal.member.toUtf8().constData());
+    const BusMessageHandle handle(message);
+    if (message && appendArguments(message, arguments)) {
+        m_hasSent = sd_bus_send(m_bus.get(), message, nullptr) >= 0 || m_hasSent;
+        awaitEvents();
     }
 }
 
-void MessageBus::call(const QDBusMessage &method, const Receiver &answered)
+void MessageBus::call(const BusCall &call, const Receiver &answered)
 {
-    if (!m_isConnected) {
+    const BusMessageHandle message =
+        m_isConnected && hasRoom() ? newCall(m_bus.get(), call) : BusMessageHandle();
+    if (!message) {
         return;
     }
+    const auto receive = [](sd_bus_message *reply, void *data, sd_bus_error *) {
+        auto *pending = static_cast<PendingCall *>(data);
+        MessageBus *bus = pending->bus;
+        bus->m_replies.emplace_back(std::move(pending->answered), readMessage(reply));
+        bus->m_calls.erase(pending->id);
+        return 0;
+    };
     const int id = ++m_lastId;
-    m_calls.insert(id, answered);
-    QMetaObject::invokeMethod(m_worker,
-                              [worker = m_worker, id, method] { worker->call(id, method); });
+    auto &pending = m_calls.emplace(id, PendingCall{this, id, answered}).first->second;
+    sd_bus_slot *slot = nullptr;
+    sd_bus_call_async(m_bus.get(), &slot, message.get(), receive, &pending,
+                      microseconds(call.patience));
+    pending.slot.reset(slot);
+    awaitEvents();
 }
 
-void MessageBus::deliver(int id, const QDBusMessage &message)
+void MessageBus::deliverReplies()
 {
-    // A copy: the receiver may end its own subscription.
-    const Subscription subscription = m_subscriptions.value(id);
-    if (subscription.context) {
-        subscription.received(message);
-    }
-}
-
-void MessageBus::answer(int id, const QDBusMessage &reply)
-{
-    if (const Receiver answered = m_calls.take(id)) {
+    const QPointer<MessageBus> self(this);
+    const auto replies = std::exchange(m_replies, {});
+    for (const auto &[answered, reply] : replies) {
         answered(reply);
+        if (!self) {
+            return;
+        }
     }
+}
+
+void MessageBus::deliverSignals()
+{
+    const QPointer<MessageBus> self(this);
+    const auto arrived = std::exchange(m_signals, {});
+    if (!arrived.isEmpty()) {
+        m_pace.start(kPaceInterval);
+    }
+    for (const auto &[id, message] : arrived) {
+        const auto subscription = m_subscriptions.find(id);
+        if (subscription != m_subscriptions.end() && subscription->second.context) {
+            // A copy: the receiver may end its own subscription.
+            const Receiver received = subscription->second.received;
+            received(message);
+        }
+        if (!self) {
+            return;
+        }
+    }
+}
+
+/// The bus reads messages in order, so its reply to a ping shows that it has read all before it.
+void MessageBus::sayFarewell()
+{
+    const auto noteReply = [](sd_bus_message *, void *isAnswered, sd_bus_error *) {
+        *static_cast<bool *>(isAnswered) = true;
+        return 0;
+    };
+    bool isAnswered = false;
+    sd_bus_call_method_async(m_bus.get(), nullptr, "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                             "org.freedesktop.DBus.Peer", "Ping", noteReply, &isAnswered, nullptr);
+    workUntil(m_bus.get(), QDeadlineTimer(kLongestFarewell), [&] { return isAnswered; });
 }
 
 } // namespace platform

@@ -1,63 +1,53 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/BusConnection.h"
+#include "platform/BusMessage.h"
+
 #include <QByteArray>
-#include <QDBusMessage>
-#include <QHash>
+#include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QString>
+#include <QTimer>
 
+#include <chrono>
 #include <functional>
+#include <map>
 #include <memory>
-#include <optional>
+#include <utility>
 
-class QThread;
+class QSocketNotifier;
 
 namespace platform {
 
-class BusWorker;
-class BusOutbox;
-
-/// A signal on a message bus, whoever sends it and whatever its arguments are.
-struct BusSignal
-{
-    QString path;
-    QString interface;
-    QString member;
-
-    bool operator==(const BusSignal &) const = default;
-};
-
-/// One of the user's message buses, reached without ever making the calling thread wait: it may be
-/// missing, hang, die and come back. Connecting, subscribing and sending happen on a thread of
-/// their own; everything reported arrives on the thread of this object.
+/// One of the user's message buses, which may be missing, hang, die and come back. Only the
+/// destructor ever blocks, and for 100 ms at most. Everything is reported from the event loop.
 ///
-/// Memory stays bounded whatever the other side does. At most 64 messages to send wait for a bus
-/// that does not read; further ones are dropped. Signals are handed over at most once per 16 ms and
-/// 64 at a time; of a larger flood the oldest are dropped.
+/// Memory is bounded whatever the bus does. At most 64 outgoing messages are queued; further ones
+/// are dropped. Signals are delivered at most every 16 ms and 64 at a time; when more arrive, the
+/// oldest are dropped.
 class MessageBus : public QObject
 {
     Q_OBJECT
 
 public:
     enum class Kind { Session, System };
-    /// Where the bus of that kind listens; none when it could not be reached without waiting.
-    static std::optional<QByteArray> address(Kind kind);
+    /// The D-Bus addresses at which the bus of that kind listens.
+    static QByteArray addresses(Kind kind);
 
-    using Receiver = std::function<void(const QDBusMessage &)>;
+    using Receiver = std::function<void(const BusMessage &)>;
 
     explicit MessageBus(Kind kind, QObject *parent = nullptr);
-    /// Gives messages that are still on their way 100 ms to leave.
+    /// Waits at most 100 ms for the bus to read what was sent.
     ~MessageBus() override;
 
     /// Calls \p received for every such signal until \p context is destroyed, over reconnects too.
     void subscribe(const BusSignal &signal, QObject *context, const Receiver &received);
-    /// Sends a signal. Kept until the first try to connect has ended, dropped without a bus.
-    void send(const QDBusMessage &signal);
+    /// Sends a signal. Dropped without a bus, or when its path or a name is not valid.
+    void send(const BusSignal &signal, const QVariantList &arguments);
     /// Calls a method; \p answered gets the reply or the error, and is not called when the bus goes
-    /// away first or was not there.
-    void call(const QDBusMessage &method, const Receiver &answered);
+    /// away first, was not there or had too many messages waiting.
+    void call(const BusCall &call, const Receiver &answered);
 
 Q_SIGNALS:
     /// The bus is there: for the first time or again. Subscriptions are in force.
@@ -65,27 +55,52 @@ Q_SIGNALS:
     void disconnected();
 
 private:
+    /// The clock of the library's deadlines.
+    using Clock = std::chrono::steady_clock;
     struct Subscription
     {
+        MessageBus *bus;
+        int id;
+        BusSignal signal;
         QPointer<QObject> context;
         Receiver received;
+        BusSlot slot{};
+    };
+    struct PendingCall
+    {
+        MessageBus *bus;
+        int id;
+        Receiver answered;
+        BusSlot slot{};
     };
 
-    void startWorker(const QByteArray &address);
-    void setConnected(bool isConnected);
-    void unsubscribe(int id);
-    void deliver(int id, const QDBusMessage &message);
-    void answer(int id, const QDBusMessage &reply);
+    void takeTurn();
+    void open();
+    void close();
+    void process();
+    void awaitEvents();
+    bool hasRoom() const;
+    void follow(Subscription &subscription);
+    void deliverReplies();
+    void deliverSignals();
+    void sayFarewell();
 
-    QHash<int, Subscription> m_subscriptions;
-    QHash<int, Receiver> m_calls;
-    int m_lastId = 0;
+    QByteArray m_addresses;
+    BusHandle m_bus;
+    Clock::time_point m_connectEnd{};
     bool m_isConnected = false;
-    std::shared_ptr<BusOutbox> m_outbox;
-    /// Shared by every bus of the process.
-    std::shared_ptr<QThread> m_thread;
-    /// Lives on m_thread; null when there is no address to connect to.
-    BusWorker *m_worker = nullptr;
+    bool m_hasSent = false;
+    std::unique_ptr<QSocketNotifier> m_readable;
+    std::unique_ptr<QSocketNotifier> m_writable;
+    /// Fires at the next attempt to connect or the next deadline of the connection.
+    QTimer m_turn;
+    QTimer m_pace;
+    int m_lastId = 0;
+    // The library keeps pointers to the elements.
+    std::map<int, Subscription> m_subscriptions;
+    std::map<int, PendingCall> m_calls;
+    QList<std::pair<int, BusMessage>> m_signals;
+    QList<std::pair<Receiver, BusMessage>> m_replies;
 };
 
 } // namespace platform

@@ -9,8 +9,8 @@
 
 namespace platform {
 
-/// A write that is tried again for one and a half seconds while another process holds a lock. The
-/// event loop runs meanwhile.
+/// Repeats a write for up to 1.5 seconds while another process holds a lock, without blocking the
+/// event loop.
 class PatientWrite
 {
 public:
@@ -20,11 +20,11 @@ public:
     PatientWrite();
 
     /// Tries at once and calls \p ended with the first outcome other than Locked, or with the last
-    /// one. \p attempt must not wait. A write that is under way is given up.
+    /// one. \p attempt must not block. Cancels a write that is still in progress.
     void start(Attempt attempt, Ended ended);
-    /// Whether a write is under way.
+    /// Whether a write is in progress.
     bool isWaiting() const { return m_timer.isActive(); }
-    /// Gives it up; nobody is told.
+    /// Cancels the write without calling ended.
     void cancel() { m_timer.stop(); }
 
 private:

@@ -34,8 +34,8 @@ std::optional<QVariantMap> domainFrom(const QByteArray &bytes)
 
 namespace {
 
-/// File times advance with the kernel's tick, at most 10 ms long: a file may change once more
-/// without its times showing it until they are older than this.
+/// File times advance with the kernel's tick, at most 10 ms. Until a file's times are older than
+/// this, it may change once more without a change of its times.
 constexpr qint64 kFreshNanoseconds = 20'000'000;
 constexpr int kMaxLinks = 40;
 constexpr std::chrono::milliseconds kWriteTimeout(1000);
@@ -45,8 +45,8 @@ qint64 nanoseconds(const timespec &time)
     return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
-/// What tells one state of a file from another without opening it. Times in nanoseconds; all zeros
-/// stand for no file.
+/// Identifies one state of a file by its status, without opening it. Times are in nanoseconds; all
+/// zeros mean that there is no file.
 struct Identity
 {
     dev_t device = 0;
@@ -79,15 +79,15 @@ bool isFresh(const Identity &identity)
     return std::abs(nanoseconds(now) - identity.changed) < kFreshNanoseconds;
 }
 
-/// What a writer starts from.
+/// The contents that a write changes.
 struct Stored
 {
     QVariantMap values = {};
     bool isDamaged = false;
 };
 
-/// Reads what the file \p path holds now into \p stored. Fails when something stands there that
-/// cannot be read, or not be written back, and so must not be replaced.
+/// Reads the file \p path into \p stored. Fails when the file cannot be read or holds values that
+/// could not be written back, so that it must not be replaced.
 StoreOutcome readForWriting(const QString &path, Stored &stored)
 {
     struct stat status = {};
@@ -96,7 +96,7 @@ StoreOutcome readForWriting(const QString &path, Stored &stored)
     stored.isDamaged = true;
     if (S_ISREG(status.st_mode) && status.st_size > kSmallFileLimit)
         return {};
-    errno = EISDIR; // what it is, unless opening it fails
+    errno = EISDIR; // not a regular file; kept unless opening it fails with another error
     const auto bytes = readSmallFile(path);
     if (!bytes)
         return outcomeOf(errno, path);
@@ -169,14 +169,14 @@ public:
     bool holdsDictionary() const { return m_holdsDictionary; }
     quint64 generation() const { return m_generation; }
 
-    /// Looks whether the file is still the one that was read, and reads it if not.
+    /// Reads the file again if its identity changed since the last read.
     void refresh()
     {
         const Identity identity = identityOf(m_encodedPath.constData());
         if (m_isSettled && identity == m_identity)
             return;
         const auto bytes = identity.isRegular ? readSmallFile(m_path) : std::nullopt;
-        // For want of a descriptor or of memory a read fails without the file being at fault.
+        // A read also fails when descriptors or memory run out; the file is not at fault then.
         const bool mayBecomeReadable =
             identity.isRegular && identity.size <= kSmallFileLimit && !bytes;
         m_isSettled = !mayBecomeReadable && !isFresh(identity);

@@ -12,57 +12,57 @@
 
 namespace platform {
 
-/// The values of a domain from the \p bytes of its file; none when they are damaged.
+/// Parses the \p bytes of a domain's file; none when they are damaged.
 std::optional<QVariantMap> domainFrom(const QByteArray &bytes);
 
 /// One store of string-keyed, typed values: a property list in a file that several processes share.
 /// A domain object is a cheap handle made for each read or write; parsed contents are shared within
 /// the process and read again only when the file changed. For the main thread only.
 ///
-/// A file that is missing, damaged, not a dictionary, larger than kSmallFileLimit, unreadable or no
-/// regular file at all reads as an empty domain. Reading never waits for anything.
+/// A file that is missing, damaged, not a dictionary, larger than kSmallFileLimit, unreadable or
+/// not a regular file reads as an empty domain. Reading never blocks.
 class PreferenceDomain
 {
 public:
-    /// The domain kept in the file \p path, which need not exist. Of a symbolic link the file it
-    /// leads to is read and replaced, so the link stays.
+    /// The domain stored in the file \p path, which need not exist. Symbolic links are followed for
+    /// reading and writing, so a link is never replaced by a file.
     explicit PreferenceDomain(const QString &path);
 
     QString path() const;
-    /// The file that the path leads to by symbolic links, which need not exist; none for a loop of
-    /// links or for what is no ordinary file.
+    /// The path with symbolic links resolved; that file need not exist. None for a loop of links
+    /// and when something other than a regular file is there.
     std::optional<QString> target() const;
 
     /// The value under \p key; an invalid QVariant when the key, or a readable file, is missing.
-    /// Costs one look at the file's status.
+    /// Costs one stat() of the file.
     QVariant value(const QString &key) const;
 
-    /// All values, for the same one look.
+    /// All values. Costs one stat().
     QVariantMap contents() const;
 
-    /// A number that stands for what the file holds at this moment, for the same one look: it stays
-    /// while the contents do, and another one, never seen in this process before, follows when they
-    /// change. Never 0. A caller that remembers it need not read values again.
+    /// A number that identifies the file's present contents: unchanged while they are, new and
+    /// unique within this process when they change, never 0. A caller that remembers it need not
+    /// read the values again. Costs one stat().
     quint64 generation() const;
 
-    /// Whether the file holds a dictionary, be it an empty one, for the same one look.
+    /// Whether the file holds a dictionary, possibly an empty one. Costs one stat().
     bool holdsDictionary() const;
 
     class WriteLock;
 
-    /// Changes one key (an invalid \p value removes it) and leaves all others as they are in the
-    /// file at that moment, also against other writers. The file is replaced as a whole and flushed
-    /// to the disk before the call returns; when it fails the file stands as it was. Waits for a
-    /// second at most while another process writes, unless this one has a WriteLock.
+    /// Changes one key (an invalid \p value removes it) and keeps all others as they are in the
+    /// file at that moment, also those that other processes have just written. The file is replaced
+    /// atomically and flushed to the disk before the call returns; on failure it is unchanged.
+    /// Waits at most one second while another process writes, and not at all under a WriteLock.
     ///
-    /// The file is XML if that form can hold all its values, else binary. A file that holds what
-    /// neither could give back is not written.
+    /// The file becomes XML if that form can hold all its values, else binary. A file with values
+    /// that neither form could write back is not changed.
     ///
-    /// A damaged file is put aside (see putDamagedAside); what cannot be read at all is never
+    /// A damaged file is kept as a copy (see putDamagedAside); a file that cannot be read is never
     /// replaced.
     [[nodiscard]] StoreOutcome setValue(const QString &key, const QVariant &value) const;
 
-    /// Replaces the whole file by \p contents, as they are, in the same way.
+    /// Replaces all contents of the file by \p contents, in the same way.
     [[nodiscard]] StoreOutcome replaceFile(const QByteArray &contents) const;
 
 private:
@@ -71,12 +71,12 @@ private:
     std::shared_ptr<SharedFile> m_file;
 };
 
-/// Keeps other processes from writing a domain. As long as it lives, this process writes there
-/// without waiting: under this lock, or not at all when the lock was refused.
+/// Keeps other processes from writing a domain. While the object exists, writes of this process to
+/// the domain never wait: they use this lock, and fail when it could not be taken.
 class PreferenceDomain::WriteLock
 {
 public:
-    /// Makes the folder if needed and waits at most \p timeout for other writers.
+    /// Creates the folder if needed and waits at most \p timeout for other writers.
     WriteLock(const PreferenceDomain &domain, std::chrono::milliseconds timeout);
     ~WriteLock();
     Q_DISABLE_COPY_MOVE(WriteLock)

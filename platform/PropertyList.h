@@ -8,12 +8,13 @@
 
 namespace platform::PropertyList {
 
-/// Deeper than this no property list is read or written.
+/// Property lists nested more deeply are neither read nor written.
 inline constexpr int kMaxDepth = 64;
 
-/// What QVariant has no type for, as the bytes of its object in the binary form: references of
+/// An object for which QVariant has no type, as its bytes in the binary form: references of
 /// archives (UID), null, integers of more than 64 bits, dates other than whole seconds of the years
-/// 1 to 9999. No bytes: something that was recognised, but that we could not write back.
+/// 1 to 9999. Without bytes it stands for an object that was recognised but could not be written
+/// back.
 struct ForeignObject
 {
     QByteArray bytes;
@@ -30,10 +31,10 @@ struct ForeignObject
 /// Any bytes may be given: time and memory stay bounded.
 std::optional<QVariant> parse(const QByteArray &bytes);
 
-/// Writes \p value as an XML or binary property list that parse() reads as the same value. Besides
-/// what parse() returns, the narrower numbers are taken. Empty when \p value holds, at any depth,
-/// what the form cannot, or is larger than what parse() reads; the binary form can hold everything
-/// but a ForeignObject without bytes.
+/// Writes \p value as an XML or binary property list that parse() reads as the same value. Accepts
+/// the types that parse() returns and narrower numbers. Empty when \p value contains, at any depth,
+/// something the form cannot hold, or when the result is larger than parse() reads. The binary form
+/// holds everything but a ForeignObject without bytes.
 QByteArray toXml(const QVariant &value);
 QByteArray toBinary(const QVariant &value);
 

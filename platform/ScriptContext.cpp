@@ -11,8 +11,7 @@ namespace platform {
 
 std::unique_ptr<ScriptContext> makeScriptContext(const Bundle &bundle)
 {
-    // The engine stays loaded: its contexts live in views, and their number changes with the
-    // screens.
+    // The engine is never unloaded: views that own contexts come and go with the screens.
     QLibrary engine(bundle.plugInPath(u"script-engine.so"_s));
     using Maker = ScriptContext *(*)();
     const auto make = reinterpret_cast<Maker>(engine.resolve("makeScriptContext"));

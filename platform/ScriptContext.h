@@ -11,14 +11,14 @@ namespace platform {
 
 class Bundle;
 
-/// A script engine with one global object. The engine itself is a module of its own that is loaded
-/// with the first context, so that a program which runs no script has none in memory.
+/// A script engine with one global object. The engine is a plug-in that is loaded with the first
+/// context, so that a program that runs no script does not have it in memory.
 class ScriptContext
 {
 public:
     virtual ~ScriptContext() = default;
 
-    /// Runs \p script in the global scope. A script that fails leaves what it did until then.
+    /// Runs \p script in the global scope. What a script did before it failed stays in effect.
     virtual void evaluate(const QString &script) = 0;
 
     /// The properties of the object that the global function \p function returns for \p numbers;

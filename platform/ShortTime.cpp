@@ -10,8 +10,8 @@ namespace platform {
 QString shortTimeFormat(const QLocale &locale)
 {
     static const QRegularExpression seconds(QStringLiteral("[:.]?s+"));
-    // Chinese in Taiwan names finer parts of the day, by a letter outside quotation marks that the
-    // toolkit would show as it stands; the halves of the day are what it can write and read.
+    // Chinese (Taiwan) has more than two parts of the day, with a format letter that the toolkit
+    // does not know and would print as it is. It can print and parse AM and PM, so those are used.
     static const QRegularExpression partOfDay(QStringLiteral("[Bb]+(?=([^']*'[^']*')*[^']*$)"));
     return locale.timeFormat(QLocale::ShortFormat)
         .remove(seconds)

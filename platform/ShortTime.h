@@ -8,7 +8,7 @@ class QTime;
 
 namespace platform {
 
-/// How \p locale writes an hour and a minute, without the seconds that it may put behind them.
+/// The short time format of \p locale, without the seconds that some locales include.
 QString shortTimeFormat(const QLocale &locale);
 
 /// \p time as the user's language writes it, without seconds: "06:40".

@@ -15,7 +15,7 @@ namespace platform {
 
 namespace {
 
-/// The lock's file in \p folder, which is made if needed.
+/// Path of the lock file in \p folder, which is created if needed.
 QString lockPath(const QString &folder, const QString &name)
 {
     makePrivateFolder(folder);

@@ -12,14 +12,15 @@ namespace platform {
 class DistributedNotifications;
 struct Desktop;
 
-/// A window that the user has at most once, whichever process shows it.
+/// A window of which a user sees at most one, whichever process shows it.
 class SingleWindow
 {
 public:
-    /// \p name tells such windows apart. The objects that \p desktop points to must outlive this.
+    /// \p name identifies the kind of window. The objects that \p desktop points to must outlive
+    /// this.
     SingleWindow(const Desktop &desktop, const QString &name);
 
-    /// Whether no other process shows the window; none will while this object lives.
+    /// Whether this process may show the window; if so, no other may while this object exists.
     bool isOnlyOne() const { return !m_lock.isTaken(); }
     /// Asks the process that shows the window to bring it to the front.
     void bringOtherToFront() const;

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-/// Reads at most one byte over the limit, so that a file which grows meanwhile is noticed.
+/// Reads up to one byte more than the limit, to notice a file that grows while it is read.
 std::optional<QByteArray> readAll(int descriptor)
 {
     QByteArray contents;

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// No file the program reads is legitimately larger; what is larger counts as unreadable.
+/// In bytes. Every valid file of the program is smaller; larger ones count as unreadable.
 inline constexpr qint64 kSmallFileLimit = 1024LL * 1024;
 
 /// The contents of the regular file at \p path (symbolic links are followed). None when it is

@@ -10,14 +10,14 @@ enum class StoreFault {
     None,
     /// Another process holds its lock.
     Locked,
-    /// Its file system has no locks to give.
+    /// Its file system does not support locks.
     NoLocks,
     NotPermitted,
     ReadOnlyDisk,
     DiskFull,
-    /// Something that is no ordinary file stands in its place, or no folder above it.
+    /// Something other than a regular file is in its place, or a parent is not a folder.
     NotAFile,
-    /// What it would hold could not be read again as it is.
+    /// The new contents could not be read back unchanged.
     NotKeepable,
     Other
 };
@@ -26,16 +26,16 @@ enum class StoreFault {
 struct StoreOutcome
 {
     StoreFault fault = StoreFault::None;
-    /// The file at fault; the user's home is not known when it is null.
+    /// The file that failed; null when the user's home folder is unknown.
     QString path;
 
     explicit operator bool() const { return fault == StoreFault::None; }
 
-    /// The fault in one sentence without a capital and a full stop: which file, and why.
+    /// Which file failed and why, as a sentence without initial capital and full stop.
     QString text() const;
 };
 
-/// The outcome of what a system call on \p path said: \p error is its errno, 0 for success.
+/// The outcome of a system call on \p path with errno \p error, 0 for success.
 StoreOutcome outcomeOf(int error, const QString &path);
 
 } // namespace platform

@@ -14,15 +14,16 @@ namespace platform {
 
 namespace {
 
-/// Rows and columns of the picture in which ink is looked for.
+/// Rows and columns of the raster in which ink is looked for.
 constexpr int kInkGrid = 512;
-/// Cells by which a box may be wider than the narrowest of its rows.
+/// How many cells a box may be wider than its narrowest row.
 constexpr int kInkSlack = 10;
-/// Rows and columns of cells: wide against a pixel's margin, narrow against what is between inks.
+/// Rows and columns of the coarse grid. A cell is large compared with the margin of a pixel and
+/// small compared with the gaps between inked parts.
 constexpr int kCells = 32;
 constexpr int kCellSide = kInkGrid / kCells;
 
-/// Cells left to right, the right one exclusive; empty when the row has no ink.
+/// Range of cells in a row, right end exclusive; empty when the row has no ink.
 struct InkRow
 {
     int left = kInkGrid;

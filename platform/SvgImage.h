@@ -11,8 +11,8 @@ class QPainter;
 
 namespace platform {
 
-/// A picture made of vectors: a cheap value, shared between its copies, null when there is no
-/// picture. It is drawn from its shapes at every size, so it is crisp on a thumbnail and on a wall.
+/// A vector picture: a cheap value, shared between its copies, null when there is no picture. It is
+/// rasterised from its shapes at every size, so it is sharp at all sizes.
 class SvgImage
 {
 public:
@@ -29,12 +29,11 @@ public:
     /// into an empty rectangle.
     void draw(QPainter &painter, const QRectF &rect) const;
 
-    /// Boxes that together cover all ink of the picture, tight to about 1/50 of its side, in a
-    /// unit square. Meant for a slender picture whose ink stands upright. Found when first asked
-    /// for.
+    /// Boxes that together cover all ink of the picture, accurate to about 1/50 of its side, in the
+    /// unit square. Meant for narrow, upright ink, such as a hand. Computed on first use.
     const std::vector<QRectF> &inkBoxes() const;
-    /// The same for ink that is scattered over the picture: the cells of a grid that have some,
-    /// those side by side in one box. From top to bottom, from left to right.
+    /// The same for ink all over the picture: the cells of a grid that contain ink, adjacent ones
+    /// of a row joined to one box. From top to bottom, from left to right.
     const std::vector<QRectF> &inkCells() const;
 
     /// Whether both are copies of the same picture.

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Toolkit.h"
 
-#include "platform/BusProbe.h"
+#include "platform/BusConnection.h"
 #include "platform/ExitStatus.h"
 #include "platform/MessageBus.h"
 
 #include <QAccessible>
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDeadlineTimer>
 #include <QFileInfo>
 
@@ -30,7 +29,7 @@ constexpr char kScaleVariable[] = "QT_SCALE_FACTOR";
 constexpr double kSmallestScale = 0.1;
 constexpr double kLargestScale = 16.0;
 
-/// Gives an environment variable another value, and its own back at the end.
+/// Sets an environment variable and restores its old value in the destructor.
 class OtherValue
 {
 public:
@@ -54,36 +53,31 @@ private:
     std::optional<QByteArray> m_before;
 };
 
-/// Removes a scale from the environment at which no window could be shown; the toolkit takes the
-/// number as it is.
+/// Removes a scale at which no window could be shown; the toolkit does not check it.
 void dropUnusableScale()
 {
-    // Not a number is neither above nor below any.
+    // Written so that it also catches NaN.
     const double scale = qgetenv(kScaleVariable).toDouble();
     if (!(scale >= kSmallestScale && scale <= kLargestScale))
         qunsetenv(kScaleVariable);
 }
 
-/// Where the bus of assistive technology listens; empty while there is none, nothing when the
-/// session's bus at \p session or the service there does not tell.
-std::optional<QByteArray> assistiveBus(const QByteArray &session, QDeadlineTimer end)
+/// Address of the bus of assistive technology: empty when there is none, nullopt when the session's
+/// bus or the service on it does not answer.
+std::optional<QByteArray> assistiveBus(sd_bus *session, QDeadlineTimer end)
 {
     const QByteArray given = qgetenv("AT_SPI_BUS_ADDRESS");
     if (!given.isEmpty())
         return given;
-    const QString name = u"assistive technology"_s;
-    auto call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
-                                               u"org.a11y.Bus"_s, u"GetAddress"_s);
-    call.setAutoStartService(false);
-    QDBusMessage reply;
-    {
-        const auto connection = QDBusConnection::connectToBus(QString::fromUtf8(session), name);
-        reply = connection.call(call, QDBus::Block, int(end.remainingTime()));
-    }
-    QDBusConnection::disconnectFromBus(name);
-    if (reply.type() == QDBusMessage::ReplyMessage)
-        return reply.arguments().value(0).toString().toUtf8();
-    const QString error = reply.errorName();
+    const auto reply = callAndWait(
+        session,
+        {u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s, u"GetAddress"_s, {}, false},
+        end);
+    if (!reply)
+        return {};
+    if (!reply->isError())
+        return reply->argument().toString().toUtf8();
+    const QString &error = reply->error;
     return error == "org.freedesktop.DBus.Error.ServiceUnknown"_L1 ||
                    error == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1
                ? std::optional(QByteArray())
@@ -93,17 +87,15 @@ std::optional<QByteArray> assistiveBus(const QByteArray &session, QDeadlineTimer
 bool busesAnswer()
 {
     const QDeadlineTimer end(kBusPatience);
-    const auto session = MessageBus::address(MessageBus::Kind::Session);
-    if (!session || !busAnswers(*session, end))
+    const auto session = connectBefore(MessageBus::addresses(MessageBus::Kind::Session), end);
+    if (!session)
         return false;
-    const auto assistive = assistiveBus(*session, end);
-    if (!assistive || assistive->isEmpty())
-        return assistive.has_value();
-    const auto address = firstUnixBusAddress(*assistive);
-    return address && busAnswers(*address, end);
+    const auto assistive = assistiveBus(session.get(), end);
+    return assistive && (assistive->isEmpty() || connectBefore(*assistive, end));
 }
 
-/// The toolkit asks for its buses late and once: here it asks while there are none.
+/// The toolkit looks for its buses once and remembers the result. This makes it look while the
+/// environment names none.
 std::unique_ptr<QApplication> makeWithoutBuses(int &argc, char **argv)
 {
     const OtherValue session("DBUS_SESSION_BUS_ADDRESS", kNoBus);
@@ -147,9 +139,9 @@ void prepareToolkit()
     qInstallMessageHandler(endIfFatal);
     dropUnusableScale();
     qunsetenv("SESSION_MANAGER");
-    // The plain event loop wakes up and runs at less cost.
+    // Qt's own event loop costs less per wake-up than GLib's.
     qputenv("QT_NO_GLIB", "1");
-    // Without a bus the D-Bus library would launch a daemon of its own that stays behind for ever.
+    // Without a bus the D-Bus library would launch a daemon, which outlives the program.
     const bool hasRuntimeBus =
         QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
     if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") && !hasRuntimeBus)

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-/// A compositor owns a selection for each screen; Qt's windows stand on the first.
+/// A compositor owns one selection per screen; Qt's windows are on the first screen.
 bool hasCompositor(xcb_connection_t *connection)
 {
     const QByteArray name("_NET_WM_CM_S0");
@@ -30,7 +30,7 @@ bool hasCompositor(xcb_connection_t *connection)
 bool blendsWindows()
 {
     static const bool blends = [] {
-        // Other platforms may offer the interface too, and no connection behind it.
+        // Other platforms may offer the interface without a connection.
         if (QGuiApplication::platformName() != QLatin1StringView("xcb"))
             return true;
         const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();

@@ -3,8 +3,8 @@
 
 namespace platform {
 
-/// Whether the desktop blends what is translucent in a window with what lies behind it. Without a
-/// compositor an X server shows it in black. Asked once per process.
+/// Whether the desktop blends translucent windows with what is behind them. Without a compositor an
+/// X server shows translucent areas black. Determined once per process.
 bool blendsWindows();
 
 } // namespace platform

@@ -7,14 +7,14 @@ class QWidget;
 
 namespace platform {
 
-/// Where a popup of \p view may go, in global coordinates: the part of the screen around it that
-/// windows may cover, or, on desktops that do not tell programs where their windows stand, the
-/// view's own window, which the user has on the screen.
+/// The area in which a popup of \p view may be placed, in global coordinates: the available part of
+/// its screen or, on desktops that do not tell programs the positions of their windows, the view's
+/// own window.
 QRect placementBounds(const QWidget *view);
 
-/// The frame of a window that stands at \p frame and shall show \p contentHeight: as high as that,
-/// but lower by 70 than \p screen (the part of it that windows may cover), with its top edge where
-/// it was, unless it would reach below the screen.
+/// The new frame of a window at \p frame that is to show \p contentHeight: that height, but at
+/// least 70 less than the height of \p screen (its available part). The top edge stays unless the
+/// window would extend below the screen.
 QRectF frameOnScreen(const QRectF &frame, double contentHeight, const QRectF &screen);
 
 } // namespace platform

@@ -11,7 +11,7 @@ struct FreedReply
     void operator()(void *reply) const { std::free(reply); }
 };
 
-/// A reply or an error of the X server, which the C library allocates; null where there is none.
+/// A reply or an error of the X server, which XCB allocated with malloc(); null when there is none.
 template <typename T>
 using XcbReply = std::unique_ptr<T, FreedReply>;
 

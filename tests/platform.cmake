@@ -2,7 +2,7 @@ tamsel_test(platform/test_Clocks.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_FramePacer.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_HexColor.cpp LIBS tamsel_platform)
 # What the message buses carry.
-tamsel_test(platform/test_BusProbe.cpp LIBS tamsel_platform)
+tamsel_test(platform/test_MessageBus.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_DistributedNotifications.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_LoginSession.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_Appearance.cpp LIBS tamsel_platform)

@@ -39,7 +39,6 @@ void test_LocationRequest::initTestCase()
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS"));
 }
 
-/// Stands first: a connection that is made once stays.
 void test_LocationRequest::aHungBusIsUnavailable()
 {
     const QByteArray usual = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");

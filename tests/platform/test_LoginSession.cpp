@@ -85,9 +85,8 @@ void test_LoginSession::isActiveWithoutASessionManager()
     QVERIFY(m_bus->start());
     LoginSession session;
     QSignalSpy active(&session, &LoginSession::becameActive);
-    QSignalSpy inactive(&session, &LoginSession::becameInactive);
-    QVERIFY(!inactive.wait(500));
-    QVERIFY(active.isEmpty() && session.isActive());
+    QVERIFY(!active.wait(500));
+    QVERIFY(session.isActive());
 }
 
 void test_LoginSession::followsTheSessionOfTheProcess()
@@ -95,14 +94,12 @@ void test_LoginSession::followsTheSessionOfTheProcess()
     QVERIFY(m_bus->start() && startManager() && putProcessInSession());
     LoginSession session;
     QSignalSpy active(&session, &LoginSession::becameActive);
-    QSignalSpy inactive(&session, &LoginSession::becameInactive);
 
     QVERIFY(setActive(false));
     QTRY_VERIFY(!session.isActive());
     QVERIFY(setActive(true));
     QTRY_VERIFY(session.isActive());
     QCOMPARE(active.size(), 1);
-    QCOMPARE(inactive.size(), 1);
 }
 
 void test_LoginSession::fallsBackToTheSessionOfTheDisplay()
@@ -120,9 +117,8 @@ void test_LoginSession::doesNotBelieveAForgedSignal()
 {
     QVERIFY(m_bus->start() && startManager() && putProcessInSession());
     LoginSession session;
-    QSignalSpy inactive(&session, &LoginSession::becameInactive);
     QVERIFY(setActive(false));
-    QTRY_COMPARE(inactive.size(), 1);
+    QTRY_VERIFY(!session.isActive());
 
     QVERIFY(m_manager->callOn(kSessionPath, "EmitSignal",
                               {"org.freedesktop.DBus.Properties", "PropertiesChanged", "sa{sv}as",

@@ -21,7 +21,7 @@ KNOWS = {
     "location": {"controls", "night", "prefs", "platform"},
 }
 # Windowing systems and buses stay where another system would replace them.
-SYSTEM = re.compile(r'#include\s+[<"](xcb/|X11/|wayland|QDBus|dbus/)')
+SYSTEM = re.compile(r'#include\s+[<"](xcb/|X11/|wayland|QDBus|dbus/|systemd/)')
 OURS = re.compile(r'#include\s+"([a-z]+)/([^"]+)"')
 
 
