@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "clock/ColorBlend.h"
 
-double easedProgress(double p)
-{
-    return p * p * (3.0 - 2.0 * p);
-}
+#include "platform/Easing.h"
 
 QColor blendedColor(const QColor &from, const QColor &to, double p)
 {

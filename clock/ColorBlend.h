@@ -3,9 +3,6 @@
 
 #include <QColor>
 
-/// Smoothstep, p * p * (3 - 2 * p): 0 at 0, 1 at 1, level at both ends.
-double easedProgress(double p);
-
 /// The opaque colour that a cross-fade from \p from to \p to shows at linear progress \p p (0 to
 /// 1): eased, blended per sRGB component. \p to itself when \p from is invalid or the fade is over.
 QColor blendedColor(const QColor &from, const QColor &to, double p);

@@ -2,6 +2,7 @@
 #include "controls/Glide.h"
 
 #include "platform/Clocks.h"
+#include "platform/Easing.h"
 
 #include <algorithm>
 #include <chrono>
@@ -32,5 +33,5 @@ void Glide::tick()
     const bool atEnd = t >= 1.0;
     if (atEnd)
         m_timer.stop();
-    m_step(m_from + (m_to - m_from) * t * t * (3.0 - 2.0 * t), atEnd);
+    m_step(m_from + (m_to - m_from) * easedProgress(t), atEnd);
 }

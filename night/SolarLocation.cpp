@@ -47,8 +47,8 @@ std::optional<double> number(const QVariant &value)
     }
 }
 
-/// Whether the file \p path may hold coordinates, sound or not: it names them, or is too large to
-/// tell.
+/// Whether the file \p path, well-formed or not, may contain coordinates: it contains their keys,
+/// or it is too large to be searched.
 bool mayHoldLocation(const QString &path)
 {
     if (!QFileInfo(path).isFile())
@@ -133,7 +133,7 @@ StoreOutcome SolarLocationStore::forget(std::chrono::milliseconds timeout) const
     return file ? copy : file;
 }
 
-/// No lock is needed: a save that is under way fails, or is made after this.
+/// Needs no lock: a concurrent save either fails or happens after this.
 StoreOutcome SolarLocationStore::forgetFile() const
 {
     if (m_file.path().isEmpty())
@@ -144,7 +144,8 @@ StoreOutcome SolarLocationStore::forgetFile() const
     return file ? leftover : file;
 }
 
-/// A suite that is damaged goes too where it may hold the location: writing puts it aside.
+/// Also removes a damaged suite file that may contain the location; the next write would have
+/// renamed it.
 StoreOutcome SolarLocationStore::forgetCopy(std::chrono::milliseconds timeout) const
 {
     const QString path = m_suite.target().value_or(m_suite.path());

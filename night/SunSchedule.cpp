@@ -6,10 +6,12 @@
 #include "prefs/NightSettings.h"
 
 #include <array>
+#include <utility>
 
 namespace {
 
-/// How one end of the night is stored, and the event of the sun it follows unless that is custom.
+/// The keys under which one end of the night is stored, and the sun event it follows unless its
+/// mode is custom.
 struct NightEnd
 {
     QString modeKey;
@@ -29,7 +31,7 @@ const std::array<NightEnd, 2> &nightEnds()
 
 } // namespace
 
-SunSchedule::SunSchedule(const platform::Desktop &desktop) : m_desktop(desktop)
+SunSchedule::SunSchedule(platform::Desktop desktop) : m_desktop(std::move(desktop))
 {
 }
 

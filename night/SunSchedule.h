@@ -14,7 +14,7 @@ class SunSchedule final : public NightSchedule
 
 public:
     /// The objects that \p desktop points to must outlive the schedule.
-    explicit SunSchedule(const platform::Desktop &desktop);
+    explicit SunSchedule(platform::Desktop desktop);
     ~SunSchedule() override;
 
     /// Without a location, or on a day without a sun time that is needed, there is no night.

@@ -16,8 +16,8 @@ namespace {
 
 constexpr qint64 kLargestFixAge = 300'000; // in milliseconds
 
-/// Numbers are milliseconds since 1970; a day without an event gives null or an invalid date there,
-/// so 0 or no number.
+/// Returns milliseconds since 1970. On a day without an event the script has null or an invalid
+/// date in its place, which become 0 or NaN.
 constexpr QStringView kEventsFunction =
     u"function tamselEvents(ms, lat, lon) { var t=SunCalc.getTimes(new Date(ms),lat,lon); "
     u"return {sunrise:+t.sunrise,sunset:+t.sunset}; }";
@@ -151,7 +151,7 @@ void TamselSolarTimes::refreshCache(const QDateTime &noon)
                         : QVariantMap();
 }
 
-/// Done at the first computation: without one, nothing of the script engine is in memory.
+/// At the first computation, so that a clock without sun times never loads the script engine.
 void TamselSolarTimes::loadScripts()
 {
     if (m_scriptsLoaded)

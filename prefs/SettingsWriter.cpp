@@ -23,7 +23,8 @@ StoreOutcome SettingsWriter::begin()
     return suite;
 }
 
-/// Without the suite a later store must not be changed either: it may be the one that is read.
+/// Stops when the suite cannot be written: a reader may fall back to a later store, which must then
+/// still hold the old value.
 void SettingsWriter::write(std::initializer_list<Store> stores, const QString &key,
                            const QVariant &value)
 {

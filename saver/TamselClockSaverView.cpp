@@ -45,7 +45,7 @@ TamselClockSaverView::TamselClockSaverView(const platform::Desktop &desktop, boo
     m_palette.loadSelectedVariant();
 }
 
-/// The window's end resets the pointer, too, so it must be null by then.
+/// Destroying the sheet destroys its window, whose signal resets the pointer again.
 TamselClockSaverView::~TamselClockSaverView()
 {
     m_options.reset();
@@ -70,7 +70,7 @@ void TamselClockSaverView::animateOneFrame()
     }
     const double ratio = devicePixelRatioF();
     ClockFrame next = frameAt(clocks().now(), ratio);
-    // A surface of another density is empty, and nothing asks to paint it whole.
+    // After a change of density the surface is empty, but no paint event asks for the whole view.
     if (m_shownRatio != ratio)
         update();
     else
@@ -79,8 +79,8 @@ void TamselClockSaverView::animateOneFrame()
     m_shown = std::move(next);
 }
 
-/// Makes the presented picture show this moment and puts what was exposed anew. While the last
-/// frame has not been taken over this is left to the next.
+/// Brings the presented picture up to date and presents the damage, with what was exposed
+/// meanwhile. Skips the frame while the window system may still read the last one.
 void TamselClockSaverView::presentFrame()
 {
     if (!presenter()->isReady())
@@ -106,8 +106,8 @@ bool TamselClockSaverView::isSeen() const
     return ScreenSaverView::isSeen() && (!m_desktop.session || m_desktop.session->isActive());
 }
 
-/// All that the view shows at \p now, the drift held as on screen at \p ratio device pixels per
-/// point.
+/// The frame value for \p now at \p ratio device pixels per point. The slow drift advances only in
+/// visible steps from the frame on screen.
 ClockFrame TamselClockSaverView::frameAt(const QDateTime &now, double ratio) const
 {
     const bool calendar = m_palette.applied().calendarEnabled;
@@ -158,7 +158,7 @@ void TamselClockSaverView::showEvent(QShowEvent *event)
     m_surface.forget();
 }
 
-/// A part that is painted belongs to the frame on screen, which began with painting the whole.
+/// A partial repaint shows the frame on screen; a repaint of the whole view begins a new frame.
 void TamselClockSaverView::paintEvent(QPaintEvent *event)
 {
     if (presenter()) {
@@ -187,7 +187,7 @@ QWidget *TamselClockSaverView::configureSheet()
                 &PaletteOnScreen::loadSelectedVariantAnew);
         connect(m_options.get(), &OptionsSheet::ended, this,
                 &TamselClockSaverView::configurationEnded);
-        // A host may have made the window a child of its own, and destroy it with that.
+        // A host may reparent the window into one of its own and destroy both.
         connect(m_options->window(), &QObject::destroyed, this, [this] { m_options.reset(); });
     }
     return m_options->configureSheet();

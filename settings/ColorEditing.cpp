@@ -19,7 +19,7 @@
 
 namespace {
 
-/// The panel is the whole program's and has one target at a time.
+/// Disconnects the panel, which the whole program shares, from whatever it edited.
 void clearTarget(const QColorDialog &panel)
 {
     QObject::disconnect(&panel, &QColorDialog::currentColorChanged, nullptr, nullptr);
@@ -31,7 +31,7 @@ bool isTextInput(const QWidget *control)
     return qobject_cast<const QLineEdit *>(control) || qobject_cast<const QTimeEdit *>(control);
 }
 
-/// Puts \p panel before every window, above \p sheet for as long as both are there.
+/// Shows \p panel on top and keeps it above \p sheet.
 void bringToFront(QColorDialog &panel, const QWidget *sheet)
 {
     panel.winId(); // makes the native window
@@ -84,7 +84,7 @@ void ColorEditing::setDraftColor(const QColor &color, const QString &key)
     TamselSwatchButton *button = buttonForColorKey(key);
     if (!button)
         return;
-    // Through its text, so that swatch, field and what will be stored are the same colour.
+    // Rounded through its hex text, so that swatch, field and stored value agree.
     button->setSwatchColor(colorFromHexString(hexStringForColor(color)));
     setHexField(fieldForColorKey(key), button->swatchColor());
 }
@@ -133,7 +133,7 @@ void ColorEditing::colorSwatchClicked(TamselSwatchButton *sender)
 
 void ColorEditing::colorPanelChanged(const QColor &color)
 {
-    // A report may come late, when its editor is closed already.
+    // The popover may still report after its editor was closed.
     if (!m_activeColorPanelKey.isNull())
         applyColor(color, m_activeColorPanelKey);
 }
@@ -143,7 +143,7 @@ void ColorEditing::openFullColorPanel()
     if (m_activeColorPanelKey.isNull())
         return;
     QColorDialog &panel = sharedColorPanel();
-    // The panel has no target while it is given its colour, which is no choice of the user's.
+    // Disconnected while its colour is set, which must not count as an edit by the user.
     clearTarget(panel);
     panel.setCurrentColor(draftColorForKey(m_activeColorPanelKey));
     connect(&panel, &QColorDialog::currentColorChanged, this, &ColorEditing::colorPanelChanged);
@@ -157,7 +157,7 @@ void ColorEditing::closeColorPanel()
 {
     disconnect(m_panelCloseObserver);
     if (m_popover) {
-        // This closes it, so its report would only come back here.
+        // Its callback would only call this function again.
         m_popover->dismissed = nullptr;
         m_popover.reset();
     }
@@ -171,7 +171,7 @@ void ColorEditing::closeColorPanel()
 bool ColorEditing::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusOut && m_sheet.configurationSheet) {
-        // While another window or a menu has the keyboard the field is still being edited.
+        // Editing goes on when focus moves to another window or to a menu.
         const auto reason = static_cast<QFocusEvent *>(event)->reason();
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
             controlTextDidEndEditing(watched);
@@ -198,14 +198,14 @@ void ColorEditing::applyHexField(TamselHexField *field)
     QApplication::beep();
 }
 
-/// A button keeps the keyboard: nothing is edited there, and a user of the keys goes on from it.
+/// Buttons keep the focus, so that keyboard users continue from where they are.
 void ColorEditing::endEditing()
 {
     QWidget *focused =
         m_sheet.configurationSheet ? m_sheet.configurationSheet->focusWidget() : nullptr;
     if (!focused || !isTextInput(focused))
         return;
-    // While another window has the keyboard, nothing tells the field that its editing ends.
+    // In an inactive window, clearFocus() sends the field no focus-out event.
     const bool isTold = focused->hasFocus();
     focused->clearFocus();
     if (!isTold)

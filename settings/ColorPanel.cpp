@@ -18,7 +18,7 @@ QPointer<QColorDialog> &panel()
     return panel;
 }
 
-/// The sheet's colours, in which fields stand out from the ground as they do there.
+/// The sheet's palette, with the sheet's background for input fields.
 QPalette paletteOf(const QWidget *dialog)
 {
     QPalette colors = appearanceOf(dialog).palette();
@@ -26,7 +26,7 @@ QPalette paletteOf(const QWidget *dialog)
     return colors;
 }
 
-/// While there still is an application for its window.
+/// A post routine: runs before the application object, which the window needs, is gone.
 void destroyPanel()
 {
     delete panel();

@@ -34,7 +34,7 @@ void selectVariant(const SettingsSheet &sheet, const QString &variant)
         it.value()->setChecked(it.key() == variant);
 }
 
-/// Closes what \p window opened and what would stay behind: a menu, a question.
+/// Closes menus and alerts that \p window opened, which would otherwise stay on screen.
 void closeWindowsOf(const QWidget *window)
 {
     for (QWidget *child : window->findChildren<QWidget *>())
@@ -161,7 +161,7 @@ void OptionsSheet::variantRadioChanged(TamselSwatchButton *sender)
 {
     m_colors->endEditing();
     m_colors->closeColorPanel();
-    // Each swatch switches itself; together they are one choice.
+    // A swatch has toggled itself; exactly the clicked one stays checked.
     selectVariant(m_sheet, sender->objectName());
     updateCustomControlsVisibility();
     showPalette(false);
@@ -184,7 +184,7 @@ void OptionsSheet::nightModeChanged()
 
 void OptionsSheet::previewModeChanged()
 {
-    // A hex field whose editing ends moves the control to its own palette; the user's choice wins.
+    // Ending a hex field's editing selects the palette of that field; keep the user's selection.
     const int segment = m_sheet.previewMode->selectedSegment();
     m_colors->endEditing();
     m_sheet.previewMode->setSelectedSegment(segment);

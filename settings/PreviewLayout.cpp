@@ -3,15 +3,15 @@
 
 namespace {
 
-/// The width all lengths below are designed for; they scale with the preview's.
+/// The preview width for which the lengths below are given; they scale with the width.
 constexpr double kDesignWidth = 344.0;
 constexpr QRectF kClockAlone(85.8, 10.59, 173.726, 173.726);
 constexpr QRectF kClockBesideCalendar(26.0, 30.59, 133.813, 133.813);
 constexpr QRectF kCalendarShown(190.12, 35.23, 132.7, 122.0);
-/// Between the right edge and a calendar that waits outside.
+/// Gap between the right edge and the calendar while it is slid out.
 constexpr double kCalendarGap = 1.0;
 
-/// The curve's time handles; both ends stand still.
+/// The time coordinates of the two control points of the Bezier curve.
 constexpr double kFirstHandle = 0.44;
 constexpr double kSecondHandle = 0.04;
 constexpr int kBisections = 24;

@@ -12,7 +12,7 @@ bool isNightColorKey(const QString &key)
 
 QDateTime dateForMinutes(int minutes)
 {
-    // In winter, when clocks are not set anywhere.
+    // A day without a daylight-saving change in any time zone.
     const QDate anyDay(2024, 1, 15);
     const int hour = minutes / 60;
     return {anyDay, QTime(hour, minutes - hour * 60)};

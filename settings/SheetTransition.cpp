@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetTransition.h"
 
-#include "clock/ColorBlend.h"
+#include "platform/Easing.h"
 #include "settings/SheetLayout.h"
 
 #include <algorithm>

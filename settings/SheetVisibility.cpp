@@ -109,7 +109,7 @@ void SheetVisibility::layoutSettingsDayHeight(double dayHeight, double nightHeig
         sheetFrame(window->geometry(), layout.contentHeight, window->screen()->availableGeometry())
             .toRect();
     m_sheet.settingsScroll->widget()->resize(frame.width(), qRound(layout.contentHeight));
-    // A sheet that is not on screen yet has no place to keep.
+    // Before the window is shown, only its size matters; the window system chooses the position.
     if (window->isVisible())
         window->setGeometry(frame);
     else

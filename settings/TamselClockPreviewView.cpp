@@ -21,11 +21,12 @@ namespace {
 
 constexpr double kFrameInterval = 1.0 / 60.0;
 constexpr double kColorFadeSeconds = 0.28;
-/// Longer than the slide, so that a toggle moved back by this much is over already.
+/// Seconds by which a toggle is dated back for reduced motion: longer than the slide, so that it
+/// has ended.
 constexpr double kReducedMotionShift = 2.0;
 constexpr QRgb kOrange = 0xffff9500;
 
-/// What \p draw paints on an area of \p size points, for a device of \p scale pixels per point.
+/// A pixmap of \p size points at \p scale pixels per point, painted by \p draw.
 template <typename Draw>
 QPixmap pictureOf(const QSize &size, double scale, Draw draw)
 {
@@ -36,7 +37,7 @@ QPixmap pictureOf(const QSize &size, double scale, Draw draw)
     return picture;
 }
 
-/// A picture whose controls are found only while they are shown.
+/// An image whose child controls are exposed only while they are shown.
 class AccessiblePreview final : public QAccessibleWidget
 {
 public:
@@ -76,7 +77,7 @@ void installPreviewAccessibility()
 TamselClockPreviewView::TamselClockPreviewView(const platform::Clocks &clocks, QWidget *parent)
     : QWidget(parent), m_clocks(clocks), m_pacer(0.0, kFrameInterval)
 {
-    // Before its name: a change of that is told at once, through an accessible object that stays.
+    // Before setAccessibleName(), which creates the accessible object that is used from then on.
     installPreviewAccessibility();
     setAccessibleName(QStringLiteral("Clock preview"));
     m_animationTimer.setSingleShot(true);
@@ -172,7 +173,8 @@ void TamselClockPreviewView::beginColorTransition()
 {
     if (!isVisible() || m_artwork.faceImage.isNull())
         return;
-    // A slider brings several colours between two frames; what is seen is still the look kept.
+    // A slider may change the colour several times between two frames: the snapshot taken for the
+    // first change still is what is on screen.
     if (!isFading() || m_transitionSeen) {
         m_transitionImage = pictureOf(size(), devicePixelRatioF(),
                                       [this](QPainter &painter) { drawRect(painter); });
@@ -241,7 +243,7 @@ void TamselClockPreviewView::paintEvent(QPaintEvent *event)
             drawTransition(painter);
         return;
     }
-    // A clip would leave the corners ragged; a filled shape has smooth ones.
+    // Clipping is not antialiased, filling is: so the rounded shape is filled with the picture.
     const double scale = painter.deviceTransform().m11();
     QPixmap picture = pictureOf(size(), scale, [this](QPainter &inside) {
         m_painter.paint(inside, m_shown, rect());

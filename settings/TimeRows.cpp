@@ -35,7 +35,7 @@ constexpr int kRowCenter = 117;
 constexpr double kMenuRadius = 10.0;
 constexpr double kChevronSize = 10.0;
 
-/// The stored mode of row \p row when it follows the sun, which is the event's name as well.
+/// The stored mode of a row that follows the sun; also the name of the sun event.
 QString solarMode(int row)
 {
     return row == 0 ? kNightSunsetMode : kNightSunriseMode;
@@ -163,7 +163,8 @@ void TimeRows::showTimeMenu(TamselTimeMenu *sender)
         menu->addAction(sun.location() ? u"Update Mac location..."_s : u"Use Mac location..."_s,
                         this, [this] { requestSolarLocation(); });
     }
-    // The chosen title lies on the sender's own, or ends just before a bare chevron.
+    // The menu opens with its checked title over the button's title or, on a button without a
+    // title, left of the chevron.
     const int width = QFontMetrics(menu->font()).horizontalAdvance(chosen->text());
     const QPoint title(sender->titleEnd() - width, sender->height() / 2);
     menu->popUpWithTitleAt(chosen, sender->mapToGlobal(title));
