@@ -4,6 +4,7 @@
 #include "clock/ColorBlend.h"
 #include "night/NightSchedule.h"
 #include "platform/Clocks.h"
+#include "platform/Desktop.h"
 #include "platform/HexColor.h"
 #include "prefs/NightSettings.h"
 #include "prefs/SaverPreferences.h"

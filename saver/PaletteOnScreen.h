@@ -2,7 +2,6 @@
 #pragma once
 
 #include "clock/Artwork.h"
-#include "platform/Desktop.h"
 
 #include <QColor>
 #include <QObject>
@@ -10,6 +9,10 @@
 
 class NightSchedule;
 class SaverPreferences;
+
+namespace platform {
+struct Desktop;
+}
 
 /// The palette now loaded.
 struct LoadedPalette
@@ -91,7 +94,7 @@ private:
     void reload(bool nightFlip);
     QColor nightColor(const QString &key) const;
 
-    platform::Desktop m_desktop;
+    const platform::Desktop &m_desktop;
     SaverPreferences &m_preferences;
     NightSchedule &m_schedule;
     LoadedPalette m_palette;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "clock/FramePainter.h"
+#include "platform/Desktop.h"
 #include "platform/ScreenSaverView.h"
 #include "prefs/SaverPreferences.h"
 #include "saver/PaletteOnScreen.h"
@@ -37,7 +38,6 @@ public:
 
     /// Somebody changed a setting, or the session came back: checks at once.
     void screenSaverPreferencesMayHaveChanged() { reloadVariantIfNeeded(); }
-
     bool hasConfigureSheet() const override { return true; }
     /// The options sheet's window, built with the first call; configurationEnded() tells its end.
     QWidget *configureSheet() override;

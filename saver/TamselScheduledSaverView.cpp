@@ -35,25 +35,25 @@ QStringList TamselScheduledSaverView::timeModes() const
     return timeRows() ? timeRows()->timeModes() : QStringList();
 }
 
-void TamselScheduledSaverView::refreshTimeRows()
+void TamselScheduledSaverView::refreshTimeRows() const
 {
     if (timeRows())
         timeRows()->refreshTimeRows();
 }
 
-void TamselScheduledSaverView::showTimeMenu(TamselTimeMenu *sender)
+void TamselScheduledSaverView::showTimeMenu(TamselTimeMenu *sender) const
 {
     if (timeRows())
         timeRows()->showTimeMenu(sender);
 }
 
-void TamselScheduledSaverView::selectTimeMode(const QString &mode, int row)
+void TamselScheduledSaverView::selectTimeMode(const QString &mode, int row) const
 {
     if (timeRows())
         timeRows()->selectTimeMode(mode, row);
 }
 
-void TamselScheduledSaverView::requestSolarLocation()
+void TamselScheduledSaverView::requestSolarLocation() const
 {
     if (timeRows())
         timeRows()->requestSolarLocation();

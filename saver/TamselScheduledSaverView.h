@@ -31,8 +31,8 @@ public:
 
     TimeRows *timeRows() const;
     QStringList timeModes() const;
-    void refreshTimeRows();
-    void showTimeMenu(TamselTimeMenu *sender);
-    void selectTimeMode(const QString &mode, int row);
-    void requestSolarLocation();
+    void refreshTimeRows() const;
+    void showTimeMenu(TamselTimeMenu *sender) const;
+    void selectTimeMode(const QString &mode, int row) const;
+    void requestSolarLocation() const;
 };

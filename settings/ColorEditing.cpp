@@ -79,7 +79,7 @@ QColor ColorEditing::draftColorForKey(const QString &key) const
     return button ? button->swatchColor() : QColor();
 }
 
-void ColorEditing::setDraftColor(const QColor &color, const QString &key)
+void ColorEditing::setDraftColor(const QColor &color, const QString &key) const
 {
     TamselSwatchButton *button = buttonForColorKey(key);
     if (!button)

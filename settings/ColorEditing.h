@@ -30,7 +30,7 @@ public:
     /// Invalid for an unknown key.
     QColor draftColorForKey(const QString &key) const;
     /// Sets a colour of the draft, rounded to what its hex text can say.
-    void setDraftColor(const QColor &color, const QString &key);
+    void setDraftColor(const QColor &color, const QString &key) const;
     static void setHexField(TamselHexField *field, const QColor &color);
 
     /// The colour whose editor is open; null when none is.

@@ -11,6 +11,7 @@
 #include "controls/TamselToggle.h"
 #include "controls/TimePicker.h"
 #include "night/NightSchedule.h"
+#include "platform/Desktop.h"
 #include "platform/HexColor.h"
 #include "prefs/NightSettings.h"
 #include "prefs/SaverPreferences.h"
@@ -167,7 +168,7 @@ void OptionsSheet::variantRadioChanged(TamselSwatchButton *sender)
     showPalette(false);
 }
 
-void OptionsSheet::calendarCheckboxChanged()
+void OptionsSheet::calendarCheckboxChanged() const
 {
     m_sheet.customPreviewView->setCalendarEnabled(m_sheet.calendarCheckbox->isChecked());
     m_sheet.customPreviewView->update();

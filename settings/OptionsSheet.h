@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Desktop.h"
 #include "platform/PatientWrite.h"
 #include "settings/ColorEditing.h"
 #include "settings/SettingsSheet.h"
@@ -15,6 +14,10 @@
 class NightSchedule;
 class SaverPreferences;
 class TimeRows;
+
+namespace platform {
+struct Desktop;
+}
 
 /// The options sheet: a window whose controls hold a draft of the settings, with a live preview.
 /// OK stores the draft, Cancel drops it.
@@ -56,7 +59,7 @@ public:
     // What the controls do.
 
     void variantRadioChanged(TamselSwatchButton *sender);
-    void calendarCheckboxChanged();
+    void calendarCheckboxChanged() const;
     void nightModeChanged();
     void previewModeChanged();
     void scheduleChanged() { validateSchedule(); }
@@ -81,7 +84,7 @@ private:
     platform::StoreOutcome storeDraft();
     void endSave(const platform::StoreOutcome &outcome);
 
-    platform::Desktop m_desktop;
+    const platform::Desktop &m_desktop;
     SaverPreferences &m_preferences;
     NightSchedule &m_schedule;
     SettingsSheet m_sheet;

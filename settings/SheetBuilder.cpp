@@ -96,12 +96,12 @@ private:
     void addVariantSwatches();
     void addCalendarGroup(QWidget *document);
     void addNightGroup(QWidget *document);
-    TimePicker *addTimeRow(int row, const QString &title, const QString &name);
+    TimePicker *addTimeRow(int row, const QString &title, const QString &name) const;
     void addActions(QWidget *document);
 
-    TamselToggle *toggle(const QString &name, QWidget *group);
+    TamselToggle *toggle(const QString &name, QWidget *group) const;
     TamselSettingsView *colorControlsNight(bool night, QWidget *group);
-    TamselSymbolButton *swapButton(bool night, QWidget *rows);
+    TamselSymbolButton *swapButton(bool night, QWidget *rows) const;
     void addColorControls(const QString &key, QPoint offset, QWidget *rows);
 
     SettingsSheet &m_sheet;
@@ -184,7 +184,7 @@ void SheetBuilder::addNightGroup(QWidget *document)
     m_sheet.nightToPicker = addTimeRow(1, u"To"_s, u"Night mode ends at"_s);
 }
 
-TimePicker *SheetBuilder::addTimeRow(int row, const QString &title, const QString &name)
+TimePicker *SheetBuilder::addTimeRow(int row, const QString &title, const QString &name) const
 {
     const QPoint offset(0, kRowPitch * row);
     addSettingsDividerAt(kTimeRowsTop + offset.y(), m_sheet.nightControls);
@@ -195,7 +195,7 @@ TimePicker *SheetBuilder::addTimeRow(int row, const QString &title, const QStrin
     return picker;
 }
 
-TamselToggle *SheetBuilder::toggle(const QString &name, QWidget *group)
+TamselToggle *SheetBuilder::toggle(const QString &name, QWidget *group) const
 {
     auto *toggle = new TamselToggle(*m_desktop.clocks, group);
     toggle->setGeometry(kToggleFrame);
@@ -220,7 +220,7 @@ TamselSettingsView *SheetBuilder::colorControlsNight(bool night, QWidget *group)
     return rows;
 }
 
-TamselSymbolButton *SheetBuilder::swapButton(bool night, QWidget *rows)
+TamselSymbolButton *SheetBuilder::swapButton(bool night, QWidget *rows) const
 {
     const platform::Bundle &bundle = m_desktop.bundle;
     auto *connector = new ConnectorView(

@@ -89,14 +89,14 @@ void SheetVisibility::stop()
     m_wasLaidOut = false;
 }
 
-void SheetVisibility::apply(const SheetState &state)
+void SheetVisibility::apply(const SheetState &state) const
 {
     applyRows(state.day, m_sheet.dayColorControls);
     applyRows(state.night, m_sheet.nightControls);
     layoutSettingsDayHeight(state.day.groupHeight, state.night.groupHeight);
 }
 
-void SheetVisibility::layoutSettingsDayHeight(double dayHeight, double nightHeight)
+void SheetVisibility::layoutSettingsDayHeight(double dayHeight, double nightHeight) const
 {
     const SheetLayout layout = sheetLayout(dayHeight, nightHeight);
     m_sheet.themeGroup->setGeometry(layout.themeGroup.toRect());

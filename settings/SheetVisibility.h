@@ -25,7 +25,7 @@ public:
     /// sees it and has not asked for less motion.
     void updateCustomControlsVisibility(const QString &variant);
     /// Places the groups for these heights and gives the window the height they need.
-    void layoutSettingsDayHeight(double dayHeight, double nightHeight);
+    void layoutSettingsDayHeight(double dayHeight, double nightHeight) const;
 
     /// Ends a movement where it is. The next change does not move.
     void stop();
@@ -35,7 +35,7 @@ public:
 
 private:
     void move();
-    void apply(const SheetState &state);
+    void apply(const SheetState &state) const;
 
     const SettingsSheet &m_sheet;
     const platform::Clocks &m_clocks;

@@ -16,6 +16,7 @@
 #include "night/TamselSolarTimes.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
+#include "platform/Desktop.h"
 #include "platform/ShortTime.h"
 #include "prefs/NightSettings.h"
 #include "settings/ColorEditing.h"
@@ -181,7 +182,7 @@ void TimeRows::selectTimeMode(const QString &mode, int row)
         pickerOf(m_sheet, row)->setFocus(Qt::OtherFocusReason);
 }
 
-void TimeRows::requestSolarLocation()
+void TimeRows::requestSolarLocation() const
 {
     QProcess companion;
     companion.setProgram(m_desktop.bundle.helperPath(u"Pelko Location.app"_s));
@@ -193,7 +194,7 @@ void TimeRows::requestSolarLocation()
     alert->present();
 }
 
-bool TimeRows::askForMissingLocation()
+bool TimeRows::askForMissingLocation() const
 {
     const TamselSolarTimes &sun = *m_schedule.solarTimes();
     if (!sun.persistent() || !m_sheet.nightSwitch->isChecked() || !followSun() || sun.location())

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Desktop.h"
-
 #include <QList>
 #include <QMenu>
 #include <QObject>
@@ -15,6 +13,10 @@ class NightSchedule;
 class TamselTimeInput;
 class TamselTimeMenu;
 struct SettingsSheet;
+
+namespace platform {
+struct Desktop;
+}
 
 /// The From row (0) and the To row (1) of an options sheet whose night may follow the sun: beside
 /// each time picker a menu that chooses between the sun's time and the picker's.
@@ -41,10 +43,10 @@ public:
     /// Chooses \p mode for the row \p row. Does nothing without the sheet's window.
     void selectTimeMode(const QString &mode, int row);
     /// Opens the companion program that saves the location; what fails is told on the sheet.
-    void requestSolarLocation();
+    void requestSolarLocation() const;
     /// Asks the user for a location when the draft's night needs one and none is saved. Whether it
     /// asked.
-    bool askForMissingLocation();
+    bool askForMissingLocation() const;
 
     TamselTimeMenu *timeMenu(int row) const { return m_timeMenus.at(row); }
     /// The menu on screen; null when none is.
@@ -60,7 +62,7 @@ private:
     QString timeRowToolTip(int row);
 
     const SettingsSheet &m_sheet;
-    platform::Desktop m_desktop;
+    const platform::Desktop &m_desktop;
     NightSchedule &m_schedule;
     ColorEditing &m_colors;
     QStringList m_timeModes;
