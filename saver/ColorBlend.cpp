@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "saver/ColorBlend.h"
 
+#include <QRgba64>
+
+QRgb shownColor(const QColor &color)
+{
+    return color.rgba64().toArgb32();
+}
+
 double easedProgress(double p)
 {
     return p * p * (3.0 - 2.0 * p);

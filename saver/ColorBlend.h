@@ -3,6 +3,9 @@
 
 #include <QColor>
 
+/// \p color as a surface with eight bits a channel shows it.
+QRgb shownColor(const QColor &color);
+
 /// Smoothstep, p * p * (3 - 2 * p): 0 at 0, 1 at 1, level at both ends.
 double easedProgress(double p);
 
