@@ -55,8 +55,12 @@ protected:
 
 private:
     void track(const QMouseEvent &event);
+    QBrush trackBrush(const QRectF &track, double scale) const;
     void drawTrack(QPainter &painter, const QRectF &track) const;
-    void drawKnob(QPainter &painter, const QRectF &track) const;
+    void drawKnob(QPainter &painter) const;
+    QPointF knobCentre() const;
+    QRect knobArea() const;
+    void select(Component part, double &selected, double value);
 
     int m_component = Hue;
     double m_selectedHue = 0.0;

@@ -6,6 +6,7 @@
 #include "platform/PatientWrite.h"
 #include "settings/SheetTransition.h"
 
+#include <QColor>
 #include <QHash>
 #include <QString>
 #include <QTimer>
@@ -38,6 +39,8 @@ struct SettingsSheet
     QScrollArea *settingsScroll = nullptr;
 
     TamselClockPreviewView *customPreviewView = nullptr;
+    /// Of the recoloured artwork that the preview shows; invalid while it shows another.
+    QColor previewArtworkColor;
     TamselModeControl *previewMode = nullptr;
 
     TamselSettingsView *themeGroup = nullptr;

@@ -165,7 +165,7 @@ bool TamselClockSaverView::validateSchedule()
 
 void TamselClockSaverView::updateSettingsPreview()
 {
-    const SettingsSheet &s = *m_sheet;
+    SettingsSheet &s = *m_sheet;
     TamselClockPreviewView &preview = *s.customPreviewView;
     preview.beginColorTransition();
     const bool showNight =
@@ -176,15 +176,17 @@ void TamselClockSaverView::updateSettingsPreview()
         preview.setBackgroundColor(
             draftColorForKey(showNight ? kNightBaseColorKey : kBaseColorKey));
         preview.setMarkColor(mark);
-        preview.setArtwork(customArtwork(mark));
+        if (s.previewArtworkColor != mark)
+            preview.setArtwork(customArtwork(mark));
+        s.previewArtworkColor = mark;
     } else {
         preview.setBackgroundColor(backgroundColors().value(variant));
         preview.setMarkColor(markColorOf(variant));
         preview.setArtwork(artworkForVariant(variant));
+        s.previewArtworkColor = {};
     }
     preview.setCalendarEnabled(s.calendarCheckbox->isChecked());
     s.previewMode->setInk(inkForLuminance(luminance(preview.backgroundColor())));
-    preview.update();
 }
 
 void TamselClockSaverView::saveConfiguration()
