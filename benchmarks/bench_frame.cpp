@@ -40,30 +40,36 @@ void plainFill(benchmark::State &state)
         painter.fillRect(surface.rect(), QColor(0xff, 0x46, 0x00));
 }
 
-void frame(benchmark::State &state, bool tinted)
+void frame(benchmark::State &state)
 {
     QImage surface(sizeOf(state), QImage::Format_RGB32);
     QPainter painter(&surface);
-    ClockFrame shown = frameOf(surface.size());
-    shown.tinted = tinted;
+    const ClockFrame shown = frameOf(surface.size());
     FrameScratch scratch;
     for (auto _ : state)
         drawFrame(painter, shown, scratch);
 }
 
-/// The next frame by the caching painter: the whole frame or only what changed.
-void paint(benchmark::State &state, bool whole)
+enum class Area { Whole, Changed };
+
+/// The next frame by the caching painter: the whole frame or only what changed; in a fade with
+/// other colours.
+void paint(benchmark::State &state, Area area, bool isFading)
 {
     QImage surface(sizeOf(state), QImage::Format_RGB32);
     QPainter painter(&surface);
     ClockFrame shown = frameOf(surface.size());
+    shown.tinted = isFading;
     FramePainter framePainter;
     framePainter.paint(painter, shown, surface.rect());
     qsizetype pixels = 0;
     for (auto _ : state) {
         ClockFrame next = shown;
         next.angles.second += kDegreesPerFrame;
-        const QRegion damage = whole ? QRegion(surface.rect()) : frameDamage(shown, next, 1.0);
+        if (isFading)
+            next.background.setBlue((shown.background.blue() + 1) % 256);
+        const QRegion damage =
+            area == Area::Whole ? QRegion(surface.rect()) : frameDamage(shown, next, 1.0);
         framePainter.paint(painter, next, damage);
         shown = next;
         for (const QRect &rect : damage)
@@ -88,8 +94,8 @@ void sizes(benchmark::internal::Benchmark *benchmark)
 } // namespace
 
 BENCHMARK(plainFill)->Apply(sizes);
-BENCHMARK_CAPTURE(frame, plain, false)->Apply(sizes);
-BENCHMARK_CAPTURE(frame, fading, true)->Apply(sizes);
-BENCHMARK_CAPTURE(paint, whole, true)->Apply(sizes);
-BENCHMARK_CAPTURE(paint, steady, false)->Apply(sizes);
+BENCHMARK(frame)->Apply(sizes);
+BENCHMARK_CAPTURE(paint, whole, Area::Whole, false)->Apply(sizes);
+BENCHMARK_CAPTURE(paint, steady, Area::Changed, false)->Apply(sizes);
+BENCHMARK_CAPTURE(paint, fading, Area::Changed, true)->Apply(sizes);
 BENCHMARK(artworkLoad)->Unit(benchmark::kMicrosecond);

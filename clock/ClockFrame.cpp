@@ -5,7 +5,7 @@
 
 namespace {
 
-void drawClock(QPainter &painter, const ClockFrame &frame)
+void drawLayers(QPainter &painter, const ClockFrame &frame)
 {
     const Artwork &artwork = frame.artwork;
     artwork.faceImage.draw(painter, frame.clockRect);
@@ -28,7 +28,7 @@ void drawTintedClock(QPainter &painter, const ClockFrame &frame, QImage &layer)
 
     QPainter layerPainter(&layer);
     layerPainter.setTransform(toDevice * QTransform::fromTranslate(-area.x(), -area.y()));
-    drawClock(layerPainter, frame);
+    drawLayers(layerPainter, frame);
     layerPainter.resetTransform();
     layerPainter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     layerPainter.fillRect(layer.rect(), frame.mark);
@@ -40,15 +40,20 @@ void drawTintedClock(QPainter &painter, const ClockFrame &frame, QImage &layer)
 
 } // namespace
 
+void drawClock(QPainter &painter, const ClockFrame &frame, QImage &layer)
+{
+    if (frame.tinted) {
+        drawTintedClock(painter, frame, layer);
+    } else {
+        layer = {};
+        drawLayers(painter, frame);
+    }
+}
+
 void drawFrame(QPainter &painter, const ClockFrame &frame, FrameScratch &scratch)
 {
     painter.fillRect(frame.bounds, frame.background);
-    if (frame.tinted) {
-        drawTintedClock(painter, frame, scratch.layer);
-    } else {
-        scratch.layer = {};
-        drawClock(painter, frame);
-    }
+    drawClock(painter, frame, scratch.layer);
     if (frame.calendar) {
         scratch.calendar.draw(painter, frame.background, frame.mark, frame.calendar->month,
                               frame.calendar->rect);

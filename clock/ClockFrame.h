@@ -42,5 +42,8 @@ struct FrameScratch
     CalendarPicture calendar;
 };
 
+/// Draws the clock of \p frame alone; \p layer is where a tinted one is composed.
+void drawClock(QPainter &painter, const ClockFrame &frame, QImage &layer);
+
 /// Draws \p frame.
 void drawFrame(QPainter &painter, const ClockFrame &frame, FrameScratch &scratch);

@@ -3,6 +3,13 @@
 
 #include "platform/Easing.h"
 
+#include <QRgba64>
+
+QRgb shownColor(const QColor &color)
+{
+    return color.rgba64().toArgb32();
+}
+
 QColor blendedColor(const QColor &from, const QColor &to, double p)
 {
     if (!from.isValid() || p >= 1.0)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "clock/FrameDamage.h"
 
+#include "clock/ColorBlend.h"
+
 #include <QTransform>
 #include <QVarLengthArray>
 #include <QtMath>
@@ -153,9 +155,9 @@ QRect wholeView(const ClockFrame &frame, double ratio)
 
 bool sameApartFromPlaces(const ClockFrame &a, const ClockFrame &b)
 {
-    return a.bounds == b.bounds && a.background == b.background && a.mark == b.mark &&
-           a.artwork == b.artwork && a.tinted == b.tinted &&
-           a.calendar.has_value() == b.calendar.has_value() &&
+    return a.bounds == b.bounds && shownColor(a.background) == shownColor(b.background) &&
+           shownColor(a.mark) == shownColor(b.mark) && a.artwork == b.artwork &&
+           a.tinted == b.tinted && a.calendar.has_value() == b.calendar.has_value() &&
            (!a.calendar || a.calendar->month == b.calendar->month);
 }
 
@@ -256,8 +258,6 @@ QRegion secondHandWay(const ClockFrame &shown, const ClockFrame &next, double de
 QRegion frameDamage(const ClockFrame &shown, const ClockFrame &next, double ratio)
 {
     const QRect whole = wholeView(next, ratio);
-    if (next.tinted)
-        return whole;
     if (!sameApartFromHands(shown, next)) {
         return sameApartFromPlaces(shown, next) ? movedInk(shown, next, ratio) & whole : whole;
     }

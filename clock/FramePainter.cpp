@@ -25,12 +25,11 @@ void FramePainter::paint(QPainter &painter, const ClockFrame &frame, const QRegi
     painter.restore();
 }
 
-/// Makes the picture show \p frame. False when none is kept: in a fade, in a turned painter,
-/// without memory.
+/// Makes the picture show \p frame. False when none is kept: in a turned painter, without memory.
 bool FramePainter::keepPicture(const ClockFrame &frame, const QTransform &toDevice)
 {
     const QRect area = toDevice.mapRect(frame.bounds).toAlignedRect();
-    if (frame.tinted || toDevice.type() > QTransform::TxScale)
+    if (toDevice.type() > QTransform::TxScale)
         dropMemory();
     else if (m_memory.picture.size() != area.size())
         makeMemory(area.size());

@@ -4,7 +4,7 @@
 #include "clock/FrameSurface.h"
 
 /// Paints frames to the same pixels as drawFrame(), but by copying from a picture of its own that
-/// is only mended from frame to frame. While a fade runs there is no such picture.
+/// is only mended from frame to frame.
 class FramePainter
 {
 public:

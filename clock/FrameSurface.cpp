@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "clock/FrameSurface.h"
 
+#include "clock/ColorBlend.h"
 #include "clock/FrameDamage.h"
 
 #include <QPainter>
@@ -12,8 +13,16 @@ constexpr double kLaneDegrees = 6.0;
 
 bool sameStill(const ClockFrame &a, const ClockFrame &b)
 {
-    return !a.tinted && sameApartFromHands(a, b) && a.angles.hour == b.angles.hour &&
+    return sameApartFromHands(a, b) && a.angles.hour == b.angles.hour &&
            a.angles.minute == b.angles.minute;
+}
+
+/// \p frame in the two colours that a silhouette is taken from.
+ClockFrame whiteOnBlack(ClockFrame frame)
+{
+    frame.background = Qt::black;
+    frame.mark = Qt::white;
+    return frame;
 }
 
 } // namespace
@@ -53,8 +62,11 @@ void SecondHand::draw(std::span<const platform::PixelBlock> strips, const ClockF
     }
     QTransform place = QTransform::fromTranslate(clock.center().x(), clock.center().y());
     place.rotate(frame.angles.second);
-    for (const Shape &shape : *m_shapes)
-        m_fill.fill(strips, shape.outlines, place, shape.rule, shape.color, m_covered);
+    for (const Shape &shape : *m_shapes) {
+        // One of a colour over another of it, each by its coverage: the same as a flat silhouette.
+        const QRgb color = frame.tinted ? shownColor(frame.mark) : shape.color;
+        m_fill.fill(strips, shape.outlines, place, shape.rule, color, m_covered);
+    }
 }
 
 void SecondHand::drawByQt(const platform::PixelBlock &strip, const ClockFrame &frame,
@@ -66,7 +78,11 @@ void SecondHand::drawByQt(const platform::PixelBlock &strip, const ClockFrame &f
     QPainter painter(&image);
     painter.setTransform(toDevice *
                          QTransform::fromTranslate(-strip.rect.left(), -strip.rect.top()));
-    drawImage(painter, frame.artwork.secondImage, frame.clockRect, frame.angles.second);
+    ClockFrame hand = frame;
+    hand.artwork = {};
+    hand.artwork.secondImage = frame.artwork.secondImage;
+    QImage layer;
+    drawClock(painter, hand, layer);
 }
 
 QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &frame,
@@ -80,34 +96,66 @@ QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &fram
     if (damage.isEmpty())
         return damage;
     const bool isSteady = isKnown && sameStill(*m_shown, frame);
-    if (!isSteady) {
-        ClockFrame still = frame;
-        if (!frame.tinted)
-            still.artwork.secondImage = {};
-        QPainter painter(&picture);
-        painter.setClipRegion(damage);
-        painter.setTransform(toDevice);
-        drawFrame(painter, still, m_scratch);
-    }
-    if (isSteady && m_lane.covers(damage)) {
+    if (isSteady) {
         m_secondHand.takeOff();
     } else {
         m_secondHand.forget();
-        m_lane.clear();
-        if (!frame.tinted) {
-            m_lane.lay(
-                platform::blockOf(picture), memory.room,
-                secondHandWay(isKnown ? *m_shown : frame, frame, kLaneDegrees, toDevice.m11()) &
-                    picture.rect());
-        }
+        const bool sameShapes = isKnown && sameStill(whiteOnBlack(*m_shown), whiteOnBlack(frame));
+        ClockFrame still = frame;
+        still.artwork.secondImage = {};
+        if (frame.tinted)
+            drawFading(picture, still, toDevice, sameShapes);
+        else
+            drawStill(picture, still, toDevice, damage);
     }
-    if (!frame.tinted)
-        m_secondHand.draw(m_lane.strips(), frame, toDevice);
+    if (!isSteady || !m_lane.covers(damage))
+        layLane(memory,
+                secondHandWay(isKnown ? *m_shown : frame, frame, kLaneDegrees, toDevice.m11()),
+                frame.tinted);
+    m_secondHand.draw(m_lane.strips(), frame, toDevice);
     m_shown = frame;
     m_toDevice = toDevice;
     m_room = memory.room;
     m_size = picture.size();
     return damage;
+}
+
+void FrameSurface::drawStill(QImage &picture, const ClockFrame &still, const QTransform &toDevice,
+                             const QRegion &damage)
+{
+    m_silhouette.clear();
+    QPainter painter(&picture);
+    painter.setClipRegion(damage);
+    painter.setTransform(toDevice);
+    drawFrame(painter, still, m_scratch);
+}
+
+/// Whatever is drawn in a fade, every pixel is a mixture of its two colours. How much of each does
+/// not change as they do, so it is drawn once.
+void FrameSurface::drawFading(QImage &picture, const ClockFrame &still, const QTransform &toDevice,
+                              bool sameShapes)
+{
+    if (!sameShapes) {
+        picture.fill(Qt::black);
+        QPainter painter(&picture);
+        painter.setTransform(toDevice);
+        drawFrame(painter, whiteOnBlack(still), m_scratch);
+        painter.end();
+        m_scratch.layer = {};
+        m_silhouette.take(picture);
+    }
+    m_silhouette.paint(platform::blockOf(picture), shownColor(still.background),
+                       shownColor(still.mark));
+}
+
+/// In a fade the hand is drawn where the whole picture is about to be copied from.
+void FrameSurface::layLane(platform::FrameMemory &memory, const QRegion &way, bool isFading)
+{
+    const QRegion area = way & memory.picture.rect();
+    if (isFading)
+        m_lane.leave(platform::blockOf(memory.picture), area);
+    else
+        m_lane.lay(platform::blockOf(memory.picture), memory.room, area);
 }
 
 std::span<const platform::PixelBlock> FrameSurface::blocks(platform::FrameMemory &memory,

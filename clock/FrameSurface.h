@@ -3,6 +3,7 @@
 
 #include "clock/ClockFrame.h"
 #include "clock/HandLane.h"
+#include "clock/Silhouette.h"
 #include "platform/FramePresenter.h"
 #include "platform/PolygonFill.h"
 #include "platform/SolidShapes.h"
@@ -66,14 +67,22 @@ public:
     void forget();
 
 private:
+    void drawStill(QImage &picture, const ClockFrame &still, const QTransform &toDevice,
+                   const QRegion &damage);
+    void drawFading(QImage &picture, const ClockFrame &still, const QTransform &toDevice,
+                    bool sameShapes);
+    void layLane(platform::FrameMemory &memory, const QRegion &way, bool isFading);
+
     std::optional<ClockFrame> m_shown;
     QTransform m_toDevice;
     const QRgb *m_room = nullptr;
     QSize m_size;
-    /// The picture is without the second hand, which is drawn in its lane. In a fade the picture
-    /// has it, and there is no lane.
+    /// The picture is without the second hand, which is drawn in its lane. In a fade the lane is
+    /// part of the picture.
     HandLane m_lane;
     SecondHand m_secondHand;
+    /// In a fade, all but the second hand.
+    Silhouette m_silhouette;
     std::vector<platform::PixelBlock> m_blocks;
     FrameScratch m_scratch;
 };

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QWindow>
 
@@ -211,10 +212,10 @@ void Popover::contextMenuEvent(QContextMenuEvent *event)
     QCoreApplication::sendEvent(pressed, &again);
 }
 
-void Popover::paintEvent(QPaintEvent *)
+void Popover::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    drawPanel(painter, this, kRadius);
+    drawPanel(painter, this, kRadius, event->rect());
 }
 
 void Popover::reportOnce()

@@ -13,6 +13,9 @@
 
 namespace {
 constexpr double kEdgeAlpha = 0.16;
+constexpr int kEdgeWidth = 1;
+/// How far a corner's arc stays from its sides, of the radius: 1 - sqrt(1/2), rounded up.
+constexpr double kArcReach = 0.3;
 } // namespace
 
 QRegion roundedShape(const QSize &size, double radius)
@@ -40,18 +43,23 @@ void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QCo
     painter.drawRoundedRect(rect, radius, radius);
 }
 
-void drawPanel(QPainter &painter, const QWidget *panel, double radius)
+void drawPanel(QPainter &painter, const QWidget *panel, double radius, const QRect &area)
 {
     const platform::Appearance &appearance = appearanceOf(panel);
-    const QRectF area = panel->rect();
+    const int inset = kEdgeWidth + static_cast<int>(std::ceil(kArcReach * radius));
+    if (panel->rect().adjusted(inset, inset, -inset, -inset).contains(area)) {
+        painter.fillRect(area, appearance.windowBackgroundColor());
+        return;
+    }
+    const QRectF whole = panel->rect();
     const QColor edge = withAlpha(appearance.labelColor(), kEdgeAlpha);
     if (!platform::blendsWindows()) {
         // The corner pixels that the window mask keeps take the colour of the edge.
-        painter.fillRect(area, appearance.windowBackgroundColor());
-        painter.fillRect(area, edge);
+        painter.fillRect(whole, appearance.windowBackgroundColor());
+        painter.fillRect(whole, edge);
     }
-    fillRounded(painter, area, radius, appearance.windowBackgroundColor());
-    painter.setPen(QPen(edge, 1.0));
+    fillRounded(painter, whole, radius, appearance.windowBackgroundColor());
+    painter.setPen(QPen(edge, kEdgeWidth));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
+    painter.drawRoundedRect(whole.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
 }

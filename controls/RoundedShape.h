@@ -6,6 +6,7 @@
 
 class QColor;
 class QPainter;
+class QRect;
 class QRectF;
 class QWidget;
 
@@ -18,5 +19,6 @@ QRegion roundedShape(const QSize &size, double radius);
 void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QColor &color);
 
 /// Draws the background of the floating window \p panel: the window colour with a faint edge, which
-/// separates it from a window of the same colour below.
-void drawPanel(QPainter &painter, const QWidget *panel, double radius);
+/// separates it from a window of the same colour below. \p area is what must be drawn; more may be
+/// drawn.
+void drawPanel(QPainter &painter, const QWidget *panel, double radius, const QRect &area);

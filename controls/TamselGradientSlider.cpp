@@ -10,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace {
@@ -64,12 +65,22 @@ TamselGradientSlider::TamselGradientSlider(QWidget *parent) : QWidget(parent)
     });
 }
 
+/// A track shows all values of its own component, so only the other components change it, and those
+/// of the hue show no selected colour.
+void TamselGradientSlider::select(Component part, double &selected, double value)
+{
+    if (selected != value && m_component != Hue && m_component != part)
+        update();
+    selected = value;
+}
+
 void TamselGradientSlider::setDoubleValue(double value)
 {
+    update(knobArea());
     m_doubleValue = std::clamp(value, minValue(), maxValue());
     QAccessibleValueChangeEvent event(this, m_doubleValue);
     QAccessible::updateAccessibility(&event);
-    update();
+    update(knobArea());
 }
 
 QColor TamselGradientSlider::colorAtValue(double value) const
@@ -94,35 +105,60 @@ void TamselGradientSlider::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF track = QRectF(rect()).marginsRemoved(kTrackInset);
-    drawTrack(painter, track);
-    drawKnob(painter, track);
+    drawTrack(painter, QRectF(rect()).marginsRemoved(kTrackInset));
+    drawKnob(painter);
 }
 
-void TamselGradientSlider::drawTrack(QPainter &painter, const QRectF &track) const
+/// The track's colours as a picture of one row, repeated downwards: Qt would share out a gradient's
+/// rows among threads, which costs more than drawing them.
+QBrush TamselGradientSlider::trackBrush(const QRectF &track, double scale) const
 {
-    QLinearGradient gradient(track.topLeft(), track.topRight());
+    QLinearGradient gradient(track.left(), 0.0, track.right(), 0.0);
     const int segments = m_component == Hue ? kHueSegments : 1;
     for (int i = 0; i <= segments; ++i) {
         const double value = static_cast<double>(i) / segments;
         gradient.setColorAt(value, colorAtValue(value));
     }
+    QImage row(static_cast<int>(std::ceil(width() * scale)), 1, QImage::Format_RGB32);
+    QPainter painter(&row);
+    painter.scale(scale, 1.0);
+    painter.fillRect(rect(), gradient);
+    painter.end();
+    QBrush brush(row);
+    brush.setTransform(QTransform::fromScale(1.0 / scale, 1.0));
+    return brush;
+}
+
+void TamselGradientSlider::drawTrack(QPainter &painter, const QRectF &track) const
+{
     const double radius = track.height() / 2.0;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(gradient);
+    painter.setBrush(trackBrush(track, painter.deviceTransform().m11()));
     painter.drawRoundedRect(track, radius, radius);
     painter.setPen(QPen(withAlpha(Qt::white, kOutlineAlpha), 1.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(track, radius, radius);
 }
 
-void TamselGradientSlider::drawKnob(QPainter &painter, const QRectF &track) const
+QPointF TamselGradientSlider::knobCentre() const
 {
-    const QPointF centre(m_doubleValue * (width() - 2.0 * kKnobReach) + kKnobReach,
-                         track.center().y());
+    const QRectF track = QRectF(rect()).marginsRemoved(kTrackInset);
+    return {m_doubleValue * (width() - 2.0 * kKnobReach) + kKnobReach, track.center().y()};
+}
+
+/// All that the knob covers, whatever the density.
+QRect TamselGradientSlider::knobArea() const
+{
+    constexpr double kReach = (kKnobDiameter + kKnobRim) / 2.0 + 1.0;
+    const QPointF reach(kReach, kReach);
+    return QRectF(knobCentre() - reach, knobCentre() + reach).toAlignedRect();
+}
+
+void TamselGradientSlider::drawKnob(QPainter &painter) const
+{
     painter.setBrush(colorAtValue(m_doubleValue));
     painter.setPen(QPen(Qt::white, kKnobRim));
-    painter.drawEllipse(centre, kKnobDiameter / 2.0, kKnobDiameter / 2.0);
+    painter.drawEllipse(knobCentre(), kKnobDiameter / 2.0, kKnobDiameter / 2.0);
 }
 
 void TamselGradientSlider::track(const QMouseEvent &event)

@@ -24,16 +24,16 @@ public:
 
     /// The colour being edited, from which the track is drawn; each component 0 to 1.
     double selectedHue() const { return m_selectedHue; }
-    void setSelectedHue(double hue) { setAndUpdate(this, m_selectedHue, hue); }
+    void setSelectedHue(double hue) { select(Hue, m_selectedHue, hue); }
     double selectedSaturation() const { return m_selectedSaturation; }
     void setSelectedSaturation(double saturation)
     {
-        setAndUpdate(this, m_selectedSaturation, saturation);
+        select(Saturation, m_selectedSaturation, saturation);
     }
     double selectedBrightness() const { return m_selectedBrightness; }
     void setSelectedBrightness(double brightness)
     {
-        setAndUpdate(this, m_selectedBrightness, brightness);
+        select(Brightness, m_selectedBrightness, brightness);
     }
 
     double doubleValue() const { return m_doubleValue; }
@@ -63,8 +63,12 @@ protected:
 
 private:
     void track(const QMouseEvent &event);
+    QBrush trackBrush(const QRectF &track, double scale) const;
     void drawTrack(QPainter &painter, const QRectF &track) const;
-    void drawKnob(QPainter &painter, const QRectF &track) const;
+    void drawKnob(QPainter &painter) const;
+    QPointF knobCentre() const;
+    QRect knobArea() const;
+    void select(Component part, double &selected, double value);
 
     int m_component = Hue;
     double m_selectedHue = 0.0;

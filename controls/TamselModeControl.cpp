@@ -99,6 +99,8 @@ void TamselModeControl::setSelectedSegment(int segment)
 
 void TamselModeControl::setInk(const QColor &ink)
 {
+    if (m_ink == ink)
+        return;
     m_ink = ink;
     updateIcons();
 }

@@ -8,6 +8,7 @@
 
 #include <QCloseEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QWindow>
 
@@ -98,10 +99,10 @@ void TamselSettingsWindow::mouseReleaseEvent(QMouseEvent *)
     m_dragging = false;
 }
 
-void TamselSettingsWindow::paintEvent(QPaintEvent *)
+void TamselSettingsWindow::paintEvent(QPaintEvent *event)
 {
     if (m_cornerRadius <= 0.0)
         return;
     QPainter painter(this);
-    drawPanel(painter, this, m_cornerRadius);
+    drawPanel(painter, this, m_cornerRadius, event->rect());
 }

@@ -236,15 +236,17 @@ void OptionsSheet::updateSettingsPreview()
         preview.setBackgroundColor(
             m_colors->draftColorForKey(showNight ? kNightBaseColorKey : kBaseColorKey));
         preview.setMarkColor(mark);
-        preview.setArtwork(customArtwork(m_desktop.bundle, mark));
+        if (m_previewArtworkColor != mark)
+            preview.setArtwork(customArtwork(m_desktop.bundle, mark));
+        m_previewArtworkColor = mark;
     } else {
         preview.setBackgroundColor(backgroundColors().value(variant));
         preview.setMarkColor(markColorOf(variant));
         preview.setArtwork(artworkForVariant(m_desktop.bundle, variant));
+        m_previewArtworkColor = {};
     }
     preview.setCalendarEnabled(s.calendarCheckbox->isChecked());
     s.previewMode->setInk(inkForLuminance(luminance(preview.backgroundColor())));
-    preview.update();
 }
 
 void OptionsSheet::saveConfiguration()

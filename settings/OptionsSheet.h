@@ -91,6 +91,8 @@ private:
     std::unique_ptr<ColorEditing> m_colors;
     std::unique_ptr<SheetVisibility> m_visibility;
     std::unique_ptr<TimeRows> m_timeRows;
+    /// Of the recoloured artwork in the preview; invalid while it shows a variant's own.
+    QColor m_previewArtworkColor;
     /// Stores the draft after OK.
     platform::PatientWrite m_saving;
 };

@@ -23,13 +23,13 @@ public:
     explicit TamselClockPreviewView(const platform::Clocks &clocks, QWidget *parent = nullptr);
 
     const Artwork &artwork() const { return m_artwork; }
-    void setArtwork(const Artwork &artwork) { m_artwork = artwork; }
+    void setArtwork(const Artwork &artwork) { change(m_artwork, artwork); }
     /// The background; a plain orange when invalid.
     QColor backgroundColor() const { return m_backgroundColor; }
-    void setBackgroundColor(const QColor &color) { m_backgroundColor = color; }
+    void setBackgroundColor(const QColor &color) { change(m_backgroundColor, color); }
     /// The calendar's ink; black when invalid.
     QColor markColor() const { return m_markColor; }
-    void setMarkColor(const QColor &color) { m_markColor = color; }
+    void setMarkColor(const QColor &color) { change(m_markColor, color); }
 
     /// Where the calendar is or is sliding to.
     bool calendarEnabled() const { return m_calendarEnabled; }
@@ -71,9 +71,24 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// Shown with the next frame: a slider may bring several values between two.
+    template <typename Value>
+    void change(Value &shown, const Value &value)
+    {
+        shown = value;
+        if (!isTicking())
+            update();
+    }
+
     ClockFrame frame() const;
-    void drawTransition(QPainter &painter);
-    bool touchesCorners(const QRegion &region) const;
+    /// How much of the look of before is gone, 0 to 1.
+    double fadedPart() const;
+    void drawTransition(QPainter &painter, const QRegion &region, double faded) const;
+    void transitionDrawn(double faded);
+    /// The squares in which the corners are rounded.
+    QRegion corners() const;
+    void paintPart(QPainter &painter, const ClockFrame &frame, const QRegion &region, double faded);
+    void paintRounded(QPainter &painter, const QRegion &region, double faded);
     void beginTicking();
     void tick();
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Painting by copying and mending against drawing every frame afresh.
+#include "clock/ColorBlend.h"
 #include "clock/FrameDamage.h"
 #include "clock/FramePainter.h"
 #include "tests/support/Frames.h"
@@ -44,6 +45,39 @@ bool isSamePicture(const QImage &actual, const QImage &expected)
     if (difference > kEdgeTolerance)
         qWarning("differs by %d of 255", difference);
     return difference <= kEdgeTolerance;
+}
+
+constexpr int kFrames = 40;
+
+/// A new minute begins among these frames.
+ClockFrame steadyFrame(int i)
+{
+    return frames::frameAt(QTime(10, 8, 59).addMSecs(33 * i));
+}
+
+/// Every second one has the colours of the last; in the middle the clock grows by a breath.
+ClockFrame fadingFrame(int i)
+{
+    const bool isGrown = i > kFrames / 2;
+    ClockFrame frame =
+        frames::frameAt(QTime(10, 8, 59).addMSecs(33 * i), {320, 180}, isGrown ? 1.0 : 0.9987);
+    const double progress = double(i / 2 * 2) / kFrames;
+    frame.tinted = true;
+    frame.background = blendedColor(QColor(0xff, 0x46, 0x00), QColor(0x10, 0x18, 0x20), progress);
+    frame.mark = blendedColor(Qt::black, QColor(0xc0, 0xa0, 0x80), progress);
+    frame.calendar = {QRectF(214.3, 61.2, 96.5, 0.0),
+                      {QDate(2026, 3, 14), false, QLocale(QLocale::English)}};
+    return frame;
+}
+
+using FrameAt = std::function<ClockFrame(int)>;
+
+/// Half transparent, in two colours.
+platform::SvgImage shadedHand()
+{
+    return platform::SvgImage::fromSvg(
+        R"(<svg viewBox="0 0 100 100"><g fill-opacity="0.5"><path fill="red" d="M48 2H52V50H48Z"/>
+           <circle cx="50" cy="50" r="6" fill="#00f"/></g></svg>)");
 }
 
 /// A saver on the screen of this test's platform, one frame after the other.
@@ -156,8 +190,17 @@ private Q_SLOTS:
     void everyDensityIsExact_data()
     {
         QTest::addColumn<double>("ratio");
-        for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0})
-            QTest::addRow("%g", ratio) << ratio;
+        QTest::addColumn<FrameAt>("frameAt");
+        for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+            QTest::addRow("%g", ratio) << ratio << FrameAt(steadyFrame);
+            QTest::addRow("%g, fading", ratio) << ratio << FrameAt(fadingFrame);
+        }
+        QTest::addRow("fading, a hand that is more than shapes")
+            << 1.5 << FrameAt([hand = shadedHand()](int i) {
+                   ClockFrame frame = fadingFrame(i);
+                   frame.artwork.secondImage = hand;
+                   return frame;
+               });
     }
 
     /// One painter serves a surface that is painted whole and then mended, also after its density
@@ -165,17 +208,18 @@ private Q_SLOTS:
     void everyDensityIsExact()
     {
         QFETCH(double, ratio);
+        QFETCH(FrameAt, frameAt);
         FramePainter painter;
         for (const double density : {1.0, ratio}) {
-            ClockFrame shown = frames::frameAt(QTime(10, 8, 59));
+            ClockFrame shown = frameAt(0);
             QImage surface = frames::surfaceFor(shown, density);
             QRegion damage(shown.bounds.toRect());
-            for (int i = 0; i < 40; ++i) {
+            for (int i = 1; i <= kFrames; ++i) {
                 QPainter screen(&surface);
                 painter.paint(screen, shown, damage);
                 screen.end();
                 QVERIFY(isSamePicture(surface, frames::reference(shown, density)));
-                const ClockFrame next = frames::frameAt(QTime(10, 8, 59).addMSecs(33 * i));
+                const ClockFrame next = frameAt(i);
                 damage = pointsCovering(frameDamage(shown, next, density), density);
                 shown = next;
             }
