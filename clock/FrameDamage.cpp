@@ -14,14 +14,14 @@
 
 namespace {
 
-/// In device pixels: finer than the drawing's own grid for positions.
+/// In device pixels; below the resolution of positions in the rasteriser.
 constexpr double kDriftStep = 1.0 / 64.0;
 
 /// Rows of the strips that a hand is covered with. Lower strips follow a slanting hand more
 /// closely, fewer are quicker to present.
 constexpr int kStripRows = 64;
 
-/// As many as a screen of the common sizes has; for more, memory is asked for.
+/// Enough for a 4K screen; more are allocated on the heap.
 constexpr int kUsualStrips = 36;
 
 /// An antialiased edge colours the pixels it touches; one more absorbs rounding.
@@ -102,7 +102,7 @@ private:
 
     static int stripAt(double y) { return int(std::floor(y / kStripRows)); }
 
-    /// Adds what of the shape colours pixels of the strip.
+    /// Adds the part of the shape that touches pixels of the strip.
     void addPart(const std::array<QPointF, 4> &corners, int strip)
     {
         const double top = strip * kStripRows - kInkMargin;
@@ -138,7 +138,7 @@ void addHand(Strips &strips, const platform::SvgImage &hand, const QRectF &clock
     const double cosine = clock.width() * std::cos(qDegreesToRadians(degrees));
     const double sine = clock.width() * std::sin(qDegreesToRadians(degrees));
     const QPointF centre = clock.center();
-    // From the picture's unit square, turning about its middle.
+    // From the unit square of the picture, rotated about its centre.
     const QTransform place(cosine, sine, -sine, cosine, centre.x() - 0.5 * (cosine - sine),
                            centre.y() - 0.5 * (sine + cosine));
     for (const QRectF &box : hand.inkBoxes()) {

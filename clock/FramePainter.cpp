@@ -12,7 +12,7 @@ void FramePainter::paint(QPainter &painter, const ClockFrame &frame, const QRegi
     painter.save();
     if (keepPicture(frame, toDevice)) {
         m_scratch = {};
-        // Pixel by pixel, whatever the density: that is the fastest copy and an exact one.
+        // Copied pixel by pixel, independent of the density: the fastest copy, and an exact one.
         painter.setWorldTransform(toDevice.inverted(), true);
         const QRegion area = pixelsTouched(region, toDevice).translated(-m_origin);
         for (const platform::PixelBlock &block :

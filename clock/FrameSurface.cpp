@@ -27,8 +27,8 @@ ClockFrame whiteOnBlack(ClockFrame frame)
 
 } // namespace
 
-/// Qt's rasterizer lets chords stand for curves up to a quarter pixel's fault, Qt's paths up to a
-/// half. Made at twice the size, the outlines are thus those that Qt would draw.
+/// QPainterPath flattens curves with a tolerance of half a pixel, Qt's rasteriser with a quarter.
+/// Flattened at twice the size, the outlines are therefore those that Qt would draw.
 void SecondHand::prepare(const platform::SvgImage &hand, double side)
 {
     if (m_hand == hand && m_side == side)
@@ -63,7 +63,7 @@ void SecondHand::draw(std::span<const platform::PixelBlock> strips, const ClockF
     QTransform place = QTransform::fromTranslate(clock.center().x(), clock.center().y());
     place.rotate(frame.angles.second);
     for (const Shape &shape : *m_shapes) {
-        // One of a colour over another of it, each by its coverage: the same as a flat silhouette.
+        // Shapes of one colour drawn over each other by coverage give the flat silhouette.
         const QRgb color = frame.tinted ? shownColor(frame.mark) : shape.color;
         m_fill.fill(strips, shape.outlines, place, shape.rule, color, m_covered);
     }
@@ -130,8 +130,8 @@ void FrameSurface::drawStill(QImage &picture, const ClockFrame &still, const QTr
     drawFrame(painter, still, m_scratch);
 }
 
-/// Whatever is drawn in a fade, every pixel is a mixture of its two colours. How much of each does
-/// not change as they do, so it is drawn once.
+/// In a fade every pixel is a mixture of two colours. The shares stay the same while the colours
+/// change, so they are drawn once.
 void FrameSurface::drawFading(QImage &picture, const ClockFrame &still, const QTransform &toDevice,
                               bool sameShapes)
 {

@@ -29,8 +29,8 @@ QPoint onCornerGrid(const QPointF &corner)
 }
 
 /// Coverage 0 to 255 of a pixel around which the outline winds \p winding / kWhole times on
-/// average, rounded down before the sign is dropped, as Qt does. What rounding leaves behind of a
-/// zero is none.
+/// average, rounded down before the sign is dropped, as Qt does. A residue of rounding counts as
+/// zero.
 template <Qt::FillRule rule>
 int coverage(int winding)
 {
@@ -44,7 +44,7 @@ int coverage(int winding)
     return std::min(covered, 255);
 }
 
-/// How the part of a row to the right of an edge grows, for an edge that crosses the row wholly.
+/// The area to the right of an edge in each pixel of a row that the edge crosses completely.
 class Ramp
 {
 public:
@@ -56,7 +56,7 @@ public:
         const int left = std::min(enters, leaves);
         const int right = std::max(enters, leaves);
         first = left >> kFractionBits;
-        // At least two pixels: one or two would change from row to row, and be guessed wrong.
+        // At least two pixels: a choice between one and two would be mispredicted row by row.
         last = std::max(right >> kFractionBits, first + 1);
         m_begin = float(left - (first << kFractionBits)) / float(kWhole);
         m_length = float(std::max(right - left, 1)) / float(kWhole);
@@ -198,8 +198,8 @@ void PolygonFill::enterEdges(int y, int left)
     }
 }
 
-/// Most rows of a hand lie between two edges that cross them wholly: the same done with less ado.
-/// Fills such rows from \p y on and returns the first that is none.
+/// Fast path: most rows of a hand lie between two edges that cross them completely. Fills such rows
+/// from \p y on and returns the first row that is not of this kind.
 int PolygonFill::fillBetweenTwo(const PixelBlock &block, int y, QRgb color, CoveredPixels &covered)
 {
     if (m_active.size() != 2 || m_active[0].area + m_active[1].area != 0 ||
@@ -232,7 +232,7 @@ int PolygonFill::fillBetweenTwo(const PixelBlock &block, int y, QRgb color, Cove
     return y;
 }
 
-/// Level edges bound no area.
+/// Horizontal edges bound no area and are left out.
 void PolygonFill::takeEdges(const QList<QPolygonF> &outlines, const QTransform &place)
 {
     const auto placed = [&](const QPointF &corner) {
@@ -262,8 +262,8 @@ void PolygonFill::takeEdges(const QList<QPolygonF> &outlines, const QTransform &
               [](const Edge &a, const Edge &b) { return a.top < b.top; });
 }
 
-/// Sums up the active edges in row \p y; an edge that goes up takes away what one that goes down
-/// adds. Afterwards they stand where they enter the next row.
+/// Adds up the active edges in row \p y, upward edges with a negative sign, and advances them to
+/// the next row.
 PolygonFill::RowSum PolygonFill::sumOfRow(int y, int width)
 {
     const int top = y * kRow;
@@ -289,7 +289,7 @@ PolygonFill::RowSum PolygonFill::sumOfRow(int y, int width)
     return sum;
 }
 
-/// As add(), for an edge that leaves the picture at its sides.
+/// Like add(), for an edge that leaves the picture on the left or right.
 void PolygonFill::RowSum::addClipped(int from, int to, int area, int width)
 {
     const int left = std::min(from, to);
@@ -319,7 +319,7 @@ inline void PolygonFill::RowSum::add(int from, int to, int area)
     first = std::min(first, leftPixel);
     last = std::max(last, rightPixel + 1);
     if (rightPixel <= leftPixel + 1) {
-        // One pixel or two; without a branch, as that changes from row to row.
+        // Branch-free: whether one pixel or two are touched changes from row to row.
         const int length = std::max(right - left, 1);
         const int inFirst = std::min(length, room);
         const float share = float(inFirst) / float(length);

@@ -19,7 +19,7 @@ class CoveredPixels
 public:
     /// Puts aside the \p count pixels from \p pixels on, whose memory outlives this or clear().
     void keep(QRgb *pixels, int count);
-    /// Puts all back to where they were, the last first, and forgets them.
+    /// Restores all pixels, the last first, and forgets them.
     void restore();
     void clear();
 
@@ -36,8 +36,8 @@ private:
 };
 
 /// Fills antialiased polygons by the exact area of each pixel that they cover. That is the rule of
-/// Qt's rasterizer too, and corners are rounded as it does, so that the two differ by a few 255ths;
-/// for slender slanting shapes this one is several times quicker. Corners lie within 32,767 pixels
+/// Qt's rasteriser too, and corners are rounded as it does, so that the two differ by a few 255ths;
+/// for slender slanting shapes this one is several times faster. Corners lie within 32,767 pixels
 /// of the picture's own.
 class PolygonFill
 {
@@ -54,15 +54,15 @@ private:
         /// In 64ths of a pixel.
         int top;
         int bottom;
-        /// Where it enters the row at hand, and how far it goes in a row; 2^32 to the pixel. Of
-        /// those that are active from the block's left side.
+        /// Position where it enters the current row, and its change per row, in 2^-32 pixel. Active
+        /// edges count from the left side of the block.
         qint64 x;
         qint64 slope;
-        /// Covered to its right in a row that it crosses wholly; negative where it goes up.
+        /// Area to its right in a row that it crosses completely; negative for an upward edge.
         int area;
     };
 
-    /// The sum of what edges bound to their right in one row. Positions are 2^16 to the pixel.
+    /// Sum of the areas to the right of the edges in one row. Positions are in 2^-16 pixel.
     struct RowSum
     {
         /// Per pixel, how much the covered part of the row grows there; three pixels more than the
@@ -84,11 +84,11 @@ private:
     RowSum sumOfRow(int y, int width);
 
     std::vector<Edge> m_edges;
-    /// The first of them that is below the row at hand.
+    /// The first edge below the current row.
     size_t m_next = 0;
-    /// Those that reach into the row at hand.
+    /// The edges that reach into the current row.
     std::vector<Edge> m_active;
-    /// Of the row at hand; all zero between two rows.
+    /// Of the current row; all zero between two rows.
     std::vector<int> m_growth;
 };
 

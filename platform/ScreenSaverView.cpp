@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ScreenSaverView.h"
 
-#include "platform/Clocks.h"
 #include "platform/FramePresenter.h"
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <QTimerEvent>
 #include <QWindow>
 
 namespace platform {
@@ -17,7 +15,8 @@ constexpr std::chrono::milliseconds kUnseenInterval(250);
 } // namespace
 
 ScreenSaverView::ScreenSaverView(const Clocks &clocks, bool isPreview, QWidget *parent)
-    : QWidget(parent), m_clocks(clocks), m_isPreview(isPreview), m_pacer(0.0, m_interval)
+    : QWidget(parent), m_clocks(clocks), m_isPreview(isPreview),
+      m_frames(clocks, [this] { tick(); })
 {
     // Every frame covers the whole view, so erasing it first would be work for nothing.
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -35,14 +34,13 @@ void ScreenSaverView::setAnimationTimeInterval(double seconds)
 
 void ScreenSaverView::startAnimation()
 {
-    m_pacer = FramePacer(m_clocks.monotonicSeconds(), m_interval);
     m_rests = false;
-    waitForFrame();
+    m_frames.start(m_interval);
 }
 
 void ScreenSaverView::stopAnimation()
 {
-    m_timer.stop();
+    m_frames.stop();
 }
 
 void ScreenSaverView::tick()
@@ -50,23 +48,9 @@ void ScreenSaverView::tick()
     if (m_presenter)
         m_presenter->poll();
     m_rests = !isSeen();
-    waitForFrame();
+    if (m_rests)
+        m_frames.pause(kUnseenInterval);
     animateOneFrame();
-}
-
-void ScreenSaverView::waitForFrame()
-{
-    const auto wait =
-        m_rests ? kUnseenInterval : m_pacer.untilNextFrame(m_clocks.monotonicSeconds());
-    m_timer.start(int(wait.count()), Qt::PreciseTimer, this);
-}
-
-void ScreenSaverView::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() == m_timer.timerId())
-        tick();
-    else
-        QWidget::timerEvent(event);
 }
 
 bool ScreenSaverView::isSeen() const
@@ -92,7 +76,7 @@ bool ScreenSaverView::event(QEvent *event)
     // The window that was presented to is gone.
     if (event->type() == QEvent::WinIdChange && m_presenter)
         dropPresenter();
-    // What is to be painted may be seen.
+    // A paint request means that the view may be visible again.
     if (event->type() == QEvent::Paint && m_rests && isAnimating())
         ScreenSaverView::startAnimation();
     return QWidget::event(event);
@@ -106,7 +90,7 @@ void ScreenSaverView::showEvent(QShowEvent *event)
     setAttribute(Qt::WA_PaintOnScreen, m_presenter != nullptr);
 }
 
-/// Of a presented view nothing is left for Qt to paint.
+/// Qt must not paint a view whose frames are presented directly.
 QPaintEngine *ScreenSaverView::paintEngine() const
 {
     return m_presenter ? nullptr : QWidget::paintEngine();

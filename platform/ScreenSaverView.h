@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/FramePacer.h"
+#include "platform/FrameTimer.h"
 
-#include <QBasicTimer>
 #include <QWidget>
 
 #include <memory>
@@ -31,7 +30,7 @@ public:
     /// Seconds between two frames.
     double animationTimeInterval() const { return m_interval; }
     void setAnimationTimeInterval(double seconds);
-    bool isAnimating() const { return m_timer.isActive(); }
+    bool isAnimating() const { return m_frames.isActive(); }
 
     /// Begins calling animateOneFrame once per interval, keeping the cadence over any length of
     /// time; a few times a second while nobody can see the view.
@@ -66,17 +65,14 @@ protected:
     void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     QPaintEngine *paintEngine() const override;
-    void timerEvent(QTimerEvent *event) override;
 
 private:
     void tick();
-    void waitForFrame();
 
     const Clocks &m_clocks;
     const bool m_isPreview;
     double m_interval = 1.0 / 30.0;
-    FramePacer m_pacer;
-    QBasicTimer m_timer;
+    FrameTimer m_frames;
     bool m_rests = true;
     std::unique_ptr<FramePresenter> m_presenter;
 };

@@ -20,11 +20,11 @@ namespace platform {
 
 namespace {
 
-/// Frames between two questions whether the display of a visible window is on.
+/// Number of frames between two requests for the power state of the display.
 constexpr int kFramesPerPowerQuestion = 10;
 
-/// A connection to the X server besides Qt's. Nothing of Qt waits on it, so that what the server
-/// answers wakes nobody up; it is read with the next frame.
+/// A connection to the X server besides Qt's. No event loop waits on it, so replies cause no
+/// wake-up; they are read with the next frame.
 class Connection
 {
 public:
@@ -96,7 +96,7 @@ public:
     SharedMemory(const Connection &connection, const QSize &size) : m_connection(connection)
     {
         const size_t pixels = size_t(size.width()) * size_t(size.height());
-        // The server wants whole rows, also of the last block; one more makes up for that.
+        // The server requires complete rows, also for the last block: one row of padding.
         const size_t bytes = (2 * pixels + size_t(size.width())) * sizeof(QRgb);
         const int file = memfd_create("frame", MFD_CLOEXEC);
         if (file < 0 || pixels == 0 || ftruncate(file, off_t(bytes)) != 0) {
@@ -105,7 +105,7 @@ public:
         }
         void *memory = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
         m_segment = xcb_generate_id(connection);
-        // Takes the descriptor over.
+        // Takes ownership of the descriptor.
         const auto attached = xcb_shm_attach_fd_checked(connection, m_segment, file, 1);
         const bool isShared = connection.succeeds(attached);
         if (memory == MAP_FAILED)

@@ -80,14 +80,11 @@ void installPreviewAccessibility()
 } // namespace
 
 TamselClockPreviewView::TamselClockPreviewView(const platform::Clocks &clocks, QWidget *parent)
-    : QWidget(parent), m_clocks(clocks), m_pacer(0.0, kFrameInterval)
+    : QWidget(parent), m_clocks(clocks), m_frames(clocks, [this] { tick(); })
 {
     // Before setAccessibleName(), which creates the accessible object that is used from then on.
     installPreviewAccessibility();
     setAccessibleName(QStringLiteral("Clock preview"));
-    m_animationTimer.setSingleShot(true);
-    m_animationTimer.setTimerType(Qt::PreciseTimer);
-    connect(&m_animationTimer, &QTimer::timeout, this, &TamselClockPreviewView::tick);
 }
 
 void TamselClockPreviewView::setCornerRadius(double radius)
@@ -108,18 +105,17 @@ void TamselClockPreviewView::startAnimation()
 void TamselClockPreviewView::stopAnimation()
 {
     m_animating = false;
-    m_animationTimer.stop();
+    m_frames.stop();
 }
 
 void TamselClockPreviewView::beginTicking()
 {
-    m_pacer = platform::FramePacer(m_clocks.monotonicSeconds(), kFrameInterval);
+    m_frames.start(kFrameInterval);
     tick();
 }
 
 void TamselClockPreviewView::tick()
 {
-    m_animationTimer.start(m_pacer.untilNextFrame(m_clocks.monotonicSeconds()));
     ClockFrame next = frame();
     const double ratio = devicePixelRatioF();
     if (isFading())
@@ -140,7 +136,7 @@ void TamselClockPreviewView::showEvent(QShowEvent *event)
 void TamselClockPreviewView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    m_animationTimer.stop();
+    m_frames.stop();
 }
 
 bool TamselClockPreviewView::eventFilter(QObject *watched, QEvent *event)
@@ -148,8 +144,8 @@ bool TamselClockPreviewView::eventFilter(QObject *watched, QEvent *event)
     const auto *handle = window()->windowHandle();
     if (event->type() == QEvent::Expose && watched == handle && m_animating && isVisible()) {
         if (!handle->isExposed())
-            m_animationTimer.stop();
-        else if (!m_animationTimer.isActive())
+            m_frames.stop();
+        else if (!m_frames.isActive())
             beginTicking();
     }
     return QWidget::eventFilter(watched, event);

@@ -2,10 +2,9 @@
 #pragma once
 
 #include "clock/FramePainter.h"
-#include "platform/FramePacer.h"
+#include "platform/FrameTimer.h"
 
 #include <QPixmap>
-#include <QTimer>
 #include <QWidget>
 
 namespace platform {
@@ -51,7 +50,7 @@ public:
     void stopAnimation();
     bool isAnimating() const { return m_animating; }
     /// Whether the repaint timer runs at this moment.
-    bool isTicking() const { return m_animationTimer.isActive(); }
+    bool isTicking() const { return m_frames.isActive(); }
 
     /// Keeps the present look and fades it out over what follows. To be called before any colour or
     /// image is changed. Does nothing while nobody can see the preview.
@@ -111,8 +110,7 @@ private:
     double m_calendarTransitionStart = 0.0;
 
     bool m_animating = false;
-    platform::FramePacer m_pacer;
-    QTimer m_animationTimer;
+    platform::FrameTimer m_frames;
     /// What is on screen but for a look that fades.
     ClockFrame m_shown;
     FramePainter m_painter;
