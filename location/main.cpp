@@ -101,7 +101,7 @@ int main(int argc, char **argv)
     const auto parsed = location::parseCommandLine(platform::argumentsFrom(argc, argv));
     if (const auto *error = std::get_if<location::UsageError>(&parsed))
         return platform::complain(error->text, platform::kWrongUsage);
-    const auto &options = std::get<location::Options>(parsed);
+    const auto &options = *std::get_if<location::Options>(&parsed);
     // Keeps Qt from reading options of its own, such as "-display".
     int programNameOnly = 1;
     switch (options.mode) {
