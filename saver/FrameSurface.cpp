@@ -75,11 +75,15 @@ QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &fram
     QImage &picture = memory.picture;
     const bool isKnown =
         m_shown && m_room == memory.room && m_size == picture.size() && m_toDevice == toDevice;
-    QRegion damage =
-        isKnown ? frameDamage(*m_shown, frame, toDevice.m11()) : QRegion(picture.rect());
+    QRegion damage = isKnown ? frameDamage(*m_shown, frame, toDevice.m11()) & picture.rect()
+                             : QRegion(picture.rect());
     if (damage.isEmpty())
         return damage;
     const bool isSteady = isKnown && sameStill(*m_shown, frame);
+    if (isKnown && (isSteady || !memory.room))
+        m_secondHand.takeOff();
+    else
+        m_secondHand.forget();
     if (!isSteady) {
         ClockFrame still = frame;
         if (!frame.tinted)
@@ -89,18 +93,8 @@ QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &fram
         painter.setTransform(toDevice);
         drawFrame(painter, still, m_scratch);
     }
-    if (isSteady && m_lane.covers(damage)) {
-        m_secondHand.takeOff();
-    } else {
-        m_secondHand.forget();
-        m_lane.clear();
-        if (!frame.tinted) {
-            m_lane.lay(
-                platform::blockOf(picture), memory.room,
-                secondHandWay(isKnown ? *m_shown : frame, frame, kLaneDegrees, toDevice.m11()) &
-                    picture.rect());
-        }
-    }
+    if (!isSteady || !m_lane.covers(damage))
+        layLane(memory, isKnown ? *m_shown : frame, frame, toDevice.m11());
     if (!frame.tinted)
         m_secondHand.draw(m_lane.strips(), frame, toDevice);
     m_shown = frame;
@@ -108,6 +102,17 @@ QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &fram
     m_room = memory.room;
     m_size = picture.size();
     return damage;
+}
+
+void FrameSurface::layLane(platform::FrameMemory &memory, const ClockFrame &shown,
+                           const ClockFrame &next, double ratio)
+{
+    const platform::PixelBlock picture = platform::blockOf(memory.picture);
+    const QRegion way = secondHandWay(shown, next, kLaneDegrees, ratio) & picture.rect;
+    if (next.tinted || !memory.room)
+        m_lane.leave(picture, way);
+    else
+        m_lane.lay(picture, memory.room, way);
 }
 
 std::span<const platform::PixelBlock> FrameSurface::blocks(platform::FrameMemory &memory,
@@ -120,5 +125,27 @@ std::span<const platform::PixelBlock> FrameSurface::blocks(platform::FrameMemory
 
 void FrameSurface::forget()
 {
+    m_shown.reset();
+}
+
+QRegion FrameSurfaces::show(platform::FrameMemory &memory, const ClockFrame &frame,
+                            const QTransform &toDevice)
+{
+    if (m_size != memory.picture.size() || m_toDevice != toDevice)
+        forget();
+    QRegion changed = m_surfaces[memory.turn].show(memory, frame, toDevice);
+    if (m_shown && m_turn != memory.turn)
+        changed = frameDamage(*m_shown, frame, toDevice.m11()) & memory.picture.rect();
+    m_shown = frame;
+    m_turn = memory.turn;
+    m_size = memory.picture.size();
+    m_toDevice = toDevice;
+    return changed;
+}
+
+void FrameSurfaces::forget()
+{
+    for (FrameSurface &surface : m_surfaces)
+        surface.forget();
     m_shown.reset();
 }

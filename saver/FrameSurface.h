@@ -11,6 +11,7 @@
 #include <QRegion>
 #include <QTransform>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -66,14 +67,43 @@ public:
     void forget();
 
 private:
+    void layLane(platform::FrameMemory &memory, const ClockFrame &shown, const ClockFrame &next,
+                 double ratio);
+
     std::optional<ClockFrame> m_shown;
     QTransform m_toDevice;
     const QRgb *m_room = nullptr;
     QSize m_size;
-    /// The picture is without the second hand, which is drawn in its lane. In a fade the picture
-    /// has it, and there is no lane.
+    /// The picture is without the second hand, which is drawn in its lane; without room for one,
+    /// and in a fade, the picture has it.
     HandLane m_lane;
     SecondHand m_secondHand;
     std::vector<platform::PixelBlock> m_blocks;
     FrameScratch m_scratch;
+};
+
+/// The same with memories that take turns: each is behind by some frames when its turn comes.
+class FrameSurfaces
+{
+public:
+    /// Makes \p memory hold \p frame. Returns the pixels that may differ from the last frame shown,
+    /// in whichever memory that was.
+    QRegion show(platform::FrameMemory &memory, const ClockFrame &frame,
+                 const QTransform &toDevice);
+
+    /// As those of FrameSurface.
+    std::span<const platform::PixelBlock> blocks(platform::FrameMemory &memory, const QRegion &area)
+    {
+        return m_surfaces[memory.turn].blocks(memory, area);
+    }
+
+    /// The next frames are drawn whole.
+    void forget();
+
+private:
+    std::array<FrameSurface, platform::FrameMemory::kMostTurns> m_surfaces;
+    std::optional<ClockFrame> m_shown;
+    size_t m_turn = 0;
+    QSize m_size;
+    QTransform m_toDevice;
 };

@@ -11,6 +11,7 @@ constexpr int kLinePixels = 16;
 void HandLane::lay(const platform::PixelBlock &picture, QRgb *room, const QRegion &area)
 {
     m_strips.clear();
+    m_isInPicture = false;
     QRgb *free = room;
     for (const QRect &rect : area) {
         // The room holds rows of the picture's width.
@@ -22,6 +23,14 @@ void HandLane::lay(const platform::PixelBlock &picture, QRgb *room, const QRegio
         m_strips.push_back(strip);
         free += qsizetype(stride) * rect.height();
     }
+}
+
+void HandLane::leave(const platform::PixelBlock &picture, const QRegion &area)
+{
+    m_strips.clear();
+    m_isInPicture = true;
+    for (const QRect &rect : area)
+        m_strips.push_back(picture.in(rect));
 }
 
 bool HandLane::covers(const QRegion &area) const
@@ -38,6 +47,11 @@ bool HandLane::covers(const QRegion &area) const
 void HandLane::cut(const QRegion &area, const platform::PixelBlock &picture,
                    std::vector<platform::PixelBlock> &blocks) const
 {
+    if (m_isInPicture) {
+        for (const QRect &rect : area)
+            blocks.push_back(picture.in(rect));
+        return;
+    }
     const bool isInLane = covers(area);
     QRegion rest = isInLane ? QRegion() : area;
     const auto *from = area.begin();

@@ -17,7 +17,8 @@ public:
     /// Takes the rectangles of \p area, none wider or higher than \p picture, from \p picture into
     /// \p room, which is as large.
     void lay(const platform::PixelBlock &picture, QRgb *room, const QRegion &area);
-    void clear() { m_strips.clear(); }
+    /// As lay(), but the pixels stay where they are in \p picture.
+    void leave(const platform::PixelBlock &picture, const QRegion &area);
 
     std::span<const platform::PixelBlock> strips() const { return m_strips; }
 
@@ -31,4 +32,5 @@ public:
 
 private:
     std::vector<platform::PixelBlock> m_strips;
+    bool m_isInPicture = true;
 };

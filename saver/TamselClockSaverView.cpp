@@ -81,7 +81,7 @@ void TamselClockSaverView::presentFrame()
 {
     if (!presenter()->isReady())
         return;
-    const double ratio = devicePixelRatioF();
+    const double ratio = presenter()->ratio();
     const QTransform toDevice = QTransform::fromScale(ratio, ratio);
     platform::FrameMemory &memory =
         presenter()->memory(toDevice.mapRect(QRectF(rect())).toAlignedRect().size());
@@ -90,11 +90,11 @@ void TamselClockSaverView::presentFrame()
         return;
     }
     m_shown = nextFrame(ratio);
-    QRegion changed = m_surface.show(memory, m_shown, toDevice);
+    QRegion changed = m_surfaces.show(memory, m_shown, toDevice);
     if (!m_exposed.isEmpty())
         changed += pixelsTouched(m_exposed, toDevice) & memory.picture.rect();
     m_exposed = {};
-    presenter()->present(m_surface.blocks(memory, changed));
+    presenter()->present(m_surfaces.blocks(memory, changed));
 }
 
 bool TamselClockSaverView::isSeen() const
@@ -131,7 +131,7 @@ void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 void TamselClockSaverView::showEvent(QShowEvent *event)
 {
     ScreenSaverView::showEvent(event);
-    m_surface.forget();
+    m_surfaces.forget();
 }
 
 /// A part that is painted belongs to the frame on screen, which began with painting the whole.

@@ -273,7 +273,7 @@ private:
     double m_shownRatio = 0.0;
     /// Draws it, through Qt or for the presenter.
     FramePainter m_painter;
-    FrameSurface m_surface;
+    FrameSurfaces m_surfaces;
     /// Points of the presented window to put anew with the next frame.
     QRegion m_exposed;
     std::unique_ptr<SettingsSheet> m_sheet;
