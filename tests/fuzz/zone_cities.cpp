@@ -6,11 +6,11 @@ void tryBytes(const QByteArray &bytes)
 {
     // Whatever the lines are meant for, each table takes those that it understands.
     const location::ZoneCities cities(bytes, bytes, bytes);
-    for (const location::ZoneCity &city : cities.all()) {
+    const QList<location::ZoneCity> all = cities.matching(QString());
+    for (const location::ZoneCity &city : all) {
         require(city.location.isValid() && cities.ofZone(city.zone));
         require(!cities.placeName(city.location).isNull());
     }
     cities.ofZone(QStringLiteral("Europe/Kiev"));
-    require(cities.matching(QString()).size() == cities.all().size());
     cities.matching(QString::fromUtf8(bytes.left(20)));
 }
