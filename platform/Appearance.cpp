@@ -48,11 +48,9 @@ bool isDarkPalette(const QPalette &palette)
 
 QString interfaceFamily()
 {
-    for (const QString &family : {u"Inter"_s, u"Inter Variable"_s}) {
-        if (QFontDatabase::hasFamily(family)) {
+    for (const QString &family : {u"Inter"_s, u"Inter Variable"_s})
+        if (QFontDatabase::hasFamily(family))
             return family;
-        }
-    }
     return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
 }
 
@@ -74,9 +72,8 @@ Appearance::~Appearance() = default;
 Appearance &Appearance::shared()
 {
     static QPointer<Appearance> shared;
-    if (!shared) {
+    if (!shared)
         shared = new Appearance(qApp);
-    }
     return *shared;
 }
 
@@ -90,12 +87,10 @@ void Appearance::setForcedScheme(std::optional<Scheme> scheme)
 
 bool Appearance::isDark() const
 {
-    if (m_forcedScheme) {
+    if (m_forcedScheme)
         return m_forcedScheme == Scheme::Dark;
-    }
-    if (m_desktop && m_desktop->settings().prefersDark) {
+    if (m_desktop && m_desktop->settings().prefersDark)
         return *m_desktop->settings().prefersDark;
-    }
     return isDarkPalette(QGuiApplication::palette());
 }
 
@@ -121,9 +116,8 @@ QColor Appearance::systemRedColor() const
 
 QColor Appearance::controlAccentColor() const
 {
-    if (m_forcedScheme) {
+    if (m_forcedScheme)
         return QColor::fromRgb(colorsOf(*this).accent);
-    }
     const QColor accent = m_desktop ? m_desktop->settings().accent : QColor();
     return accent.isValid() ? accent : QGuiApplication::palette().color(QPalette::Highlight);
 }
@@ -160,9 +154,8 @@ bool Appearance::reducedMotion() const
 
 bool Appearance::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ApplicationPaletteChange && watched == parent()) {
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == parent())
         Q_EMIT changed();
-    }
     return QObject::eventFilter(watched, event);
 }
 

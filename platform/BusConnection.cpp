@@ -43,15 +43,13 @@ BusHandle startBus(const QByteArray &addresses)
 {
     const QByteArray usable = unixAddresses(addresses);
     sd_bus *created = nullptr;
-    if (usable.isEmpty() || sd_bus_new(&created) < 0) {
+    if (usable.isEmpty() || sd_bus_new(&created) < 0)
         return {};
-    }
     BusHandle bus(created);
     if (sd_bus_set_address(created, usable.constData()) < 0 ||
         sd_bus_set_bus_client(created, true) < 0 || sd_bus_negotiate_fds(created, false) < 0 ||
-        sd_bus_start(created) < 0) {
+        sd_bus_start(created) < 0)
         return {};
-    }
     setsockopt(sd_bus_get_fd(created), SOL_SOCKET, SO_SNDBUF, &kSendBuffer, sizeof kSendBuffer);
     return bus;
 }
@@ -60,9 +58,8 @@ bool workUntil(sd_bus *bus, QDeadlineTimer end, const std::function<bool()> &don
 {
     while (!done()) {
         const int progress = sd_bus_process(bus, nullptr);
-        if (progress < 0 || sd_bus_is_open(bus) <= 0 || end.hasExpired()) {
+        if (progress < 0 || sd_bus_is_open(bus) <= 0 || end.hasExpired())
             return false;
-        }
         if (progress == 0) {
             using std::chrono::microseconds;
             const auto left = std::chrono::ceil<microseconds>(end.remainingTimeAsDuration());
@@ -86,9 +83,8 @@ BusMessageHandle newCall(sd_bus *bus, const BusCall &call)
         bus, &message, call.service.toUtf8().constData(), call.path.toUtf8().constData(),
         call.interface.toUtf8().constData(), call.method.toUtf8().constData());
     BusMessageHandle result(message);
-    if (message) {
+    if (message)
         sd_bus_message_set_auto_start(message, call.startsService);
-    }
     return message && appendArguments(message, call.arguments) ? std::move(result)
                                                                : BusMessageHandle();
 }

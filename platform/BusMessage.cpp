@@ -91,21 +91,18 @@ QVariantList readValues(sd_bus_message *message, int &left);
 
 QVariant readContainer(sd_bus_message *message, char type, const char *contents, int &left)
 {
-    if (sd_bus_message_enter_container(message, type, contents) <= 0) {
+    if (sd_bus_message_enter_container(message, type, contents) <= 0)
         return {};
-    }
     const bool isMap = type == 'a' && contents[0] == '{' && contents[1] == 's';
     const QVariantList values = readValues(message, left);
     if (left <= 0 || sd_bus_message_exit_container(message) < 0) {
         left = 0;
         return {};
     }
-    if (type == 'v') {
+    if (type == 'v')
         return values.value(0);
-    }
-    if (!isMap) {
+    if (!isMap)
         return values;
-    }
     QVariantMap map;
     for (const QVariant &entry : values) {
         const QVariantList pair = entry.toList();

@@ -33,9 +33,8 @@ constexpr uint kReduceMotion = 1;
 template <typename T>
 std::optional<T> as(const QVariant &value)
 {
-    if (value.metaType() != QMetaType::fromType<T>()) {
+    if (value.metaType() != QMetaType::fromType<T>())
         return {};
-    }
     return value.value<T>();
 }
 
@@ -66,10 +65,8 @@ QColor asColor(const QVariant &value)
         const auto number = as<double>(component);
         return number && *number >= 0.0 && *number <= 1.0;
     };
-    if (components.size() != 3 ||
-        !std::all_of(components.cbegin(), components.cend(), isComponent)) {
+    if (components.size() != 3 || !std::all_of(components.cbegin(), components.cend(), isComponent))
         return {};
-    }
     return QColor::fromRgbF(components[0].toFloat(), components[1].toFloat(),
                             components[2].toFloat());
 }
@@ -78,12 +75,10 @@ QColor asColor(const QVariant &value)
 
 bool DesktopSettings::wantsReducedMotion() const
 {
-    if (reducedMotion) {
+    if (reducedMotion)
         return *reducedMotion;
-    }
-    if (enableAnimations) {
+    if (enableAnimations)
         return !*enableAnimations;
-    }
     return animationFactor && *animationFactor <= 0.0;
 }
 
@@ -120,9 +115,8 @@ void DesktopSettingsReader::readAll()
                                                   {kAppearance, kReducedMotion},
                                                   {kGnome, kEnableAnimations},
                                                   {kKde, kAnimationFactor}};
-    for (const auto &[group, key] : used) {
+    for (const auto &[group, key] : used)
         read(u"ReadOne"_s, group, key);
-    }
 }
 
 /// Portals before version 2 of the interface know only the older "Read".
@@ -144,9 +138,8 @@ void DesktopSettingsReader::take(const QString &group, const QString &key, const
 {
     const DesktopSettings before = m_settings;
     m_settings.take(group, key, value);
-    if (m_settings != before) {
+    if (m_settings != before)
         Q_EMIT changed();
-    }
 }
 
 } // namespace platform

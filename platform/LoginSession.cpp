@@ -31,9 +31,8 @@ LoginSession::LoginSession(QObject *parent)
     m_bus->subscribe({kManagerPath, kManager, u"PrepareForSleep"_s}, this,
                      [this](const BusMessage &signal) {
                          const bool isWaking = signal.argument() == QVariant(false);
-                         if (isWaking && m_isActive) {
+                         if (isWaking && m_isActive)
                              Q_EMIT becameActive();
-                         }
                      });
 }
 
@@ -47,11 +46,10 @@ void LoginSession::findSession()
     m_bus->call({kService, kManagerPath, kManager, u"GetSessionByPID"_s, {processId}},
                 [this](const BusMessage &reply) {
                     const QString path = reply.argument().toString();
-                    if (path.isEmpty()) {
+                    if (path.isEmpty())
                         findDisplaySession();
-                    } else {
+                    else
                         follow(path);
-                    }
                 });
 }
 
@@ -65,9 +63,8 @@ void LoginSession::findDisplaySession()
                     // Id and path of the session, both empty when there is none.
                     const QVariantList session = reply.argument().toList();
                     const QString path = session.value(1).toString();
-                    if (!session.value(0).toString().isEmpty() && !path.isEmpty()) {
+                    if (!session.value(0).toString().isEmpty() && !path.isEmpty())
                         follow(path);
-                    }
                 });
 }
 
@@ -85,30 +82,26 @@ void LoginSession::follow(const QString &path)
 void LoginSession::ask()
 {
     m_askAgain = m_isAsking;
-    if (m_isAsking) {
+    if (m_isAsking)
         return;
-    }
     m_isAsking = true;
     m_bus->call(propertyCall(m_path, u"org.freedesktop.login1.Session"_s, u"Active"_s),
                 [this](const BusMessage &reply) {
                     m_isAsking = false;
                     const QVariant active = reply.argument();
                     setActive(!active.isValid() || active.toBool());
-                    if (m_askAgain) {
+                    if (m_askAgain)
                         ask();
-                    }
                 });
 }
 
 void LoginSession::setActive(bool isActive)
 {
-    if (isActive == m_isActive) {
+    if (isActive == m_isActive)
         return;
-    }
     m_isActive = isActive;
-    if (isActive) {
+    if (isActive)
         Q_EMIT becameActive();
-    }
 }
 
 } // namespace platform

@@ -31,9 +31,8 @@ constexpr int kMostAtOnce = 64;
 QByteArray defaultSessionAddress()
 {
     QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
-    if (folder.isEmpty()) {
+    if (folder.isEmpty())
         folder = "/run/user/" + QByteArray::number(getuid());
-    }
     return "unix:path=" + folder.toPercentEncoding("/") + "/bus";
 }
 
@@ -48,9 +47,8 @@ QByteArray MessageBus::addresses(Kind kind)
 {
     const bool isSystem = kind == Kind::System;
     QByteArray given = qgetenv(isSystem ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
-    if (!given.isEmpty()) {
+    if (!given.isEmpty())
         return given;
-    }
     return isSystem ? QByteArray("unix:path=/run/dbus/system_bus_socket") : defaultSessionAddress();
 }
 
@@ -66,19 +64,17 @@ MessageBus::MessageBus(Kind kind, QObject *parent)
 
 MessageBus::~MessageBus()
 {
-    if (m_bus && m_hasSent) {
+    if (m_bus && m_hasSent)
         sayFarewell();
-    }
     close();
 }
 
 void MessageBus::takeTurn()
 {
-    if (m_bus) {
+    if (m_bus)
         process();
-    } else {
+    else
         open();
-    }
 }
 
 void MessageBus::open()
@@ -94,9 +90,8 @@ void MessageBus::open()
     m_writable = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Write);
     connect(m_readable.get(), &QSocketNotifier::activated, this, &MessageBus::process);
     connect(m_writable.get(), &QSocketNotifier::activated, this, &MessageBus::process);
-    for (auto &entry : m_subscriptions) {
+    for (auto &entry : m_subscriptions)
         follow(entry.second);
-    }
     awaitEvents();
 }
 
@@ -104,9 +99,8 @@ void MessageBus::close()
 {
     m_isConnected = false;
     m_hasSent = false;
-    for (auto &entry : m_subscriptions) {
+    for (auto &entry : m_subscriptions)
         entry.second.slot.reset();
-    }
     m_calls.clear();
     m_replies.clear();
     if (m_bus) {
@@ -119,9 +113,8 @@ void MessageBus::close()
 void MessageBus::process()
 {
     int progress = 1;
-    for (int i = 0; i < kMostAtOnce && progress > 0 && sd_bus_is_open(m_bus.get()) > 0; ++i) {
+    for (int i = 0; i < kMostAtOnce && progress > 0 && sd_bus_is_open(m_bus.get()) > 0; ++i)
         progress = sd_bus_process(m_bus.get(), nullptr);
-    }
     const bool wasConnected = m_isConnected;
     m_isConnected = sd_bus_is_ready(m_bus.get()) > 0;
     const bool isOpen = progress >= 0 && sd_bus_is_open(m_bus.get()) > 0;
@@ -132,17 +125,14 @@ void MessageBus::process()
         m_turn.start(kRetryInterval);
     }
     const QPointer<MessageBus> self(this);
-    if (m_isConnected && !wasConnected) {
+    if (m_isConnected && !wasConnected)
         Q_EMIT connected();
-    } else if (wasConnected && !m_isConnected) {
+    else if (wasConnected && !m_isConnected)
         Q_EMIT disconnected();
-    }
-    if (self) {
+    if (self)
         deliverReplies();
-    }
-    if (self && !m_pace.isActive()) {
+    if (self && !m_pace.isActive())
         deliverSignals();
-    }
 }
 
 void MessageBus::awaitEvents()
@@ -153,9 +143,8 @@ void MessageBus::awaitEvents()
     constexpr uint64_t kNever = std::numeric_limits<uint64_t>::max();
     uint64_t timeout = kNever;
     auto end = m_isConnected ? Clock::time_point::max() : m_connectEnd;
-    if (sd_bus_get_timeout(m_bus.get(), &timeout) >= 0 && timeout != kNever) {
+    if (sd_bus_get_timeout(m_bus.get(), &timeout) >= 0 && timeout != kNever)
         end = std::min(end, Clock::time_point(std::chrono::microseconds(timeout)));
-    }
     if (end == Clock::time_point::max()) {
         m_turn.stop();
         return;
@@ -192,9 +181,8 @@ void MessageBus::follow(Subscription &subscription)
         const auto *receiver = static_cast<Subscription *>(data);
         auto &arrived = receiver->bus->m_signals;
         arrived.emplace_back(receiver->id, readMessage(message));
-        if (arrived.size() > kMostSignals) {
+        if (arrived.size() > kMostSignals)
             arrived.removeFirst();
-        }
         return 0;
     };
     sd_bus_slot *slot = nullptr;
@@ -206,9 +194,8 @@ void MessageBus::follow(Subscription &subscription)
 
 void MessageBus::send(const BusSignal &signal, const QVariantList &arguments)
 {
-    if (!hasRoom()) {
+    if (!hasRoom())
         return;
-    }
     sd_bus_message *message = nullptr;
     sd_bus_message_new_signal(m_bus.get(), &message, signal.path.toUtf8().constData(),
                               signal.interface.toUtf8().constData(),
@@ -224,9 +211,8 @@ void MessageBus::call(const BusCall &call, const Receiver &answered)
 {
     const BusMessageHandle message =
         m_isConnected && hasRoom() ? newCall(m_bus.get(), call) : BusMessageHandle();
-    if (!message) {
+    if (!message)
         return;
-    }
     const auto receive = [](sd_bus_message *reply, void *data, sd_bus_error *) {
         auto *pending = static_cast<PendingCall *>(data);
         MessageBus *bus = pending->bus;
@@ -249,9 +235,8 @@ void MessageBus::deliverReplies()
     const auto replies = std::exchange(m_replies, {});
     for (const auto &[answered, reply] : replies) {
         answered(reply);
-        if (!self) {
+        if (!self)
             return;
-        }
     }
 }
 
@@ -259,9 +244,8 @@ void MessageBus::deliverSignals()
 {
     const QPointer<MessageBus> self(this);
     const auto arrived = std::exchange(m_signals, {});
-    if (!arrived.isEmpty()) {
+    if (!arrived.isEmpty())
         m_pace.start(kPaceInterval);
-    }
     for (const auto &[id, message] : arrived) {
         const auto subscription = m_subscriptions.find(id);
         if (subscription != m_subscriptions.end() && subscription->second.context) {
@@ -269,9 +253,8 @@ void MessageBus::deliverSignals()
             const Receiver received = subscription->second.received;
             received(message);
         }
-        if (!self) {
+        if (!self)
             return;
-        }
     }
 }
 
