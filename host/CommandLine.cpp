@@ -14,6 +14,13 @@ constexpr int kLargestSide = 16384; // in device pixels
 constexpr double kLargestScale = 8.0;
 constexpr double kMostIdleMinutes = 24 * 60;
 
+/// How many arguments without a name belong to an option.
+struct Operands
+{
+    qsizetype least = 0;
+    qsizetype most = 0;
+};
+
 struct Option
 {
     QString name;
@@ -21,6 +28,7 @@ struct Option
     QString valueName = {}; ///< null for a switch
     /// The mode that the option asks for.
     std::optional<Mode> mode = {};
+    Operands operands = {};
 };
 
 const QList<Option> &allOptions()
@@ -39,8 +47,13 @@ const QList<Option> &allOptions()
         {u"scale"_s, u"Device pixels per point of the picture."_s, u"N"_s},
         {u"at"_s, u"Local time of the picture, as 2026-03-14T22:08:30.5."_s, u"TIME"_s},
         {u"preview"_s, u"Draw the picture as a settings thumbnail."_s},
-        {u"idle"_s, u"Wait, and show the clock when the user is idle for so long."_s, u"MINUTES"_s,
-         Mode::Idle},
+        {u"idle"_s,
+         u"Wait, and show the clock when the user is idle for [MINUTES], else for 4."_s,
+         {},
+         Mode::Idle,
+         {0, 1}},
+        {u"idle-at-login"_s, u"Let each session start with that waiting, \"on\" or \"off\"."_s,
+         u"on|off"_s, Mode::IdleAtLogin},
         {u"register-xscreensaver"_s,
          u"Enter the clock in the list of savers in ~/.xscreensaver."_s,
          {},
@@ -50,6 +63,8 @@ const QList<Option> &allOptions()
          u"Show the options; ends with 0 after OK, with 3 after Cancel."_s,
          {},
          Mode::Configure},
+        {u"get"_s, u"Print the setting [KEY], or all with their keys."_s, {}, Mode::Get, {0, 1}},
+        {u"set"_s, u"Store a setting: KEY VALUE."_s, {}, Mode::Set, {2, 2}},
         {u"sheet-snapshot"_s, u"Write the options sheet to FILE as a PNG; needs no display."_s,
          u"FILE"_s, Mode::SheetSnapshot},
         {u"dark"_s, u"Draw the options sheet in its dark appearance."_s},
@@ -102,24 +117,34 @@ std::optional<QDateTime> localTimeFrom(const QString &text)
     return time.isValid() && time.timeSpec() == Qt::LocalTime ? std::optional(time) : std::nullopt;
 }
 
+std::optional<bool> switchFrom(const QString &text)
+{
+    return text == "on"_L1 || text == "off"_L1 ? std::optional(text == "on"_L1) : std::nullopt;
+}
+
 std::optional<QString> fileFrom(const QString &text)
 {
     return text.isEmpty() ? std::nullopt : std::optional(text);
 }
 
-/// Stores the value of the option \p name in \p target. A value that \p read rejects is reported in
-/// \p error.
+/// Stores in \p target what \p text, given for the option \p name, means to \p read. A text that it
+/// rejects is reported in \p error.
 template <typename Read, typename Target>
-void take(const QCommandLineParser &parser, const QString &name, Read read, Target &target,
-          QString &error)
+void takeText(const QString &text, const QString &name, Read read, Target &target, QString &error)
 {
-    if (!parser.isSet(name) || !error.isEmpty())
-        return;
-    const QString text = parser.value(name);
     if (const auto value = read(text))
         target = *value;
     else
         error = u"bad value for --%1: '%2'"_s.arg(name, text);
+}
+
+/// The same for the value of an option that may be given.
+template <typename Read, typename Target>
+void take(const QCommandLineParser &parser, const QString &name, Read read, Target &target,
+          QString &error)
+{
+    if (parser.isSet(name) && error.isEmpty())
+        takeText(parser.value(name), name, read, target, error);
 }
 
 /// An error text when an option of \p dependent is given without any of \p wanted, else null.
@@ -148,13 +173,44 @@ QString conflict(const QCommandLineParser &parser)
     return {};
 }
 
-Mode modeFrom(const QCommandLineParser &parser, bool windowIsNamed)
+/// The option that asks for a mode; null when none does.
+const Option *modeOption(const QCommandLineParser &parser)
 {
     for (const Option &option : allOptions()) {
         if (option.mode && parser.isSet(option.name))
-            return *option.mode;
+            return &option;
     }
-    return windowIsNamed ? Mode::HostWindow : Mode::FullScreen;
+    return nullptr;
+}
+
+/// Writes "--idle=5" as "--idle 5": the parser knows no option whose value may be left out.
+QStringList withOperandsApart(QStringList arguments)
+{
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        const qsizetype dashes = arguments[i].startsWith("--"_L1) ? 2 : 1;
+        const qsizetype equals = arguments[i].indexOf(u'=');
+        for (const Option &option : allOptions()) {
+            if (option.operands.most == 0 || equals < 0 || !arguments[i].startsWith(u'-') ||
+                arguments[i].mid(dashes, equals - dashes) != option.name)
+                continue;
+            arguments.insert(i + 1, arguments[i].mid(equals + 1));
+            arguments[i].truncate(equals);
+            break;
+        }
+    }
+    return arguments;
+}
+
+/// An error text when there are too many or too few arguments without a name, else null.
+QString operandsFault(const QCommandLineParser &parser)
+{
+    const QStringList given = parser.positionalArguments();
+    const Option *option = modeOption(parser);
+    const Operands wanted = option ? option->operands : Operands();
+    if (given.size() > wanted.most)
+        return u"unexpected argument '%1'"_s.arg(given[wanted.most]);
+    return given.size() < wanted.least ? u"--%1 needs KEY and VALUE"_s.arg(option->name)
+                                       : QString();
 }
 
 /// Qt's error text as one line without a capital and a final full stop.
@@ -168,9 +224,9 @@ QString oneLine(QString text)
 
 QString usageFault(const QCommandLineParser &parser)
 {
-    if (!parser.positionalArguments().isEmpty())
-        return u"unexpected argument '%1'"_s.arg(parser.positionalArguments().first());
     if (QString error = conflict(parser); !error.isEmpty())
+        return error;
+    if (QString error = operandsFault(parser); !error.isEmpty())
         return error;
     const std::pair<QStringList, QStringList> companions[] = {
         {{u"at"_s, u"preview"_s}, {u"snapshot"_s}},
@@ -191,7 +247,7 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
 {
     QCommandLineParser parser;
     addOptions(parser);
-    if (!parser.parse(arguments))
+    if (!parser.parse(withOperandsApart(arguments)))
         return UsageError{oneLine(parser.errorText())};
 
     Options options;
@@ -204,10 +260,17 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
     take(parser, u"window-id"_s, windowIdFrom, options.hostWindow, error);
     take(parser, u"size"_s, sizeFrom, options.size, error);
     take(parser, u"scale"_s, positiveNumberUpTo(kLargestScale), options.scale, error);
-    take(parser, u"idle"_s, positiveNumberUpTo(kMostIdleMinutes), options.idleMinutes, error);
+    take(parser, u"idle-at-login"_s, switchFrom, options.idleAtLogin, error);
     take(parser, u"at"_s, localTimeFrom, options.at, error);
     for (const QString &name : {u"snapshot"_s, u"sheet-snapshot"_s})
         take(parser, name, fileFrom, options.pictureFile, error);
+    const QStringList operands = parser.positionalArguments();
+    const Option *option = modeOption(parser);
+    if (error.isEmpty() && option && option->mode == Mode::Idle && !operands.isEmpty())
+        takeText(operands.first(), option->name, positiveNumberUpTo(kMostIdleMinutes),
+                 options.idleMinutes, error);
+    options.settingName = operands.value(0);
+    options.settingText = operands.value(1);
     const double longSide = std::max(options.size.width(), options.size.height());
     if (error.isEmpty() && longSide * options.scale > kLargestSide)
         error =
@@ -215,7 +278,9 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
     if (!error.isEmpty())
         return UsageError{error};
 
-    options.mode = modeFrom(parser, options.hostWindow.has_value());
+    options.mode = option               ? *option->mode
+                   : options.hostWindow ? Mode::HostWindow
+                                        : Mode::FullScreen;
     options.dark = parser.isSet(u"dark"_s);
     options.preview = parser.isSet(u"preview"_s) || parser.isSet(u"window-id"_s);
     return options;

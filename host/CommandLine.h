@@ -26,6 +26,9 @@ enum class Mode {
     Configure,     ///< the options sheet
     SheetSnapshot, ///< the options sheet as a picture
     Idle,          ///< wait for the user to be idle, then every screen
+    IdleAtLogin,   ///< start the waiting with each session, or no longer
+    Get,           ///< print stored settings
+    Set,           ///< store one
     Register,      ///< add the clock to XScreenSaver's list of programs
     Unregister,    ///< remove it from that list
     Help,
@@ -49,8 +52,13 @@ struct Options
     double scale = 1.0;
     /// The local time of the picture; none means now.
     std::optional<QDateTime> at;
-    /// For how long the user has to be idle. Only with Mode::Idle.
-    double idleMinutes = 0.0;
+    /// For how long the user has to be idle; less than the five minutes after which desktops lock.
+    double idleMinutes = 4.0;
+    /// Whether sessions start with the waiting. Only with Mode::IdleAtLogin.
+    bool idleAtLogin = false;
+    /// The setting to print or to store; null means all. Only with Mode::Get and Mode::Set.
+    QString settingName;
+    QString settingText;
 };
 
 /// Reads \p arguments (the program's name first) and \p namedWindow, the value of

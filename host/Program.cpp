@@ -4,8 +4,10 @@
 #include "host/Configuration.h"
 #include "host/Display.h"
 #include "host/HostWindow.h"
+#include "host/IdleAtLogin.h"
 #include "host/IdleMode.h"
 #include "host/SaverHost.h"
+#include "host/SettingsCommand.h"
 #include "host/Snapshot.h"
 #include "host/TerminationSignals.h"
 #include "host/XScreenSaverRegistration.h"
@@ -191,11 +193,18 @@ int asPicture(const Options &options, int argc, char **argv)
                                           : runSheetSnapshot(options, application);
 }
 
-int runRegistration(Registration wanted, int argc, char **argv)
+/// Carries out \p change, which returns the reason for a failure.
+template <typename Change>
+int withoutWindows(Change change, int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QString fault = registerWithXScreenSaver(wanted);
+    const QString fault = change();
     return fault.isNull() ? kSuccess : complain(fault);
+}
+
+int runRegistration(Registration wanted, int argc, char **argv)
+{
+    return withoutWindows([&] { return registerWithXScreenSaver(wanted); }, argc, argv);
 }
 
 } // namespace
@@ -214,6 +223,12 @@ int run(const Options &options, int argc, char **argv)
         return asPicture(options, argc, argv);
     case Mode::Idle:
         return waitForIdleUser(options.idleMinutes, argc, argv);
+    case Mode::IdleAtLogin:
+        return withoutWindows([&] { return startWaitingAtLogin(options.idleAtLogin); }, argc, argv);
+    case Mode::Get:
+        return printSettings(options.settingName, argc, argv);
+    case Mode::Set:
+        return changeSetting(options.settingName, options.settingText, argc, argv);
     case Mode::Register:
         return runRegistration(Registration::Listed, argc, argv);
     case Mode::Unregister:

@@ -12,7 +12,6 @@ namespace {
 
 constexpr qlonglong kDefaultFrom = 1170; // 19:30
 constexpr qlonglong kDefaultTo = 450;    // 07:30
-constexpr qlonglong kLastMinute = 1439;
 constexpr QLatin1StringView kDefaultBase("#000000");
 constexpr QLatin1StringView kDefaultMark("#FFF5E8");
 
@@ -22,13 +21,13 @@ std::optional<qlonglong> minuteFrom(const QVariant &value)
     switch (value.typeId()) {
     case QMetaType::Int:
     case QMetaType::LongLong:
-        return std::clamp(value.toLongLong(), 0LL, kLastMinute);
+        return std::clamp(value.toLongLong(), 0LL, kLastMinuteOfDay);
     case QMetaType::ULongLong:
-        return qlonglong(std::min(value.toULongLong(), qulonglong(kLastMinute)));
+        return qlonglong(std::min(value.toULongLong(), qulonglong(kLastMinuteOfDay)));
     case QMetaType::Double:
         if (std::isnan(value.toDouble()))
             return std::nullopt;
-        return qlonglong(std::clamp(value.toDouble(), 0.0, double(kLastMinute)));
+        return qlonglong(std::clamp(value.toDouble(), 0.0, double(kLastMinuteOfDay)));
     default:
         return std::nullopt;
     }

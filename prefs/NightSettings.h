@@ -10,6 +10,7 @@
 
 inline const QString kNightEnabledKey = QStringLiteral("enabled");
 /// Start and end in minutes after local midnight.
+inline constexpr qlonglong kLastMinuteOfDay = 1439;
 inline const QString kNightFromKey = QStringLiteral("from");
 inline const QString kNightToKey = QStringLiteral("to");
 /// How each end is chosen.

@@ -56,8 +56,18 @@ void SaverPreferences::storeSelectedVariant(const QString &variant)
     QString stored = variant == "black"_L1 ? u"nero"_s : variant;
     if (!popupVariants().contains(stored))
         stored = u"orange"_s;
-    m_writer.write(kSwitchStores, kSelectedVariantKey, stored);
-    tell({{kSelectedVariantKey, stored}});
+    writeVariant(stored);
+}
+
+void SaverPreferences::storeRandomVariant()
+{
+    writeVariant(kRandomVariant);
+}
+
+void SaverPreferences::writeVariant(const QString &variant)
+{
+    m_writer.write(kSwitchStores, kSelectedVariantKey, variant);
+    tell({{kSelectedVariantKey, variant}});
 }
 
 void SaverPreferences::storeCalendarEnabled(bool enabled)

@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <chrono>
+
 namespace platform {
 class DistributedNotifications;
 struct Desktop;
@@ -34,6 +36,9 @@ public:
 
     /// Stores \p variant, or "orange" when it is none that may be stored.
     void storeSelectedVariant(const QString &variant);
+    /// Stores "random": every start of a clock picks a variant. The options sheet does not offer
+    /// it.
+    void storeRandomVariant();
     void storeCalendarEnabled(bool enabled);
     /// Stores \p color as hex text under \p key.
     void storeColor(const QColor &color, const QString &key);
@@ -41,7 +46,10 @@ public:
     void storeNightSettings(const QVariantMap &record);
 
     /// Bracket the writes of one save; see SettingsWriter.
-    platform::StoreOutcome beginSave() { return m_writer.begin(); }
+    platform::StoreOutcome beginSave(std::chrono::milliseconds timeout = {})
+    {
+        return m_writer.begin(timeout);
+    }
     platform::StoreOutcome endSave() { return m_writer.end(); }
 
 Q_SIGNALS:
@@ -49,6 +57,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void writeVariant(const QString &variant);
     void tell(const QVariantMap &userInfo) const;
 
     platform::DistributedNotifications *m_notifications;

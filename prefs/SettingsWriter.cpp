@@ -10,13 +10,16 @@ SettingsWriter::SettingsWriter(PreferenceStores stores) : m_stores(std::move(sto
 {
 }
 
-StoreOutcome SettingsWriter::begin()
+/// Every writer locks the suite first, so only there can others be waiting for.
+StoreOutcome SettingsWriter::begin(std::chrono::milliseconds timeout)
 {
     m_outcome = {};
-    for (const PreferenceDomain *store : {&m_stores.suite, &m_stores.saverDefaults,
-                                          &m_stores.shortNameDefaults, &m_stores.standardDefaults})
-        m_locks.push_back(
-            std::make_unique<PreferenceDomain::WriteLock>(*store, std::chrono::milliseconds(0)));
+    for (const PreferenceDomain *store :
+         {&m_stores.suite, &m_stores.saverDefaults, &m_stores.shortNameDefaults,
+          &m_stores.standardDefaults}) {
+        m_locks.push_back(std::make_unique<PreferenceDomain::WriteLock>(*store, timeout));
+        timeout = std::chrono::milliseconds(0);
+    }
     StoreOutcome suite = m_locks.front()->outcome();
     if (!suite)
         m_locks.clear();

@@ -5,6 +5,7 @@
 
 #include <QVariant>
 
+#include <chrono>
 #include <initializer_list>
 #include <memory>
 #include <vector>
@@ -19,9 +20,9 @@ public:
 
     explicit SettingsWriter(PreferenceStores stores);
 
-    /// Begins a save of several settings: nobody else writes until end(). Does not wait; when the
-    /// suite is refused nothing may be written.
-    platform::StoreOutcome begin();
+    /// Begins a save of several settings: nobody else writes until end(). Waits at most \p timeout
+    /// for other writers of the suite; when that is refused nothing may be written.
+    platform::StoreOutcome begin(std::chrono::milliseconds timeout);
     /// Writes \p value under \p key to \p stores in their order, which begins with the suite.
     void write(std::initializer_list<Store> stores, const QString &key, const QVariant &value);
     /// Ends the save: how its writes went.

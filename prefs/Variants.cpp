@@ -18,8 +18,8 @@ const QStringList &popupVariants()
 const QHash<QString, QString> &variantLabels()
 {
     static const QHash<QString, QString> labels{
-        {u"orange"_s, u"Orange"_s}, {u"blue"_s, u"Blue"_s},     {u"cream"_s, u"Cream"_s},
-        {u"nero"_s, u"Nero"_s},     {u"random"_s, u"Random"_s}, {u"custom"_s, u"Custom"_s},
+        {u"orange"_s, u"Orange"_s}, {u"blue"_s, u"Blue"_s},        {u"cream"_s, u"Cream"_s},
+        {u"nero"_s, u"Nero"_s},     {kRandomVariant, u"Random"_s}, {u"custom"_s, u"Custom"_s},
     };
     return labels;
 }

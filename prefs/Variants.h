@@ -7,9 +7,11 @@
 
 /// The colour variants: their identifiers, their names for the user and their plain colours.
 
+/// Stands for a variant that each start picks anew; honoured where it is stored.
+inline const QString kRandomVariant = QStringLiteral("random");
 /// The variants with artwork of their own; "random" picks among exactly these.
 const QStringList &availableVariants();
-/// The values that may be stored as the selected variant.
+/// The variants that the options sheet may store as the selected one.
 const QStringList &popupVariants();
 const QHash<QString, QString> &variantLabels();
 /// The background of each variant with artwork of its own.

@@ -56,7 +56,7 @@ void PaletteOnScreen::loadNightPalette()
 void PaletteOnScreen::loadDayPalette()
 {
     QString variant = m_settings.lastStoredVariant;
-    if (variant == "random"_L1) {
+    if (variant == kRandomVariant) {
         const auto count = int(availableVariants().size());
         variant = availableVariants().at(QRandomGenerator::system()->bounded(count));
     }

@@ -9,12 +9,20 @@ _tamsel_clock()
         mapfile -t COMPREPLY < <(compgen -f -- "$cur")
         return
         ;;
+    --get | --set)
+        mapfile -t COMPREPLY < <(compgen -W "$(tamsel-clock --get | cut -d ' ' -f 1)" -- "$cur")
+        return
+        ;;
+    --idle-at-login)
+        mapfile -t COMPREPLY < <(compgen -W 'on off' -- "$cur")
+        return
+        ;;
     --window-id | --size | --scale | --at | --idle)
         return
         ;;
     esac
-    mapfile -t COMPREPLY < <(compgen -W '--root --window-id --window --size --idle --configure
-        --register-xscreensaver --unregister-xscreensaver --snapshot --scale --at --preview
+    mapfile -t COMPREPLY < <(compgen -W '--root --window-id --window --size --idle --idle-at-login --configure
+        --get --set --register-xscreensaver --unregister-xscreensaver --snapshot --scale --at --preview
         --sheet-snapshot --dark --help --version' -- "$cur")
 } &&
     complete -F _tamsel_clock tamsel-clock

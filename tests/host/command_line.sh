@@ -37,6 +37,42 @@ for mode in '' --window --configure; do
     QT_QPA_PLATFORM=offscreen:configfile=$PWD/none.json expect 1 'has no screen' ${mode:+$mode}
 done
 
+# Settings as scripts read and write them: what one prints the other takes, and writers at once lose nothing.
+export XDG_CONFIG_HOME=$PWD/config
+expect 2 "'Bogus'" --get Bogus
+expect 2 "'Bogus'" --set Bogus 1
+for bad in 'SelectedVariant black' 'CustomBaseColor #12345' 'CalendarEnabled yes' 'NightSettings.from 1440' \
+    'NightSettings.to 24:00' 'NightSettings.fromMode sunrise' 'NightSettings.enabled '; do
+    expect 2 "${bad%% *}: '${bad#* }'" --set "${bad%% *}" "${bad#* }"
+done
+[ ! -e config ] || fail "a bad value is written: $(find config)"
+cat >wanted <<'END'
+SelectedVariant random
+CustomBaseColor #12AB34
+CustomMarkColor #FFFFFF
+CalendarEnabled true
+NightSettings.enabled true
+NightSettings.fromMode custom
+NightSettings.from 1335
+NightSettings.toMode custom
+NightSettings.to 0
+NightSettings.base #101010
+NightSettings.mark #EEEEEE
+END
+while read -r key value; do
+    "$program" --set "$key" "$value" &
+done <wanted
+wait
+"$program" --set NightSettings.from 22:15 || fail "a time of day"
+"$program" --get | diff wanted - || fail "what is set is not what is got"
+[ "$("$program" --get=CalendarEnabled)" = true ] || fail "one setting"
+rm config/tamsel-clock/org.tamsel.*.plist && mkdir config/tamsel-clock/org.tamsel.VornakClockSaver.plist
+expect 1 org.tamsel.VornakClockSaver.plist --set SelectedVariant blue
+
+"$program" --idle-at-login on && desktop-file-validate config/autostart/*.desktop || fail "an autostart entry"
+grep -qxF "Exec=\"$program\" --idle" config/autostart/*.desktop || fail "it starts $(cat config/autostart/*)"
+"$program" --idle-at-login off && [ -z "$(ls config/autostart)" ] || fail "an entry stays"
+
 mkdir -p moved/bin moved/lib/tamsel-clock
 cp "$program" moved/bin/
 program=moved/bin/tamsel-clock expect 1 'resources are missing' --snapshot a.png

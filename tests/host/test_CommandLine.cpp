@@ -58,6 +58,18 @@ private Q_SLOTS:
         QTEST(options->preview, "preview");
     }
 
+    void waitsForAnIdleUser()
+    {
+        const QHash<QString, double> minutesOf{
+            {u"--idle"_s, 4.0}, {u"--idle 0.5"_s, 0.5}, {u"-idle=7"_s, 7.0}};
+        for (auto it = minutesOf.begin(); it != minutesOf.end(); ++it) {
+            const auto result = parsed(it.key(), {});
+            const auto *options = std::get_if<Options>(&result);
+            QVERIFY2(options && options->mode == Mode::Idle, qPrintable(it.key()));
+            QCOMPARE(options->idleMinutes, it.value());
+        }
+    }
+
     void readsAPicturesOptions()
     {
         const auto result = parsed(
@@ -90,6 +102,9 @@ private Q_SLOTS:
         QTest::newRow("scale nan") << u"--snapshot a --scale nan"_s << u"nan"_s;
         QTest::newRow("idle for no time") << u"--idle 0"_s << u"'0'"_s;
         QTest::newRow("idle for days") << u"--idle 1441"_s << u"1441"_s;
+        QTest::newRow("idle at no login") << u"--idle-at-login maybe"_s << u"maybe"_s;
+        QTest::newRow("idle for two times") << u"--idle=5 6"_s << u"'6'"_s;
+        QTest::newRow("setting without value") << u"--set CalendarEnabled"_s << u"VALUE"_s;
         QTest::newRow("idle in a window") << u"--idle 5 --window"_s << u"exclude"_s;
         QTest::newRow("no such day") << u"--snapshot a --at 2026-02-30T10:00"_s << u"2026-02-30"_s;
         QTest::newRow("not local time") << u"--snapshot a --at 2026-02-03T10:00Z"_s << u"10:00Z"_s;

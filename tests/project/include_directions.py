@@ -17,7 +17,7 @@ KNOWS = {
     "clock": {"calendar", "platform"},
     "settings": {"clock", "calendar", "controls", "night", "prefs", "platform"},
     "saver": {"settings", "clock", "calendar", "night", "prefs", "platform"},
-    "host": {"saver", "night", "platform"},
+    "host": {"saver", "night", "prefs", "platform"},
     "location": {"controls", "night", "prefs", "platform"},
 }
 # Windowing systems and buses stay where another system would replace them.
