@@ -220,14 +220,6 @@ private Q_SLOTS:
         QCOMPARE(picture(&field, 1).copy(besideCaret), resting);
     }
 
-    void timePickerKeepsInside()
-    {
-        QCOMPARE(timePickerFrame({85, 24}, {44.2, 19}), QRectF(32, 4, 45, 19));
-        QCOMPARE(timePickerFrame({85, 24}, {40, 23}),
-                 QRectF(37, 1, 40, 23)); // above the lower edge
-        QCOMPARE(timePickerFrame({85, 24}, {200, 40}), QRectF(6, 0, 71, 24)); // too large
-    }
-
     void inputsShareOneBaselineAndEdge()
     {
         const Appearance light(Appearance::Scheme::Light);

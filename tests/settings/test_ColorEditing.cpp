@@ -60,44 +60,6 @@ class TestColorEditing : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void typedTextIsTakenOverOrRefused_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected"); // null when refused
-        QTest::newRow("six digits") << u"base"_s << u"8A1C2B"_s << u"#8A1C2B"_s;
-        QTest::newRow("night") << u"nightMark"_s << u"#ABCDEF"_s << u"#ABCDEF"_s;
-        QTest::newRow("no digits") << u"mark"_s << u"zz"_s << QString();
-        QTest::newRow("empty") << u"nightBase"_s << u""_s << QString();
-    }
-
-    void typedTextIsTakenOverOrRefused()
-    {
-        QFETCH(QString, key);
-        QFETCH(QString, text);
-        QFETCH(QString, expected);
-        for (const bool byReturn : {true, false}) {
-            Fixture f;
-            QVERIFY(f.open());
-            const QString before = f.draft(key);
-            TamselHexField *field = f.view->fieldForColorKey(key);
-            field->setFocus();
-            field->clear();
-            QTest::keyClicks(field, text);
-            if (byReturn)
-                QTest::keyClick(field, Qt::Key_Return);
-            else
-                QTest::keyClick(field, Qt::Key_Tab);
-            const bool refused = expected.isNull();
-            QCOMPARE(f.draft(key), refused ? before : expected);
-            QCOMPARE(f.shown(key), f.draft(key));
-            QCOMPARE(g_beeps, refused ? 1 : 0);
-            if (!refused) {
-                QCOMPARE(f.sheet().previewMode->selectedSegment(), int(isNightColorKey(key)));
-            }
-        }
-    }
-
     void aFieldIsStillEditedWhileAnotherWindowHasTheKeyboard()
     {
         Fixture f;
@@ -153,20 +115,6 @@ private Q_SLOTS:
         const bool isGround = key.endsWith("base"_L1, Qt::CaseInsensitive);
         const TamselClockPreviewView &preview = *f.sheet().customPreviewView;
         QCOMPARE(isGround ? preview.backgroundColor() : preview.markColor(), QColor(0, 255, 0));
-    }
-
-    void oneEditorIsOpenAtATime()
-    {
-        Fixture f;
-        QVERIFY(f.open());
-        f.click(f.swatch(kNightBaseColorKey));
-        f.view->colorSwatchClicked(f.swatch(kMarkColorKey));
-        QVERIFY(!f.swatch(kNightBaseColorKey)->pickerActive());
-        QVERIFY(f.swatch(kMarkColorKey)->pickerActive());
-        f.popover()->brightnessSlider()->edit(0.0);
-        QCOMPARE(f.draft(kMarkColorKey), u"#000000"_s);
-        QCOMPARE(f.draft(kNightBaseColorKey), u"#000000"_s);
-        QCOMPARE(f.draft(kBaseColorKey), u"#102030"_s);
     }
 
     void whatClosesTheEditor_data()

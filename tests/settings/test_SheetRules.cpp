@@ -9,7 +9,6 @@
 #include "tests/support/ControlPicture.h"
 
 #include <QTest>
-#include <QTimeEdit>
 
 using namespace Qt::StringLiterals;
 using platform::Appearance;
@@ -19,25 +18,6 @@ class TestSheetRules : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void minutesComeBackFromThePicker_data()
-    {
-        QTest::addColumn<int>("minutes");
-        QTest::addColumn<QTime>("time");
-        QTest::newRow("midnight") << 0 << QTime(0, 0);
-        QTest::newRow("morning") << 425 << QTime(7, 5);
-        QTest::newRow("last") << 1439 << QTime(23, 59);
-    }
-
-    void minutesComeBackFromThePicker()
-    {
-        QFETCH(int, minutes);
-        QFETCH(QTime, time);
-        QCOMPARE(dateForMinutes(minutes).time(), time);
-        QTimeEdit picker;
-        picker.setTime(dateForMinutes(minutes).time());
-        QCOMPARE(minutesForPicker(picker), minutes);
-    }
-
     void inkCanBeReadOnItsGround()
     {
         QCOMPARE(inkForLuminance(0.5), QColor(Qt::white));
