@@ -59,7 +59,13 @@ private:
 
     static void bindNotifier(wl_client *client, void *self, quint32 version, quint32 id)
     {
-        static const struct ext_idle_notifier_v1_interface kNotifier = {destroy, notify};
+        // Later versions of the protocol have requests that nobody makes here.
+        static const auto kNotifier = [] {
+            struct ext_idle_notifier_v1_interface requests = {};
+            requests.destroy = destroy;
+            requests.get_idle_notification = notify;
+            return requests;
+        }();
         wl_resource_set_implementation(
             wl_resource_create(client, &ext_idle_notifier_v1_interface, int(version), id),
             &kNotifier, self, nullptr);
