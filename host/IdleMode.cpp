@@ -12,7 +12,6 @@
 #include "platform/ExitStatus.h"
 #include "platform/FileLock.h"
 #include "platform/FileReplacement.h"
-#include "platform/Toolkit.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>
@@ -52,7 +51,6 @@ QString idleLockPath()
 
 int waitForIdleUser(double minutes, int argc, char **argv)
 {
-    platform::prepareToolkit();
     QCoreApplication application(argc, argv);
     const TerminationSignals signalsEndIt;
     const DisplayLifeline display;

@@ -211,6 +211,7 @@ int runRegistration(Registration wanted, int argc, char **argv)
 
 int run(const Options &options, int argc, char **argv)
 {
+    platform::prepareToolkit();
     switch (options.mode) {
     case Mode::Help: {
         const QCoreApplication application(argc, argv);

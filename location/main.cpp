@@ -54,6 +54,7 @@ int reportOutcome(const platform::StoreOutcome &outcome)
 
 int runWithoutWindow(const location::Options &options, int argc, char **argv)
 {
+    platform::prepareToolkit();
     const QCoreApplication application(argc, argv);
     platform::DistributedNotifications notifications;
     const platform::Desktop desktop = desktopWith(notifications);

@@ -39,7 +39,7 @@ done
 
 # Settings as scripts read and write them: what one prints the other takes, and writers at once lose nothing.
 export XDG_CONFIG_HOME=$PWD/config
-expect 2 "'Bogus'" --get Bogus
+LC_ALL=C expect 2 "'Bogus'" --get Bogus
 expect 2 "'Bogus'" --set Bogus 1
 for bad in 'SelectedVariant black' 'CustomBaseColor #12345' 'CalendarEnabled yes' 'NightSettings.from 1440' \
     'NightSettings.to 24:00' 'NightSettings.fromMode sunrise' 'NightSettings.enabled '; do
