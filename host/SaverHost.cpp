@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/SaverHost.h"
 
+#include "host/OverlayLayer.h"
 #include "platform/Clocks.h"
 #include "platform/ScreenSaverView.h"
 
@@ -121,6 +122,7 @@ void SaverHost::cover(QScreen *screen)
     view->setMouseTracking(true);
     view->setScreen(screen);
     view->setGeometry(screen->geometry());
+    putOnOverlayLayer(*view);
     view->showFullScreen();
     // The window receives all input first. A filter on the view would also see its 30 timer events
     // a second.
