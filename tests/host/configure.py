@@ -10,7 +10,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from optionswindow import FOLDER, MODULE, SUITE, Bells, OptionsWindow, stored  # noqa: E402
-from screenreader import click, has, start_desktop, xdotool  # noqa: E402
+from screenreader import click, has, start_desktop, text_of, xdotool  # noqa: E402
 from xhost import ORANGE, Host, check, is_alive, stop, wait_for  # noqa: E402
 
 PROGRAM = sys.argv[1]
@@ -68,7 +68,7 @@ for slider, value in (("Saturation", 1), ("Brightness", 1), ("Hue", 1 / 3)):
 options.expect_text("Day primary hex color", "#00FF00")
 options.click("push button", "Color Picker")
 html = options.control("text", "HTML:")
-check(html.get_text(0, -1).upper() == "#00FF00", "the full panel opens on the colour")
+check(text_of(html).upper() == "#00FF00", "the full panel opens on the colour")
 options.type_into("HTML:", "#C0FFEE")
 xdotool("key", "Tab")
 options.expect_text("Day primary hex color", "#C0FFEE")

@@ -9,7 +9,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from optionswindow import FOLDER, SUITE, OptionsWindow  # noqa: E402
-from screenreader import act, actions, click, has, middle, role_of, start_desktop, until, xdotool  # noqa: E402
+from screenreader import act, actions, click, has, middle, role_of, start_desktop, text_of, until, xdotool  # noqa: E402
 from xhost import check, wait_for  # noqa: E402
 
 EQUAL_TIMES = "Night mode start and end times must be different."
@@ -47,7 +47,7 @@ def described(node):
     role = role_of(node)
     value = None
     if role in ("text", "spin button"):
-        value = node.get_text(0, -1)
+        value = text_of(node)
     elif role in ("radio button", "check box"):
         value = has(node, "CHECKED")
     return role, node.get_name(), node.get_description(), value
@@ -108,14 +108,14 @@ start = window.control("spin button", "Night mode starts at")
 before = middle(start)
 xdotool("mousemove", *before, "click", 4)
 wait_for("a scrolled sheet", lambda: middle(start)[1] > before[1])
-check(start.get_text(0, -1) == "20:00", f"the wheel changes no time: {start.get_text(0, -1)}")
+check(text_of(start) == "20:00", f"the wheel changes no time: {text_of(start)}")
 
 # What it does to a control counts as the user's own doing.
 end = window.control("spin button", "Night mode ends at")
 check((end.get_current_value(), end.get_maximum_value()) == (1200, 1439), "a time has a value in minutes")
 act(end, "Increase")
 wait_for("another end", lambda: has(ok, "ENABLED") and end.get_description() == "")
-check(end.get_text(0, -1) == "20:01", "by a minute")
+check(text_of(end) == "20:01", "by a minute")
 for role, name, present in (("check box", "Night Mode", "push button Night mode end setting"),
                             ("radio button", "Blue", "push button Swap colors")):
     check(act(window.control(role, name), "Toggle"), f"{name} is switched")

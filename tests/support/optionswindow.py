@@ -13,7 +13,7 @@ from Xlib.error import ConnectionClosedError
 from Xlib.ext import record
 from xhost import Host, check, wait_for
 
-from screenreader import Application, click, everything, has, role_of, until, xdotool
+from screenreader import Application, click, everything, has, role_of, text_of, until, xdotool
 
 FOLDER = pathlib.Path(os.environ["XDG_CONFIG_HOME"], "tamsel-clock")
 MODULE = "org.tamsel.VornakClockSaver.plist"
@@ -81,7 +81,7 @@ class OptionsWindow:
         check(False, f"Tab reaches {role} {name}")
 
     def text(self, name, role="text"):
-        return self.control(role, name).get_text(0, -1)
+        return text_of(self.control(role, name))
 
     def expect_text(self, name, text, role="text"):
         wait_for(f"{name} {text}", lambda: self.text(name, role) == text)

@@ -42,6 +42,10 @@ def until(condition, seconds=15):
     return None
 
 
+def text_of(node):
+    return Atspi.Text.get_text(node, 0, -1)
+
+
 def everything(node):
     """The node and all that is in it, in reading order."""
     node.clear_cache()
@@ -60,8 +64,9 @@ def has(node, state):
 def role_of(node):
     """The role by the name of its constant: the names for people are translated and differ between versions."""
     role = node.get_role()
-    # One constant has two names, and releases differ in which comes first.
-    return "push button" if role == Atspi.Role.PUSH_BUTTON else role.value_nick.replace("-", " ")
+    # Buttons are told by two names, and by a third if they open a menu; releases differ in which they use.
+    is_button = role in (Atspi.Role.PUSH_BUTTON, Atspi.Role.PUSH_BUTTON_MENU)
+    return "push button" if is_button else role.value_nick.replace("-", " ")
 
 
 def actions(node):
