@@ -1,0 +1,35 @@
+# SPDX-License-Identifier: MIT
+"""A Wayland compositor of one's own, without a picture that anybody sees."""
+import atexit
+import glob
+import os
+import subprocess
+
+from xhost import wait_for
+
+
+def launch_sway(*outputs):
+    """Starts sway with an output for each of the given lines of its configuration (such as "resolution 800x600"), points
+    WAYLAND_DISPLAY and SWAYSOCK to it and returns its process."""
+    runtime = os.environ["XDG_RUNTIME_DIR"]
+    configuration = os.path.join(runtime, "sway.conf")
+    with open(configuration, "w", encoding="utf-8") as file:
+        file.writelines(f"output HEADLESS-{number} {line}\n" for number, line in enumerate(outputs, 1))
+        file.write("xwayland disable\ndefault_border none\n")
+    own = {"WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1",
+           "WLR_HEADLESS_OUTPUTS": str(len(outputs))}
+    known = set(sockets())
+    # It starts for nobody who could become root; what root owns is this other user's in there.
+    become = ["unshare", "--user", "--map-user=1000", "--map-group=1000"] if os.geteuid() == 0 else []
+    sway = subprocess.Popen([*become, "sway", "-c", configuration], env={**os.environ, **own},
+                            stderr=subprocess.DEVNULL)
+    atexit.register(sway.wait)
+    atexit.register(sway.terminate)
+    os.environ["WAYLAND_DISPLAY"] = wait_for("sway", lambda: set(sockets()) - known).pop()
+    os.environ["SWAYSOCK"] = wait_for("its control", lambda: glob.glob(f"{runtime}/sway-ipc.*.{sway.pid}.sock")).pop()
+    return sway
+
+
+def sockets():
+    found = glob.glob(f"{os.environ['XDG_RUNTIME_DIR']}/wayland-*")
+    return [os.path.basename(name) for name in found if not name.endswith(".lock")]
