@@ -47,7 +47,7 @@ public:
     virtual double ratio() const = 0;
     /// The memory for the next frame, of the given size as far as the window is as large; from
     /// frame to frame it may be another. Its pixels stay as they are left until its next turn; at
-    /// another size they are others. Only when ready.
+    /// another size, and after the window was hidden, they are others. Only when ready.
     virtual FrameMemory &memory(const QSize &size) = 0;
     /// Puts \p blocks, which lie in that memory, in their places on the window. Elsewhere it must
     /// be the last frame presented.

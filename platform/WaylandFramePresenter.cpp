@@ -129,15 +129,6 @@ public:
         return buffer;
     }
 
-    /// The surface that they were given to is gone.
-    void takeBack()
-    {
-        for (Buffer &buffer : m_buffers) {
-            buffer.handle.reset();
-            buffer.isHeld = false;
-        }
-    }
-
 private:
     int stride() const { return m_size.width() * int(sizeof(QRgb)); }
 
@@ -251,15 +242,15 @@ private:
 };
 
 /// A window that is hidden loses its surface, and one that is shown again has another. Nothing may
-/// be asked of a surface that is gone.
+/// be asked of a surface that is gone; another may have its address.
 bool WaylandFramePresenter::eventFilter(QObject *, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::PlatformSurface:
+    case QEvent::Hide:
         take(nullptr);
         [[fallthrough]];
     case QEvent::Expose:
-    case QEvent::Hide:
         m_mayHaveAnother = true;
         break;
     default:
@@ -284,15 +275,18 @@ void WaylandFramePresenter::followExtent()
     m_isFresh = true;
 }
 
+/// The compositor may go on reading what it holds of the last surface, so that memory is not used
+/// again.
 void WaylandFramePresenter::take(wl_surface *surface)
 {
     m_shown = surface;
     m_question.reset();
+    m_isSeen = true;
     m_retired.clear();
+    m_pool.reset();
+    m_next = nullptr;
     m_surface.reset();
     m_isFresh = true;
-    if (m_pool)
-        m_pool->takeBack();
     if (surface)
         m_surface.emplace(surface, m_queue.get());
 }
