@@ -30,8 +30,8 @@ class TestWaylandFrames : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Across two minutes, an hour, a day, a month, the night, the calendar, other scales and
-    /// sizes.
+    /// Across an hour, a day, a month, nights, the calendar, other scales and sizes, also amid a
+    /// fade.
     void whatIsOnScreenIsTheReference()
     {
         Film film(outputPicture, Qt::WindowFullScreen);
@@ -40,20 +40,22 @@ private Q_SLOTS:
         const PreferenceStores &stores = film.f.stores;
         // The toolkit does not follow the scale of a screen before 6.5.
         film.play(
-            isLeftToToolkit ? 400 : 1800,
+            isLeftToToolkit ? 300 : 1000,
             {
-                {300, [&] { SaverFixture::set(stores.suite, kCalendarEnabledKey, true); }},
-                {500, [] { tellCompositor(u"output * scale 2"_s); }},
-                {700, [&] { film.f.setNight(Film::night(true)); }},
-                {900, [] { tellCompositor(u"output * scale 1.5"_s); }},
-                {940, [&] { film.f.setNight(Film::night(false)); }},
-                {1060, [] { tellCompositor(u"output * resolution 96x192 scale 1"_s); }},
-                {1200, [&] { SaverFixture::set(stores.suite, kCalendarEnabledKey, false); }},
-                {1300, [] { tellCompositor(u"output * resolution 288x96 scale 2"_s); }},
-                {1400, [&] { film.view->hide(); }},
-                {1401, [&] { film.show(); }},
-                {1500, [&] { SaverFixture::set(stores.suite, kSelectedVariantKey, u"blue"_s); }},
-                {1600, [] { tellCompositor(u"output * scale 1"_s); }},
+                {50, [&] { SaverFixture::set(stores.suite, kCalendarEnabledKey, true); }},
+                {100, [&] { film.f.setNight(Film::night(true)); }},
+                {200, [&] { film.f.setNight(Film::night(false)); }},
+                {300, [] { tellCompositor(u"output * scale 2"_s); }},
+                {400, [&] { film.f.setNight(Film::night(true)); }},
+                {440, [] { tellCompositor(u"output * scale 1.5"_s); }},
+                {500, [&] { film.f.setNight(Film::night(false)); }},
+                {560, [] { tellCompositor(u"output * resolution 96x192 scale 1"_s); }},
+                {700, [&] { SaverFixture::set(stores.suite, kCalendarEnabledKey, false); }},
+                {760, [] { tellCompositor(u"output * resolution 288x96 scale 2"_s); }},
+                {820, [&] { film.view->hide(); }},
+                {821, [&] { film.show(); }},
+                {880, [&] { SaverFixture::set(stores.suite, kSelectedVariantKey, u"blue"_s); }},
+                {940, [] { tellCompositor(u"output * scale 1"_s); }},
             });
     }
 
