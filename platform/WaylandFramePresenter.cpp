@@ -29,7 +29,7 @@ using std::chrono::steady_clock;
 constexpr quint32 kBufferDamageVersion = 4;
 
 /// Frames between two questions whether the compositor shows them.
-constexpr int kFramesPerQuestion = 10;
+constexpr int kFramesPerQuestion = 30;
 /// A surface whose question is not answered for so long is not seen.
 constexpr std::chrono::milliseconds kPatience(500);
 

@@ -182,10 +182,11 @@ def waiting_needs_a_protocol():
 
 def it_ends_with_the_compositor():
     clocks = [start_clock(), start_clock(**{LEFT_TO_TOOLKIT: "1"})]
+    wait_for("the windows of both", lambda: len(surfaces()) == 2 * len(output_windows()))
     sway.kill()
     for clock in clocks:
-        wait_for("the end with the compositor", lambda: not is_alive(clock))
-        print(clock.returncode, clock.stderr.read())
+        wait_for("the end with the compositor", lambda: not is_alive(clock), 2.0)
+        check(clock.returncode == 1, f"status 1 of a clock without a compositor, not {clock.returncode}")
 
 
 sway = start_sway()

@@ -24,6 +24,8 @@ def launch_sway(*outputs, backend="headless"):
     own = {"WLR_BACKENDS": backend, "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1",
            f"WLR_{backend.upper()}_OUTPUTS": str(len(outputs))}
     known = set(sockets())
+    # The name of a control that is gone would be used again.
+    os.environ.pop("SWAYSOCK", None)
     # It starts for nobody who could become root; what root owns is this other user's in there.
     become = ["unshare", "--user", "--map-user=1000", "--map-group=1000"] if os.geteuid() == 0 else []
     sway = subprocess.Popen([*become, "sway", "-c", configuration], env={**os.environ, **own},
