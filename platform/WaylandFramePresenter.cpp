@@ -8,6 +8,9 @@
 
 #include <sys/mman.h>
 #include <unistd.h>
+
+#include "fractional-scale-v1-client-protocol.h"
+#include "viewporter-client-protocol.h"
 #include <wayland-client.h>
 
 #include <algorithm>
@@ -28,6 +31,9 @@ using std::chrono::steady_clock;
 /// The version of surfaces that takes damage in pixels of the buffer.
 constexpr quint32 kBufferDamageVersion = 4;
 
+/// Scales between whole numbers are told in parts of one.
+constexpr double kScaleUnits = 120.0;
+
 /// Frames between two questions whether the compositor shows them.
 constexpr int kFramesPerQuestion = 30;
 /// A surface whose question is not answered for so long is not seen.
@@ -40,6 +46,10 @@ using Owned = std::unique_ptr<Object, decltype([](Object *object) { destroy(obje
 using Queue = Owned<wl_event_queue, wl_event_queue_destroy>;
 using Shm = Owned<wl_shm, wl_shm_destroy>;
 using Callback = Owned<wl_callback, wl_callback_destroy>;
+using Viewporter = Owned<wp_viewporter, wp_viewporter_destroy>;
+using Viewport = Owned<wp_viewport, wp_viewport_destroy>;
+using ScaleTeller = Owned<wp_fractional_scale_manager_v1, wp_fractional_scale_manager_v1_destroy>;
+using ScaleNews = Owned<wp_fractional_scale_v1, wp_fractional_scale_v1_destroy>;
 
 /// A proxy of an object that Qt owns. What is made through it tells \p queue of its events, so that
 /// Qt takes none of them for its own.
@@ -168,12 +178,7 @@ public:
         static constexpr wl_registry_listener kGlobals = {
             .global =
                 [](void *data, wl_registry *all, quint32 name, const char *kind, quint32 version) {
-                    auto &self = *static_cast<WaylandFramePresenter *>(data);
-                    if (std::strcmp(kind, wl_compositor_interface.name) == 0)
-                        self.m_compositorVersion = version;
-                    if (std::strcmp(kind, wl_shm_interface.name) == 0)
-                        self.m_shm.reset(static_cast<wl_shm *>(
-                            wl_registry_bind(all, name, &wl_shm_interface, 1)));
+                    static_cast<WaylandFramePresenter *>(data)->bind(all, name, kind, version);
                 },
             .global_remove = [](void *, wl_registry *, quint32) {},
         };
@@ -209,9 +214,11 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void bind(wl_registry *all, quint32 name, const char *kind, quint32 version);
     void followSurface();
     void followExtent();
     void take(wl_surface *surface);
+    void followScale();
     bool isSettled() const;
     void ask();
 
@@ -219,11 +226,18 @@ private:
     wl_display *const m_display;
     const Queue m_queue{wl_display_create_queue(m_display)};
     Shm m_shm;
+    /// Null where surfaces have whole numbers for scales, or Qt gives them others itself.
+    Viewporter m_viewporter;
+    ScaleTeller m_scaleTeller;
     quint32 m_compositorVersion = 0;
 
     bool m_mayHaveAnother = true;
     wl_surface *m_shown = nullptr;
     std::optional<Wrapper<wl_surface>> m_surface;
+    Viewport m_viewport;
+    ScaleNews m_scaleNews;
+    /// What the compositor would like it to have; 0 while it has not said.
+    double m_scale = 0.0;
     /// As it was when the window system was last asked.
     WaylandExtent m_extent;
     std::unique_ptr<BufferPool> m_pool;
@@ -240,6 +254,22 @@ private:
     int m_untilQuestion = 0;
     bool m_isSeen = true;
 };
+
+void WaylandFramePresenter::bind(wl_registry *all, quint32 name, const char *kind, quint32 version)
+{
+    const auto take = [&]<typename Global>(Global &global, const wl_interface &interface) {
+        if (std::strcmp(kind, interface.name) == 0)
+            global.reset(static_cast<typename Global::pointer>(
+                wl_registry_bind(all, name, &interface, 1)));
+    };
+    if (std::strcmp(kind, wl_compositor_interface.name) == 0)
+        m_compositorVersion = version;
+    take(m_shm, wl_shm_interface);
+    if (toolkitScalesSurfaces())
+        return;
+    take(m_viewporter, wp_viewporter_interface);
+    take(m_scaleTeller, wp_fractional_scale_manager_v1_interface);
+}
 
 /// A window that is hidden loses its surface, and one that is shown again has another. Nothing may
 /// be asked of a surface that is gone; another may have its address.
@@ -268,7 +298,9 @@ void WaylandFramePresenter::followSurface()
 
 void WaylandFramePresenter::followExtent()
 {
-    const WaylandExtent extent = waylandExtent(m_window);
+    WaylandExtent extent = waylandExtent(m_window);
+    if (m_scale > 0.0)
+        extent = scaledTo(extent, m_scale);
     if (extent == m_extent)
         return;
     m_extent = extent;
@@ -285,10 +317,31 @@ void WaylandFramePresenter::take(wl_surface *surface)
     m_retired.clear();
     m_pool.reset();
     m_next = nullptr;
+    m_scaleNews.reset();
+    m_viewport.reset();
+    m_scale = 0.0;
     m_surface.reset();
     m_isFresh = true;
-    if (surface)
-        m_surface.emplace(surface, m_queue.get());
+    if (!surface)
+        return;
+    m_surface.emplace(surface, m_queue.get());
+    if (m_viewporter && m_scaleTeller)
+        followScale();
+}
+
+/// A buffer with a scale between two whole numbers fits its surface only as a viewport of its size.
+void WaylandFramePresenter::followScale()
+{
+    static constexpr wp_fractional_scale_v1_listener kListener = {
+        .preferred_scale =
+            [](void *data, wp_fractional_scale_v1 *, quint32 scale) {
+                static_cast<WaylandFramePresenter *>(data)->m_scale = scale / kScaleUnits;
+            },
+    };
+    m_viewport.reset(wp_viewporter_get_viewport(m_viewporter.get(), m_surface->get()));
+    m_scaleNews.reset(wp_fractional_scale_manager_v1_get_fractional_scale(m_scaleTeller.get(),
+                                                                          m_surface->get()));
+    wp_fractional_scale_v1_add_listener(m_scaleNews.get(), &kListener, this);
 }
 
 /// Whether the window's QWindow, and so the view, has heard of the surface's size.
@@ -317,6 +370,9 @@ void WaylandFramePresenter::present(std::span<const PixelBlock> blocks)
         return;
     if (m_extent.scale != 0)
         wl_surface_set_buffer_scale(m_surface->get(), m_extent.scale);
+    if (m_viewport && m_isFresh && m_scale > 0.0)
+        wp_viewport_set_destination(m_viewport.get(), m_extent.size.width(),
+                                    m_extent.size.height());
     wl_surface_attach(m_surface->get(), m_next->handle.get(), 0, 0);
     m_next->isHeld = true;
     const auto damage = [this](const QRect &rect) {

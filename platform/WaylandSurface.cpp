@@ -16,6 +16,9 @@ namespace platform {
 
 namespace {
 
+/// Before, Qt does not give its surfaces the new scale of a screen that they are on.
+constexpr bool kToolkitScales = QT_VERSION >= QT_VERSION_CHECK(6, 5, 0);
+
 /// Null where what the private headers say may not be true: of another Qt than we were built with.
 QPlatformNativeInterface *nativeInterface()
 {
@@ -49,19 +52,26 @@ bool takesWaylandBuffers(const QWindow &window)
     return window.handle() && window.handle()->isExposed();
 }
 
+bool toolkitScalesSurfaces()
+{
+    return kToolkitScales;
+}
+
 WaylandExtent waylandExtent(const QWindow &window)
 {
     const QPlatformWindow *native = window.handle();
     if (!native)
         return {};
     const QSize size = native->geometry().size();
-#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
-    // Qt does not give its surfaces the new scale of a screen that they are on.
+    if constexpr (kToolkitScales)
+        return {size, size * native->devicePixelRatio(), window.devicePixelRatio(), 0};
     const double scale = native->screen()->devicePixelRatio();
-    return {size * scale, window.screen()->devicePixelRatio(), int(scale)};
-#else
-    return {size * native->devicePixelRatio(), window.devicePixelRatio(), 0};
-#endif
+    return {size, size * scale, window.screen()->devicePixelRatio(), int(scale)};
+}
+
+WaylandExtent scaledTo(const WaylandExtent &extent, double scale)
+{
+    return {extent.size, extent.size * scale, extent.ratio / extent.scale * scale, 1};
 }
 
 } // namespace platform

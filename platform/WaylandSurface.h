@@ -23,8 +23,10 @@ bool takesWaylandBuffers(const QWindow &window);
 /// How large the picture on a surface is, and how dense.
 struct WaylandExtent
 {
-    /// Pixels of a buffer that fills the surface. Of a window between two sizes it is the new one,
-    /// which its QWindow may not know yet.
+    /// In the compositor's points. Of a window between two sizes it is the new one, which its
+    /// QWindow may not know yet.
+    QSize size;
+    /// Pixels of a buffer that fills the surface.
     QSize pixels;
     /// Pixels per point of Qt.
     double ratio = 1.0;
@@ -36,5 +38,12 @@ struct WaylandExtent
 
 /// That of the surface of \p window, which it has.
 WaylandExtent waylandExtent(const QWindow &window);
+
+/// \p extent, whose scale Qt does not keep up to date, at \p scale pixels per point, which need be
+/// no whole number: the surface must be told its size then.
+WaylandExtent scaledTo(const WaylandExtent &extent, double scale);
+
+/// Whether Qt keeps the scale of its surfaces up to date.
+bool toolkitScalesSurfaces();
 
 } // namespace platform
