@@ -259,8 +259,8 @@ void WaylandFramePresenter::bind(wl_registry *all, quint32 name, const char *kin
 {
     const auto take = [&]<typename Global>(Global &global, const wl_interface &interface) {
         if (std::strcmp(kind, interface.name) == 0)
-            global.reset(static_cast<typename Global::pointer>(
-                wl_registry_bind(all, name, &interface, 1)));
+            global.reset(
+                static_cast<typename Global::pointer>(wl_registry_bind(all, name, &interface, 1)));
     };
     if (std::strcmp(kind, wl_compositor_interface.name) == 0)
         m_compositorVersion = version;
@@ -339,8 +339,8 @@ void WaylandFramePresenter::followScale()
             },
     };
     m_viewport.reset(wp_viewporter_get_viewport(m_viewporter.get(), m_surface->get()));
-    m_scaleNews.reset(wp_fractional_scale_manager_v1_get_fractional_scale(m_scaleTeller.get(),
-                                                                          m_surface->get()));
+    m_scaleNews.reset(
+        wp_fractional_scale_manager_v1_get_fractional_scale(m_scaleTeller.get(), m_surface->get()));
     wp_fractional_scale_v1_add_listener(m_scaleNews.get(), &kListener, this);
 }
 
@@ -380,8 +380,8 @@ void WaylandFramePresenter::present(std::span<const PixelBlock> blocks)
     };
     if (m_isFresh)
         damage(QRect(QPoint(), m_pool->size()));
-    for (const PixelBlock &block : blocks)
-        damage(block.rect);
+    else
+        std::ranges::for_each(blocks, damage, &PixelBlock::rect);
     m_isFresh = false;
     if (!m_question && --m_untilQuestion <= 0)
         ask();
