@@ -91,15 +91,16 @@ QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &fram
     QImage &picture = memory.picture;
     const bool isKnown =
         m_shown && m_room == memory.room && m_size == picture.size() && m_toDevice == toDevice;
-    QRegion damage =
-        isKnown ? frameDamage(*m_shown, frame, toDevice.m11()) : QRegion(picture.rect());
+    QRegion damage = isKnown ? frameDamage(*m_shown, frame, toDevice.m11()) & picture.rect()
+                             : QRegion(picture.rect());
     if (damage.isEmpty())
         return damage;
     const bool isSteady = isKnown && sameStill(*m_shown, frame);
-    if (isSteady) {
+    if (isKnown && (isSteady || !memory.room))
         m_secondHand.takeOff();
-    } else {
+    else
         m_secondHand.forget();
+    if (!isSteady) {
         const bool sameShapes = isKnown && sameStill(whiteOnBlack(*m_shown), whiteOnBlack(frame));
         ClockFrame still = frame;
         still.artwork.secondImage = {};
@@ -152,7 +153,7 @@ void FrameSurface::drawFading(QImage &picture, const ClockFrame &still, const QT
 void FrameSurface::layLane(platform::FrameMemory &memory, const QRegion &way, bool isFading)
 {
     const QRegion area = way & memory.picture.rect();
-    if (isFading)
+    if (isFading || !memory.room)
         m_lane.leave(platform::blockOf(memory.picture), area);
     else
         m_lane.lay(platform::blockOf(memory.picture), memory.room, area);
@@ -168,5 +169,27 @@ std::span<const platform::PixelBlock> FrameSurface::blocks(platform::FrameMemory
 
 void FrameSurface::forget()
 {
+    m_shown.reset();
+}
+
+QRegion FrameSurfaces::show(platform::FrameMemory &memory, const ClockFrame &frame,
+                            const QTransform &toDevice)
+{
+    if (m_size != memory.picture.size() || m_toDevice != toDevice)
+        forget();
+    QRegion changed = m_surfaces[memory.turn].show(memory, frame, toDevice);
+    if (m_shown && m_turn != memory.turn)
+        changed = frameDamage(*m_shown, frame, toDevice.m11()) & memory.picture.rect();
+    m_shown = frame;
+    m_turn = memory.turn;
+    m_size = memory.picture.size();
+    m_toDevice = toDevice;
+    return changed;
+}
+
+void FrameSurfaces::forget()
+{
+    for (FrameSurface &surface : m_surfaces)
+        surface.forget();
     m_shown.reset();
 }

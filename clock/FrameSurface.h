@@ -12,6 +12,7 @@
 #include <QRegion>
 #include <QTransform>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -77,12 +78,38 @@ private:
     QTransform m_toDevice;
     const QRgb *m_room = nullptr;
     QSize m_size;
-    /// The picture is without the second hand, which is drawn in its lane. In a fade the lane is
-    /// part of the picture.
+    /// The picture is without the second hand, which is drawn in its lane. In a fade, and without
+    /// room for one elsewhere, the lane is part of the picture.
     HandLane m_lane;
     SecondHand m_secondHand;
     /// In a fade, all but the second hand.
     Silhouette m_silhouette;
     std::vector<platform::PixelBlock> m_blocks;
     FrameScratch m_scratch;
+};
+
+/// The same with memories that take turns: each is behind by some frames when its turn comes.
+class FrameSurfaces
+{
+public:
+    /// Makes \p memory hold \p frame. Returns the pixels that may differ from the last frame shown,
+    /// in whichever memory that was.
+    QRegion show(platform::FrameMemory &memory, const ClockFrame &frame,
+                 const QTransform &toDevice);
+
+    /// As those of FrameSurface.
+    std::span<const platform::PixelBlock> blocks(platform::FrameMemory &memory, const QRegion &area)
+    {
+        return m_surfaces[memory.turn].blocks(memory, area);
+    }
+
+    /// The next frames are drawn whole.
+    void forget();
+
+private:
+    std::array<FrameSurface, platform::FrameMemory::kMostTurns> m_surfaces;
+    std::optional<ClockFrame> m_shown;
+    size_t m_turn = 0;
+    QSize m_size;
+    QTransform m_toDevice;
 };

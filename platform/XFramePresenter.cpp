@@ -142,7 +142,10 @@ private:
 class XFramePresenter final : public FramePresenter
 {
 public:
-    explicit XFramePresenter(xcb_window_t window) : m_window(window) {}
+    explicit XFramePresenter(QWindow &window)
+        : m_qtWindow(window), m_window(xcb_window_t(window.winId()))
+    {
+    }
 
     /// Whether this can present to the window.
     bool start()
@@ -178,6 +181,8 @@ public:
 
     bool isSeen() const override { return !m_isCovered && m_isOn; }
     bool isReady() const override { return !m_isOpen; }
+
+    double ratio() const override { return m_qtWindow.devicePixelRatio(); }
 
     FrameMemory &memory(const QSize &size) override
     {
@@ -251,6 +256,7 @@ private:
     }
 
     const Connection m_connection;
+    const QWindow &m_qtWindow;
     const xcb_window_t m_window;
     xcb_gcontext_t m_context = XCB_NONE;
     uint8_t m_depth = 0;
@@ -271,7 +277,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<FramePresenter> makeFramePresenter(QWindow &window)
+std::unique_ptr<FramePresenter> makeXFramePresenter(QWindow &window)
 {
     const auto *x = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (!x || !x->connection())
@@ -279,7 +285,7 @@ std::unique_ptr<FramePresenter> makeFramePresenter(QWindow &window)
     // The window is known to other connections only when the server has heard of it on Qt's.
     std::free(
         xcb_get_input_focus_reply(x->connection(), xcb_get_input_focus(x->connection()), nullptr));
-    auto presenter = std::make_unique<XFramePresenter>(xcb_window_t(window.winId()));
+    auto presenter = std::make_unique<XFramePresenter>(window);
     if (!presenter->start())
         return nullptr;
     return presenter;

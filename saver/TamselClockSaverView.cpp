@@ -85,7 +85,7 @@ void TamselClockSaverView::presentFrame()
 {
     if (!presenter()->isReady())
         return;
-    const double ratio = devicePixelRatioF();
+    const double ratio = presenter()->ratio();
     const QTransform toDevice = QTransform::fromScale(ratio, ratio);
     platform::FrameMemory &memory =
         presenter()->memory(toDevice.mapRect(QRectF(rect())).toAlignedRect().size());
@@ -94,11 +94,11 @@ void TamselClockSaverView::presentFrame()
         return;
     }
     m_shown = frameAt(clocks().now(), ratio);
-    QRegion changed = m_surface.show(memory, m_shown, toDevice);
+    QRegion changed = m_surfaces.show(memory, m_shown, toDevice);
     if (!m_exposed.isEmpty())
         changed += pixelsTouched(m_exposed, toDevice) & memory.picture.rect();
     m_exposed = {};
-    presenter()->present(m_surface.blocks(memory, changed));
+    presenter()->present(m_surfaces.blocks(memory, changed));
 }
 
 bool TamselClockSaverView::isSeen() const
@@ -155,7 +155,7 @@ void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)
 void TamselClockSaverView::showEvent(QShowEvent *event)
 {
     ScreenSaverView::showEvent(event);
-    m_surface.forget();
+    m_surfaces.forget();
 }
 
 /// A partial repaint shows the frame on screen; a repaint of the whole view begins a new frame.

@@ -143,7 +143,7 @@ private:
     double m_shownRatio = 0.0;
     /// Draw it, through Qt or for the presenter.
     FramePainter m_painter;
-    FrameSurface m_surface;
+    FrameSurfaces m_surfaces;
     /// Points of the presented window to put anew with the next frame.
     QRegion m_exposed;
     std::unique_ptr<OptionsSheet> m_options;

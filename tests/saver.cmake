@@ -11,3 +11,14 @@ tamsel_script_test(saver_presented_frames support/on_x.py
     ARGS -- $<TARGET_FILE:test_FramePainter> whatIsOnScreenIsTheReference aServerThatLagsLeavesNoTrace)
 tamsel_script_test(saver_painted_frames support/on_x.py
     ARGS -extension MIT-SHM -- $<TARGET_FILE:test_FramePainter> whatIsOnScreenIsTheReference)
+# The same on a Wayland compositor.
+if(QT_WINDOW_SYSTEM_HEADERS)
+    add_executable(wayland_frames saver/wayland_frames.cpp)
+    set_target_properties(wayland_frames PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_compile_definitions(wayland_frames PRIVATE TAMSEL_TEST_BUNDLE="${CMAKE_BINARY_DIR}/${TAMSEL_BUNDLE_DIR}")
+    target_link_libraries(wayland_frames PRIVATE Qt6::Test tamsel_saver)
+    tamsel_script_test(saver_wayland_frames support/on_sway.py LABELS host
+        ARGS "resolution 192x120" -- $<TARGET_FILE:wayland_frames>)
+    tamsel_script_test(saver_wayland_painted_frames support/on_sway.py LABELS host
+        ARGS "resolution 192x120" -- env QT_WAYLAND_RECONNECT=1 $<TARGET_FILE:wayland_frames> whatIsOnScreenIsTheReference)
+endif()

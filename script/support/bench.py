@@ -59,19 +59,20 @@ def starts():
         "empty window", "one surface: 8 above")
 
 
-def cpu(pixels):
-    """CPU of client and server together, against a bare program that puts as many pixels."""
+def cpu(pixels, usages, server):
+    """CPU of client and server together, against a bare program that puts as many pixels, and one that always puts as
+    many."""
     for size, (width, height) in SIZES.items():
-        print(f"\n### In motion, {size}\n\nPer cent of one core, client and server.\n")
-        row("what", "client", "server", "together", "floors", "wake-ups a second")
-        row(*["---"] * 6)
+        print(f"\n### In motion under {server}, {size}\n\nPer cent of one core, client and server.\n")
+        row("what", "client", "server", "together", "floors", "floors of 420 x 420", "wake-ups a second")
+        row(*["---"] * 7)
         put = round(pixels[f"paint/steady/{width}/{height}"])
-        usages = processes.usages(BUILD, width, height, put, half_turns=1 if QUICK else 2, seconds=3)
-        floor = usages["floor"].total
-        for name, usage in usages.items():
+        found = usages(BUILD, width, height, put, half_turns=1 if QUICK else 2, seconds=3)
+        floor, fixed = found["floor"].total, found["floor: 420 x 420 pixels"].total
+        for name, usage in found.items():
             label = f"floor: {put} pixels" if name == "floor" else name
             row(label, f"{usage.client:.2f}", f"{usage.server:.2f}", f"{usage.total:.2f}",
-                f"{usage.total / floor:.2f}", f"{usage.wakes:.0f}")
+                f"{usage.total / floor:.2f}", f"{usage.total / fixed:.2f}", f"{usage.wakes:.0f}")
 
 
 def main():
@@ -82,7 +83,8 @@ def main():
     frames(times)
     units()
     starts()
-    cpu(pixels)
+    cpu(pixels, processes.x_usages, "X")
+    cpu(pixels, processes.wayland_usages, "sway")
 
 
 main()

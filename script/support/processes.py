@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What whole programs cost on an X server: CPU of client and server, wake-ups, start, memory."""
+"""What whole programs cost on an X server or a Wayland compositor: CPU of client and server, wake-ups, start, memory."""
 import contextlib
 import os
 import pathlib
@@ -13,9 +13,11 @@ import sys
 import tempfile
 import threading
 import time
+from collections.abc import Callable
 from dataclasses import dataclass, fields
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent.parent / "tests" / "support"))
+import swayhost  # noqa: E402
 import xhost  # noqa: E402
 
 NO_COLOUR = (255, 0, 255)
@@ -39,6 +41,14 @@ class Usage:
     @property
     def total(self):
         return self.client + self.server
+
+
+@dataclass
+class Case:
+    """A program, what else goes on while it is watched, and whether it shows the second hand, whose slant decides."""
+    command: list
+    around: Callable = contextlib.nullcontext
+    sweeps: bool = False
 
 
 @dataclass
@@ -120,35 +130,58 @@ def mean(usages):
     return Usage(*(statistics.mean(getattr(usage, field.name) for usage in usages) for field in fields(Usage)))
 
 
-def usages(build, width, height, pixels, half_turns, seconds):
-    """The mean usage of each program by name, all measured in turns."""
-    size = f"{width}x{height}"
-    floor = build / "benchmarks" / "floor"
-    clock = [build / "bin" / "tamsel-clock"]
-    cases = {
-        "floor": ([floor, size, str(pixels)], contextlib.nullcontext),
-        "floor: 420 x 420 pixels": ([floor, size, str(420 * 420)], contextlib.nullcontext),
-        "the clock": (clock, contextlib.nullcontext),
-        "the clock with calendar": (clock, lambda: stored({"CalendarEnabled": True})),
-        "the clock in a fade": (clock, fading),
-        "the clock as a thumbnail": ([*clock, "--window", "--size", "240x135"], contextlib.nullcontext),
-        "xclock -render": (["xclock", "-analog", "-render", "-update", "0.033", "-geometry", f"{size}+0+0"],
-                           contextlib.nullcontext),
-        "swisswatch": (["swisswatch", "-tick", "0.033", "-geometry", f"{size}+0+0"], contextlib.nullcontext),
-        "fuzzyflakes": ([HACKS / "fuzzyflakes", "-root"], contextlib.nullcontext),
-    }
-    server = xhost.launch_x_server("-screen", "0", f"{size}x24").pid
-    sweeping = {"the clock", "the clock with calendar"}
-    measured = {}
+def measured(cases, server, half_turns, seconds):
+    """The mean usage of each program by name, all measured in turns. Of the second hand's half turn, sweeping ones show
+    all; others are watched for some seconds."""
+    found = {}
     for part in range(2 * half_turns):
-        for name, (command, around) in cases.items():
-            if not shutil.which(command[0]):
-                sys.exit(f"{command[0]} is not installed")
-            phase = part % 2 * SWEEP_SECONDS if name in sweeping else None
-            with around():
-                parts = measured.setdefault(name, [])
-                parts.append(usage(command, server, SWEEP_SECONDS if name in {"floor", *sweeping} else seconds, phase))
-    return {name: mean(parts) for name, parts in measured.items()}
+        for name, case in cases.items():
+            if not shutil.which(case.command[0]):
+                sys.exit(f"{case.command[0]} is not installed")
+            phase = part % 2 * SWEEP_SECONDS if case.sweeps else None
+            with case.around():
+                watched = SWEEP_SECONDS if case.sweeps or name == "floor" else seconds
+                found.setdefault(name, []).append(usage(case.command, server, watched, phase))
+    return {name: mean(parts) for name, parts in found.items()}
+
+
+def common_cases(floor, size, pixels, clock):
+    return {
+        "floor": Case([floor, size, str(pixels)]),
+        "floor: 420 x 420 pixels": Case([floor, size, str(420 * 420)]),
+        "the clock": Case(clock, sweeps=True),
+        "the clock with calendar": Case(clock, lambda: stored({"CalendarEnabled": True}), sweeps=True),
+        "the clock in a fade": Case(clock, fading),
+    }
+
+
+def x_usages(build, width, height, pixels, half_turns, seconds):
+    size = f"{width}x{height}"
+    clock = [build / "bin" / "tamsel-clock"]
+    cases = common_cases(build / "benchmarks" / "floor", size, pixels, clock) | {
+        "the clock as a thumbnail": Case([*clock, "--window", "--size", "240x135"]),
+        "xclock -render": Case(["xclock", "-analog", "-render", "-update", "0.033", "-geometry", f"{size}+0+0"]),
+        "swisswatch": Case(["swisswatch", "-tick", "0.033", "-geometry", f"{size}+0+0"]),
+        "fuzzyflakes": Case([HACKS / "fuzzyflakes", "-root"]),
+    }
+    server = xhost.launch_x_server("-screen", "0", f"{size}x24")
+    return measured(cases, server.pid, half_turns, seconds)
+
+
+def wayland_usages(build, width, height, pixels, half_turns, seconds):
+    size = f"{width}x{height}"
+    clock = [build / "bin" / "tamsel-clock"]
+    through_toolkit = ["env", f"{swayhost.LEFT_TO_TOOLKIT}=1", *clock]
+    cases = common_cases(build / "benchmarks" / "wayland_floor", size, pixels, clock) | {
+        "the clock through the toolkit": Case(through_toolkit, sweeps=True),
+        "the clock in a fade through the toolkit": Case(through_toolkit, fading),
+    }
+    sway = swayhost.launch_sway(f"resolution {size}")
+    try:
+        return measured(cases, sway.pid, half_turns, seconds)
+    finally:
+        sway.terminate()
+        sway.wait()
 
 
 def first_frame(command, host):

@@ -15,6 +15,7 @@ from Xlib.ext import res
 import growth
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent.parent / "tests" / "support"))
+import swayhost  # noqa: E402
 import xhost  # noqa: E402
 
 SECONDS_BETWEEN = 5.0
@@ -67,16 +68,8 @@ class WaylandScreen:
     name = "Wayland"
 
     def __init__(self):
-        runtime = pathlib.Path(os.environ["XDG_RUNTIME_DIR"])
-        configuration = runtime / "sway.conf"
-        configuration.write_text(f"output * resolution {SCREEN}\nxwayland disable\n")
-        own = {"WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1"}
-        # It starts for nobody who could become root; what root owns is this other user's in there.
-        become = ["unshare", "--user", "--map-user=1000", "--map-group=1000"] if os.geteuid() == 0 else []
-        self.server = subprocess.Popen([*become, "sway", "-c", configuration], env={**os.environ, **own},
-                                       stderr=subprocess.DEVNULL)
-        socket = xhost.wait_for("sway", lambda: [name for name in runtime.glob("wayland-*") if name.suffix != ".lock"])
-        self.environment = {"WAYLAND_DISPLAY": socket[0].name, "QT_QPA_PLATFORM": "wayland"}
+        self.server = swayhost.launch_sway(f"resolution {SCREEN}")
+        self.environment = {"WAYLAND_DISPLAY": os.environ["WAYLAND_DISPLAY"], "QT_QPA_PLATFORM": "wayland"}
 
     def held_for(self, _pid):
         return "", ""

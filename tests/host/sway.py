@@ -1,7 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The clock under sway, whose outputs are windows of an X server and can so be plugged, unplugged and pointed at."""
-import glob
 import json
 import os
 import signal
@@ -10,31 +9,23 @@ import sys
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
+from swayhost import LEFT_TO_TOOLKIT, launch_sway  # noqa: E402
 from xhost import ORANGE, Host, check, is_alive, start_x_server, stop, wait_for  # noqa: E402
 from Xlib.protocol import event  # noqa: E402
 
 start_x_server("-screen", "0", "2500x820x24")
-os.environ.update(WLR_BACKENDS="x11", WLR_RENDERER="pixman", WLR_X11_OUTPUTS="2", WLR_LIBINPUT_NO_DEVICES="1")
 os.environ.pop("QT_QPA_PLATFORM", None)
 os.environ.pop("WAYLAND_DISPLAY", None)
 host = Host()
 host.display.xfixes_query_version()
 # Known before sway starts, since it only takes what is there.
 WM_PROTOCOLS, WM_DELETE_WINDOW = map(host.display.intern_atom, ["WM_PROTOCOLS", "WM_DELETE_WINDOW"])
-CONFIGURATION = os.path.join(os.environ["HOME"], "sway.conf")
 BLACK = (0, 0, 0)
 
 
 def start_sway():
-    with open(CONFIGURATION, "w", encoding="utf-8") as file:
-        file.write("output X11-1 resolution 1280x720 position 0,0 scale 2\n"
-                   "output X11-2 resolution 1200x810 position 640,0 scale 1.5\n"
-                   "output * background #203040 solid_color\n")
-    sway = subprocess.Popen(["sway", "-c", CONFIGURATION], stderr=subprocess.DEVNULL)
-    runtime = os.environ["XDG_RUNTIME_DIR"]
-    os.environ["SWAYSOCK"] = wait_for("sway", lambda: glob.glob(f"{runtime}/sway-ipc.*.sock"))[0]
-    os.environ["WAYLAND_DISPLAY"] = os.path.basename(wait_for("a socket", lambda: [
-        name for name in glob.glob(f"{runtime}/wayland-*") if not name.endswith(".lock")])[0])
+    sway = launch_sway("resolution 1280x720 position 0,0 scale 2", "resolution 1200x810 position 640,0 scale 1.5",
+                       backend="x11")
     wait_for("two outputs", lambda: len(output_windows()) == 2)
     return sway
 
@@ -86,7 +77,7 @@ def is_covered(window):
 
 
 def surfaces():
-    """The clock's windows in sway's tree: (output, whether full screen)."""
+    """The clock's windows in sway's tree: (output, whether full screen). Surfaces on the overlay layer are not in it."""
     found = []
 
     def visit(node, output):
@@ -114,8 +105,8 @@ def type_key():
     subprocess.run(["wtype", "-s", "500", "a", "-s", "200"], check=True)
 
 
-def start_clock():
-    clock = subprocess.Popen(["tamsel-clock"], stderr=subprocess.PIPE, text=True)
+def start_clock(**variables):
+    clock = subprocess.Popen(["tamsel-clock"], stderr=subprocess.PIPE, text=True, env={**os.environ, **variables})
     wait_for("every output covered", lambda: all(map(is_covered, output_windows())))
     return clock
 
@@ -128,7 +119,8 @@ def ended(clock, how):
 def every_output_is_covered_at_its_scale():
     xdotool("mousemove", "300", "300")
     clock = start_clock()
-    check(surfaces() == [("X11-1", True), ("X11-2", True)], f"one full-screen surface per output, not {surfaces()}")
+    check(surfaces() in ([], [("X11-1", True), ("X11-2", True)]),
+          f"one surface per output, full screen or above all, not {surfaces()}")
     look("sway")
     time.sleep(0.3)
     cursor = host.display.xfixes_get_cursor_image(host.screen.root)
@@ -160,7 +152,7 @@ def outputs_come_and_go():
     xdotool("mousemove", "5", "800")  # on no output
     clock = start_clock()
     unplug(output_windows()[1])
-    wait_for("one surface left", lambda: surfaces() == [("X11-1", True)])
+    wait_for("one surface left", lambda: surfaces() in ([], [("X11-1", True)]) and is_covered(output_windows()[0]))
     new = plug_in(1280)
     wait_for("the new output covered", lambda: is_covered(new))
     look("sway-new")
@@ -189,10 +181,22 @@ def waiting_needs_a_protocol():
     check(idle.returncode == 1 and idle.stderr.count("\n") == 1, f"status 1 and one line, not: {idle}")
 
 
+def it_ends_with_the_compositor():
+    clocks = [start_clock(), start_clock(**{LEFT_TO_TOOLKIT: "1"})]
+    if surfaces():
+        wait_for("the windows of both", lambda: len(surfaces()) == 2 * len(output_windows()))
+    else:
+        time.sleep(1.0)
+    sway.kill()
+    for clock in clocks:
+        wait_for("the end with the compositor", lambda: not is_alive(clock), 2.0)
+        check(clock.returncode == 1, f"status 1 of a clock without a compositor, not {clock.returncode}")
+
+
 sway = start_sway()
 place(output_windows()[1], 1280)
 every_output_is_covered_at_its_scale()
 outputs_come_and_go()
 swayidle_starts_it()
 waiting_needs_a_protocol()
-sway.terminate()
+it_ends_with_the_compositor()

@@ -3,14 +3,10 @@
 #include "clock/ColorBlend.h"
 #include "clock/FrameDamage.h"
 #include "clock/FramePainter.h"
+#include "tests/support/Film.h"
 #include "tests/support/Frames.h"
-#include "tests/support/Pixels.h"
-#include "tests/support/SaverFixture.h"
 
-#include <QDeadlineTimer>
-#include <QRandomGenerator>
 #include <QScreen>
-#include <QTest>
 
 #include <csignal>
 #include <xcb/xcb.h>
@@ -18,25 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// An edge drawn inside a clip may differ from one drawn whole by this much of 255.
-constexpr int kEdgeTolerance = 4;
-
-/// A window system may be behind, so that a frame is left out.
-constexpr int kLooks = 200;
-
-const QDateTime kShortlyBeforeMidnight(QDate(2026, 3, 31), QTime(23, 59, 40));
-
-QVariantMap night(bool enabled)
-{
-    return {{u"enabled"_s, enabled},
-            {u"from"_s, 0},
-            {u"to"_s, 1439},
-            {u"fromMode"_s, u"custom"_s},
-            {u"toMode"_s, u"custom"_s},
-            {u"base"_s, u"#101820"_s},
-            {u"mark"_s, u"#C0A080"_s}};
-}
 
 /// Whether \p actual is \p expected but for edges.
 bool isSamePicture(const QImage &actual, const QImage &expected)
@@ -80,49 +57,10 @@ platform::SvgImage shadedHand()
            <circle cx="50" cy="50" r="6" fill="#00f"/></g></svg>)");
 }
 
-/// A saver on the screen of this test's platform, one frame after the other.
-class Film
+QImage windowPicture(TamselClockSaverView &view)
 {
-public:
-    Film()
-    {
-        f.clocks.setNow(kShortlyBeforeMidnight);
-        view = f.makeView(false);
-        view->resize(160, 100);
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view.get()));
-        view->setAnimationTimeInterval(0.001);
-        view->startAnimation();
-    }
-
-    /// Lets the next frame be shown; whether the screen becomes the reference.
-    bool next()
-    {
-        f.clocks.advance(1.0 / 30.0);
-        int difference = kEdgeTolerance + 1;
-        for (int look = 0; look < kLooks && difference > kEdgeTolerance; ++look) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-            const QImage screen = view->screen()->grabWindow(view->winId()).toImage();
-            difference = pixels::largestDifference(screen.convertToFormat(QImage::Format_RGB32),
-                                                   SaverFixture::picture(*view));
-        }
-        if (difference > kEdgeTolerance)
-            qWarning("differs by %d of 255", difference);
-        return difference <= kEdgeTolerance;
-    }
-
-    /// Lets frames be shown that nobody looks at.
-    void run(int milliseconds)
-    {
-        for (const QDeadlineTimer end(milliseconds); !end.hasExpired();) {
-            f.clocks.advance(0.2);
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
-    }
-
-    SaverFixture f;
-    std::unique_ptr<TamselClockSaverView> view;
-};
+    return view.screen()->grabWindow(view.winId()).toImage();
+}
 
 } // namespace
 
@@ -134,21 +72,19 @@ private Q_SLOTS:
     /// Across two minutes, an hour, a day, a month, the night, the calendar, and other sizes.
     void whatIsOnScreenIsTheReference()
     {
-        Film film;
-        const std::map<int, std::function<void()>> turns{
-            {300, [&] { SaverFixture::set(film.f.stores.suite, kCalendarEnabledKey, true); }},
-            {700, [&] { film.view->resize(100, 160); }},
-            {900, [&] { film.f.setNight(night(true)); }},
-            {1100, [&] { film.f.setNight(night(false)); }},
-            {1300, [&] { SaverFixture::set(film.f.stores.suite, kCalendarEnabledKey, false); }},
-            {1500, [&] { film.view->resize(300, 90); }},
-            {1600, [&] { SaverFixture::set(film.f.stores.suite, kSelectedVariantKey, u"blue"_s); }},
-        };
-        for (int frame = 0; frame < 2000; ++frame) {
-            if (const auto turn = turns.find(frame); turn != turns.end())
-                turn->second();
-            QVERIFY2(film.next(), qPrintable(u"frame %1"_s.arg(frame)));
-        }
+        Film film(windowPicture);
+        const PreferenceStores &stores = film.f.stores;
+        film.play(
+            2000,
+            {
+                {300, [&] { SaverFixture::set(stores.suite, kCalendarEnabledKey, true); }},
+                {700, [&] { film.view->resize(100, 160); }},
+                {900, [&] { film.f.setNight(Film::night(true)); }},
+                {1100, [&] { film.f.setNight(Film::night(false)); }},
+                {1300, [&] { SaverFixture::set(stores.suite, kCalendarEnabledKey, false); }},
+                {1500, [&] { film.view->resize(300, 90); }},
+                {1600, [&] { SaverFixture::set(stores.suite, kSelectedVariantKey, u"blue"_s); }},
+            });
     }
 
     void aServerThatLagsLeavesNoTrace_data()
@@ -158,8 +94,6 @@ private Q_SLOTS:
         QTest::newRow("grabbed by another client") << true;
     }
 
-    /// The hand passes a fifth of a second from frame to frame, so that delays go over many
-    /// seconds.
     void aServerThatLagsLeavesNoTrace()
     {
         QFETCH(bool, isGrabbed);
@@ -176,15 +110,7 @@ private Q_SLOTS:
             held ? xcb_grab_server(other.get()) : xcb_ungrab_server(other.get());
             std::free(xcb_get_input_focus_reply(other.get(), xcb_get_input_focus(other.get()), {}));
         };
-        Film film;
-        QRandomGenerator random(1);
-        for (int delay = 0; delay < 15; ++delay) {
-            film.run(random.bounded(30));
-            hold(true);
-            film.run(random.bounded(20, 500));
-            hold(false);
-            QVERIFY2(film.next(), qPrintable(u"after delay %1"_s.arg(delay)));
-        }
+        Film(windowPicture).lag(500, hold);
     }
 
     void everyDensityIsExact_data()
