@@ -16,6 +16,7 @@
 #include "platform/DistributedNotifications.h"
 #include "platform/ExitStatus.h"
 #include "platform/LoginSession.h"
+#include "platform/SingleWindow.h"
 #include "platform/Toolkit.h"
 #include "saver/TamselScheduledSaverView.h"
 
@@ -115,13 +116,13 @@ int runSheetSnapshot(const Options &options, const Application &application)
 
 int runConfigure(const Application &application)
 {
-    const Configuration configuration(application.desktop());
-    if (!configuration.isOnlyOne()) {
-        configuration.bringOtherToFront();
+    const platform::SingleWindow single(application.desktop(), u"configuration"_s);
+    if (!single.isOnlyOne()) {
+        single.bringOtherToFront();
         return kSuccess;
     }
     const auto view = application.makeView(false);
-    return configuration.run(*view) ? kSuccess : kCancelled;
+    return runSheet(*view, single) ? kSuccess : kCancelled;
 }
 
 int runHostWindow(const Options &options, Application &application, quint32 window)
