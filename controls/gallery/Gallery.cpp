@@ -14,13 +14,13 @@
 #include "controls/TamselTimeInput.h"
 #include "controls/TamselTimeMenu.h"
 #include "controls/TamselToggle.h"
+#include "controls/TextLabel.h"
 #include "controls/TimePicker.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QLabel>
 #include <QPainter>
 
 using namespace Qt::StringLiterals;
@@ -42,19 +42,6 @@ void focusByKey(QWidget *control)
 {
     QFocusEvent event(QEvent::FocusIn, Qt::TabFocusReason);
     QCoreApplication::sendEvent(control, &event);
-}
-
-void addLabel(QWidget *row, const QString &text, const QRect &frame)
-{
-    auto *label = new QLabel(text, row);
-    label->setFont(controlFont());
-    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    label->setGeometry(frame);
-    followAppearance(label, [label] {
-        QPalette colors = label->palette();
-        colors.setColor(QPalette::WindowText, appearanceOf(label).labelColor());
-        label->setPalette(colors);
-    });
 }
 
 /// A coloured background, as the preview is below a mode control.
@@ -162,7 +149,7 @@ QWidget *Gallery::addRow(const QString &title, int height)
     row->setAccessibleName(title);
     row->setGeometry(kMargin, m_bottom, kRowWidth, height);
     m_bottom += height + kRowGap;
-    addLabel(row, title, {10, 13, 150, 18});
+    labelWithString(title, {10, 13, 150, 18}, row);
     return row;
 }
 
@@ -230,8 +217,8 @@ void Gallery::addSymbolButtons()
 void Gallery::addTimeRows()
 {
     QWidget *row = addRow(u"From, hovered"_s, 126);
-    addLabel(row, u"From"_s, {10, 55, 100, 18});
-    addLabel(row, u"To"_s, {10, 97, 100, 18});
+    labelWithString(u"From"_s, {10, 55, 100, 18}, row);
+    labelWithString(u"To"_s, {10, 97, 100, 18}, row);
     for (const int y : {42, 84})
         (new TamselSeparator(row))->setGeometry(10, y, 324, 1);
     hover(addTimeMenu(row, u"Sunset"_s, 21));
