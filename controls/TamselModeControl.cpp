@@ -69,11 +69,6 @@ private:
 
 } // namespace
 
-TamselModeControl::TamselModeControl(QWidget *parent)
-    : TamselModeControl(platform::systemClocks(), parent)
-{
-}
-
 TamselModeControl::TamselModeControl(const platform::Clocks &clocks, QWidget *parent)
     : QWidget(parent), m_visibilityTimer(clocks, kFadeDuration, [this](double alpha, bool atEnd) {
           fadeStep(alpha, atEnd);

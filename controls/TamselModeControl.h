@@ -16,7 +16,6 @@ class TamselModeControl : public QWidget
 public:
     enum Segment { Day = 0, Night = 1 };
 
-    explicit TamselModeControl(QWidget *parent = nullptr);
     /// \p clocks must outlive the control.
     TamselModeControl(const platform::Clocks &clocks, QWidget *parent);
 

@@ -57,14 +57,9 @@ public:
         return QFileInfo(m_desktop.bundle.resourcesPath() + "/orange"_L1).isDir();
     }
 
-    std::unique_ptr<TamselClockSaverView> makeView(bool isPreview) const
-    {
-        return std::make_unique<TamselScheduledSaverView>(m_desktop, isPreview);
-    }
-
     /// A view that shows the time of \p clocks, which must outlive it.
-    std::unique_ptr<TamselClockSaverView> makeViewAt(const platform::Clocks &clocks,
-                                                     bool isPreview) const
+    std::unique_ptr<TamselClockSaverView>
+    makeView(bool isPreview, const platform::Clocks &clocks = platform::systemClocks()) const
     {
         platform::Desktop desktop = m_desktop;
         desktop.clocks = &clocks;
@@ -102,7 +97,7 @@ int savePicture(const QImage &picture, const Options &options)
 int runSnapshot(const Options &options, const Application &application)
 {
     const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
-    const auto view = application.makeViewAt(clocks, options.preview);
+    const auto view = application.makeView(options.preview, clocks);
     return savePicture(pictureOfFrame(*view, options.size, options.scale), options);
 }
 

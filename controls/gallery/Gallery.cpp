@@ -4,6 +4,7 @@
 #include "controls/ControlFont.h"
 #include "controls/Popover.h"
 #include "controls/PushButton.h"
+#include "controls/RoundedShape.h"
 #include "controls/TamselColorPopover.h"
 #include "controls/TamselGradientSlider.h"
 #include "controls/TamselHexField.h"
@@ -18,6 +19,7 @@
 #include "controls/TimePicker.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "platform/Clocks.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -54,10 +56,7 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(m_color);
-        painter.drawRoundedRect(rect(), 10, 10);
+        fillRounded(painter, rect(), 10, m_color);
     }
 
 private:
@@ -238,7 +237,7 @@ void Gallery::addToggles()
     QWidget *row = addRow(u"Toggles"_s);
     const QStringList names{u"Off"_s, u"On"_s, u"Pressed"_s, u"Disabled"_s, u"Focused"_s};
     for (int i = 0; i < names.size(); ++i) {
-        auto *toggle = new TamselToggle(row);
+        auto *toggle = new TamselToggle(platform::systemClocks(), row);
         toggle->setAccessibleName(names[i]);
         toggle->move(kRowRight - 36 - 46 * (4 - i), 13);
         toggle->setChecked(i % 2 == 1 || i == 4);
@@ -272,14 +271,14 @@ void Gallery::addModeControls()
     for (int i = 0; i < 3; ++i) {
         auto *ground = new Ground(grounds[i], row);
         ground->setGeometry(10 + 110 * i, 10, 104, 40);
-        auto *control = new TamselModeControl(ground);
+        auto *control = new TamselModeControl(platform::systemClocks(), ground);
         control->setGeometry(10, 8, 50, 24);
         control->setInk(i == 0 ? Qt::black : Qt::white);
         control->setSelectedSegment(i % 2);
         if (i == 1)
             focusByKey(control->buttons().at(1));
         if (i == 2) {
-            auto *shown = new TamselToggle(ground);
+            auto *shown = new TamselToggle(platform::systemClocks(), ground);
             shown->move(64, 12);
             shown->setAccessibleName(u"Mode control shown"_s);
             shown->setChecked(true);
