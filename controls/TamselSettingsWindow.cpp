@@ -5,6 +5,7 @@
 #include "controls/PushButton.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>
@@ -18,7 +19,7 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     setAccessibleRole(this, QAccessible::Dialog);
     setAttribute(Qt::WA_TranslucentBackground);
     takeModality();
-    redrawWithAppearance(this);
+    followAppearance(this, [this] { setPalette(appearanceOf(this).palette()); });
 }
 
 void TamselSettingsWindow::setCornerRadius(double radius)

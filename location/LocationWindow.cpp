@@ -252,7 +252,6 @@ void LocationWindow::followStore()
 void LocationWindow::followAppearance()
 {
     setPalette(platform::Appearance::shared().palette());
-    m_card->followAppearance();
     m_coordinates->followAppearance();
     m_saveBar->followAppearance();
 }

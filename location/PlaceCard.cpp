@@ -2,7 +2,6 @@
 #include "location/PlaceCard.h"
 
 #include "location/Coordinates.h"
-#include "location/Look.h"
 #include "platform/Appearance.h"
 #include "platform/ShortTime.h"
 
@@ -49,6 +48,7 @@ PlaceCard::PlaceCard(QWidget *parent)
       m_sun(new QLabel(this)), m_bar(new DayBar(this))
 {
     m_name->setFont(platform::systemFont(kNameSize, QFont::DemiBold));
+    m_coordinates->setForegroundRole(QPalette::PlaceholderText);
     m_sun->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -60,7 +60,6 @@ PlaceCard::PlaceCard(QWidget *parent)
     layout->addSpacing(kSpacing);
     layout->addWidget(m_bar);
     setAccessibleName(u"Chosen place"_s);
-    followAppearance();
     setPlace(std::nullopt);
 }
 
@@ -73,12 +72,6 @@ void PlaceCard::setPlace(const std::optional<Place> &place)
     m_bar->setDaylight(place ? place->sunrise : std::nullopt, place ? place->sunset : std::nullopt);
     setAccessibleDescription(
         QStringList{m_name->text(), m_coordinates->text(), m_sun->text()}.join(". "_L1));
-}
-
-void PlaceCard::followAppearance()
-{
-    setTextColor(m_coordinates, platform::Appearance::shared().secondaryLabelColor());
-    update();
 }
 
 void PlaceCard::paintEvent(QPaintEvent *)

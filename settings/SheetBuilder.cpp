@@ -12,8 +12,6 @@
 #include "controls/TamselToggle.h"
 #include "controls/TextLabel.h"
 #include "controls/TimePicker.h"
-#include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
 #include "platform/Desktop.h"
 #include "prefs/Variants.h"
 #include "settings/SettingsSheet.h"
@@ -76,7 +74,6 @@ void addWindow(SettingsSheet &sheet, const platform::Desktop &desktop)
     window->resize(int(kSheetWidth), int(height));
     window->setCornerRadius(kSheetCornerRadius);
     window->setMovableByWindowBackground(true);
-    followAppearance(window, [window] { window->setPalette(appearanceOf(window).palette()); });
 
     sheet.settingsScroll =
         new OverlayScrollArea(*desktop.clocks, transparentView(window->rect(), nullptr), window);
@@ -181,7 +178,7 @@ void addThemeGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidg
     labelWithString(u"Theme"_s, kThemeTitleFrame, sheet.themeGroup);
     sheet.themeName = labelWithString({}, kThemeNameFrame, sheet.themeGroup);
     sheet.themeName->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    setLabelColor(sheet.themeName, &platform::Appearance::secondaryLabelColor);
+    sheet.themeName->setForegroundRole(QPalette::PlaceholderText);
     addVariantSwatches(sheet);
     sheet.dayColorControls = colorControlsNight(false, sheet, desktop, sheet.themeGroup);
 }

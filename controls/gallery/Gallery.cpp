@@ -123,6 +123,7 @@ Gallery::Gallery(const platform::Appearance &appearance, QWidget *parent)
     : QWidget(parent), m_bottom(kMargin)
 {
     setAppearanceOf(this, appearance);
+    setPalette(appearance.palette());
     auto *background = new TamselSettingsView(this);
     addSwatches();
     addFields();
