@@ -86,18 +86,17 @@ void TamselSettingsWindow::mousePressEvent(QMouseEvent *event)
     if (windowHandle() && windowHandle()->startSystemMove())
         return;
     m_grip = event->position().toPoint();
-    m_dragging = true;
 }
 
 void TamselSettingsWindow::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_dragging)
-        move(event->globalPosition().toPoint() - m_grip);
+    if (m_grip)
+        move(event->globalPosition().toPoint() - *m_grip);
 }
 
 void TamselSettingsWindow::mouseReleaseEvent(QMouseEvent *)
 {
-    m_dragging = false;
+    m_grip.reset();
 }
 
 void TamselSettingsWindow::paintEvent(QPaintEvent *event)

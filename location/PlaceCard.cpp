@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "location/PlaceCard.h"
 
+#include "controls/RoundedShape.h"
+#include "controls/ViewAppearance.h"
 #include "location/Coordinates.h"
 #include "platform/Appearance.h"
 #include "platform/ShortTime.h"
@@ -77,12 +79,8 @@ void PlaceCard::setPlace(const std::optional<Place> &place)
 void PlaceCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor surface = palette().color(QPalette::WindowText);
-    surface.setAlphaF(float(kCardOpacity));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(surface);
-    painter.drawRoundedRect(rect(), kRadius, kRadius);
+    fillRounded(painter, rect(), kRadius,
+                withAlpha(palette().color(QPalette::WindowText), kCardOpacity));
 }
 
 } // namespace location
