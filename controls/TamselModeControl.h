@@ -46,7 +46,6 @@ protected:
 private:
     void selectMode(int segment);
     void updateIcons();
-    void fadeStep(double alpha, bool atEnd);
 
     int m_selectedSegment = Day;
     QColor m_ink = Qt::white;
