@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <array>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QChar kNonJoiner(u'\u200C');

@@ -4,8 +4,7 @@
 #include "controls/ControlAccessibility.h"
 #include "controls/ControlFont.h"
 #include "controls/PushButton.h"
-#include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
+#include "controls/TextLabel.h"
 
 #include <QLabel>
 
@@ -25,10 +24,13 @@ constexpr int kButtonHeight = 24;
 } // namespace
 
 Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
-    : TamselSettingsWindow(sheet), m_message(addText(message, controlFont(QFont::DemiBold))),
-      m_information(addText(information, controlFont()))
+    : TamselSettingsWindow(sheet), m_message(labelWithString(message, {}, this)),
+      m_information(labelWithString(information, {}, this))
 {
     setAccessibleRole(this, QAccessible::AlertMessage);
+    m_message->setFont(controlFont(QFont::DemiBold));
+    for (QLabel *label : {m_message, m_information})
+        label->setWordWrap(true);
     setAttribute(Qt::WA_DeleteOnClose);
     setCornerRadius(kRadius);
     setMovableByWindowBackground(true);
@@ -48,20 +50,6 @@ QString Alert::message() const
 QString Alert::information() const
 {
     return m_information->text();
-}
-
-QLabel *Alert::addText(const QString &text, const QFont &font)
-{
-    auto *label = new QLabel(text, this);
-    label->setFont(font);
-    label->setWordWrap(true);
-    label->setTextFormat(Qt::PlainText);
-    followAppearance(label, [label] {
-        QPalette colors = label->palette();
-        colors.setColor(QPalette::WindowText, appearanceOf(label).labelColor());
-        label->setPalette(colors);
-    });
-    return label;
 }
 
 void Alert::addButton(const QString &title, const std::function<void()> &chosen)

@@ -30,7 +30,6 @@ public:
     void present();
 
 private:
-    QLabel *addText(const QString &text, const QFont &font);
     void layOut();
 
     QLabel *m_message;

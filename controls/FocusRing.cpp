@@ -8,8 +8,6 @@
 #include <QFocusFrame>
 #include <QPainter>
 
-#include <algorithm>
-
 namespace {
 
 constexpr double kGap = 1.0;
@@ -67,11 +65,8 @@ FocusRing::~FocusRing()
 
 bool FocusRing::isShownAround(const QWidget *control)
 {
-    const auto &children = control->children();
-    return std::any_of(children.begin(), children.end(), [](const QObject *child) {
-        const auto *ring = dynamic_cast<const FocusRing *>(child);
-        return ring && ring->isShown();
-    });
+    const auto *ring = control->findChild<FocusRing *>(QString(), Qt::FindDirectChildrenOnly);
+    return ring && ring->isShown();
 }
 
 bool FocusRing::eventFilter(QObject *watched, QEvent *event)

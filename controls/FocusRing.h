@@ -16,6 +16,8 @@ class QWidget;
 /// focus or is pressed in the control, and disappears at the next mouse press.
 class FocusRing : public QObject
 {
+    Q_OBJECT
+
 public:
     /// A rounded rectangle in the control's coordinates. An invalid \p color means the accent
     /// colour.

@@ -56,7 +56,8 @@ void OverlayScroller::flash()
     }
     m_fade.stop();
     setAlphaValue(this, 1.0);
-    place();
+    setGeometry(m_area->width() - kWidth, kEndMargin, kWidth,
+                std::max(0, m_area->height() - 2 * kEndMargin));
     show();
     raise();
     update();
@@ -79,12 +80,6 @@ bool OverlayScroller::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         flash();
     return QWidget::eventFilter(watched, event);
-}
-
-void OverlayScroller::place()
-{
-    setGeometry(m_area->width() - kWidth, kEndMargin, kWidth,
-                std::max(0, m_area->height() - 2 * kEndMargin));
 }
 
 QRectF OverlayScroller::knob() const

@@ -31,7 +31,6 @@ protected:
 private:
     /// Shows the scroller briefly; hides it when there is nothing to scroll.
     void flash();
-    void place();
     void fade();
     QRectF knob() const;
 

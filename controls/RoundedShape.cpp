@@ -35,11 +35,11 @@ QRegion roundedShape(const QSize &size, double radius)
     return shape;
 }
 
-void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QColor &color)
+void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QBrush &brush)
 {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
+    painter.setBrush(brush);
     painter.drawRoundedRect(rect, radius, radius);
 }
 

@@ -4,7 +4,7 @@
 #include <QRegion>
 #include <QSize>
 
-class QColor;
+class QBrush;
 class QPainter;
 class QRect;
 class QRectF;
@@ -16,7 +16,7 @@ class QWidget;
 QRegion roundedShape(const QSize &size, double radius);
 
 /// Fills \p rect with corners of \p radius. Leaves \p painter with antialiasing on and no pen.
-void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QColor &color);
+void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QBrush &brush);
 
 /// Draws the background of the floating window \p panel: the window colour with a faint edge, which
 /// separates it from a window of the same colour below. \p area is what must be drawn; more may be

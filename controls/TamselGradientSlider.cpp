@@ -3,6 +3,7 @@
 
 #include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
+#include "controls/RoundedShape.h"
 #include "controls/TamselHSBColor.h"
 #include "controls/ViewAppearance.h"
 
@@ -132,9 +133,7 @@ QBrush TamselGradientSlider::trackBrush(const QRectF &track, double scale) const
 void TamselGradientSlider::drawTrack(QPainter &painter, const QRectF &track) const
 {
     const double radius = track.height() / 2.0;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(trackBrush(track, painter.deviceTransform().m11()));
-    painter.drawRoundedRect(track, radius, radius);
+    fillRounded(painter, track, radius, trackBrush(track, painter.deviceTransform().m11()));
     painter.setPen(QPen(withAlpha(Qt::white, kOutlineAlpha), 1.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(track, radius, radius);

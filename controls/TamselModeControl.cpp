@@ -69,14 +69,11 @@ private:
 
 } // namespace
 
-TamselModeControl::TamselModeControl(QWidget *parent)
-    : TamselModeControl(platform::systemClocks(), parent)
-{
-}
-
 TamselModeControl::TamselModeControl(const platform::Clocks &clocks, QWidget *parent)
     : QWidget(parent), m_visibilityTimer(clocks, kFadeDuration, [this](double alpha, bool atEnd) {
-          fadeStep(alpha, atEnd);
+          setAlphaValue(this, alpha);
+          if (atEnd)
+              setVisible(m_fadingIn);
       })
 {
     setAccessibleRole(this, QAccessible::Grouping);
@@ -137,13 +134,6 @@ void TamselModeControl::setVisible(bool visible, bool animated)
     }
     setAlphaValue(this, to);
     setVisible(visible);
-}
-
-void TamselModeControl::fadeStep(double alpha, bool atEnd)
-{
-    setAlphaValue(this, alpha);
-    if (atEnd)
-        setVisible(m_fadingIn);
 }
 
 void TamselModeControl::paintEvent(QPaintEvent *)

@@ -16,7 +16,6 @@ class TamselModeControl : public QWidget
 public:
     enum Segment { Day = 0, Night = 1 };
 
-    explicit TamselModeControl(QWidget *parent = nullptr);
     /// \p clocks must outlive the control.
     TamselModeControl(const platform::Clocks &clocks, QWidget *parent);
 
@@ -47,7 +46,6 @@ protected:
 private:
     void selectMode(int segment);
     void updateIcons();
-    void fadeStep(double alpha, bool atEnd);
 
     int m_selectedSegment = Day;
     QColor m_ink = Qt::white;

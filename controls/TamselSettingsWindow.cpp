@@ -5,6 +5,7 @@
 #include "controls/PushButton.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>
@@ -18,7 +19,7 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     setAccessibleRole(this, QAccessible::Dialog);
     setAttribute(Qt::WA_TranslucentBackground);
     takeModality();
-    redrawWithAppearance(this);
+    followAppearance(this, [this] { setPalette(appearanceOf(this).palette()); });
 }
 
 void TamselSettingsWindow::setCornerRadius(double radius)
@@ -85,18 +86,17 @@ void TamselSettingsWindow::mousePressEvent(QMouseEvent *event)
     if (windowHandle() && windowHandle()->startSystemMove())
         return;
     m_grip = event->position().toPoint();
-    m_dragging = true;
 }
 
 void TamselSettingsWindow::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_dragging)
-        move(event->globalPosition().toPoint() - m_grip);
+    if (m_grip)
+        move(event->globalPosition().toPoint() - *m_grip);
 }
 
 void TamselSettingsWindow::mouseReleaseEvent(QMouseEvent *)
 {
-    m_dragging = false;
+    m_grip.reset();
 }
 
 void TamselSettingsWindow::paintEvent(QPaintEvent *event)

@@ -4,6 +4,8 @@
 #include <QPoint>
 #include <QWidget>
 
+#include <optional>
+
 /// The window of the options sheet: frameless and translucent, but able to take the keyboard focus.
 /// Modal to its parent when it has one.
 class TamselSettingsWindow : public QWidget
@@ -46,7 +48,6 @@ private:
 
     double m_cornerRadius = 0.0;
     bool m_movable = false;
-    /// For desktops that cannot move a window: where the pointer grabbed it, in window coordinates.
-    QPoint m_grip;
-    bool m_dragging = false;
+    /// For desktops that cannot move a window: where the pointer drags it, in window coordinates.
+    std::optional<QPoint> m_grip;
 };

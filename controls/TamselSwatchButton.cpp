@@ -8,7 +8,6 @@
 #include "platform/Appearance.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 namespace {
 

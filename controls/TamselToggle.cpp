@@ -21,10 +21,6 @@ constexpr double kDisabledAlpha = 0.4;
 
 } // namespace
 
-TamselToggle::TamselToggle(QWidget *parent) : TamselToggle(platform::systemClocks(), parent)
-{
-}
-
 TamselToggle::TamselToggle(const platform::Clocks &clocks, QWidget *parent)
     : QAbstractButton(parent),
       m_slide(clocks, kSlideDuration, [this](double position, bool) { setKnobPosition(position); })

@@ -12,7 +12,6 @@ class TamselToggle : public QAbstractButton
     Q_OBJECT
 
 public:
-    explicit TamselToggle(QWidget *parent = nullptr);
     /// \p clocks must outlive the toggle.
     TamselToggle(const platform::Clocks &clocks, QWidget *parent);
 

@@ -43,8 +43,8 @@ int hourOf(int hour, bool evening)
 QString lettersOf(const QString &text)
 {
     QString letters;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(letters),
-                 [](QChar c) { return c.isLetter() || c.isMark() || c.isSurrogate(); });
+    std::ranges::copy_if(text, std::back_inserter(letters),
+                         [](QChar c) { return c.isLetter() || c.isMark() || c.isSurrogate(); });
     return letters.toCaseFolded();
 }
 

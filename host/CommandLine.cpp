@@ -152,9 +152,9 @@ QString missingCompanion(const QCommandLineParser &parser, const QStringList &de
                          const QStringList &wanted)
 {
     const auto isSet = [&](const QString &name) { return parser.isSet(name); };
-    if (std::any_of(wanted.begin(), wanted.end(), isSet))
+    if (std::ranges::any_of(wanted, isSet))
         return {};
-    const auto alone = std::find_if(dependent.begin(), dependent.end(), isSet);
+    const auto alone = std::ranges::find_if(dependent, isSet);
     return alone == dependent.end() ? QString()
                                     : u"--%1 needs --%2"_s.arg(*alone, wanted.join(" or --"_L1));
 }

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/Configuration.h"
 
+#include "platform/SingleWindow.h"
 #include "saver/TamselClockSaverView.h"
 
 #include <QApplication>
 #include <QScreen>
 #include <QScrollArea>
-
-using namespace Qt::StringLiterals;
 
 namespace host {
 
@@ -22,12 +21,7 @@ void centre(QWidget &window)
 
 } // namespace
 
-Configuration::Configuration(const platform::Desktop &desktop)
-    : m_single(desktop, u"configuration"_s)
-{
-}
-
-bool Configuration::run(TamselClockSaverView &view) const
+bool runSheet(TamselClockSaverView &view, const platform::SingleWindow &single)
 {
     QWidget *sheet = view.configureSheet();
     sheet->setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -38,7 +32,7 @@ bool Configuration::run(TamselClockSaverView &view) const
     });
     QApplication::setQuitOnLastWindowClosed(false);
     centre(*sheet);
-    m_single.present(*sheet);
+    single.present(*sheet);
     QApplication::exec();
     return saved;
 }

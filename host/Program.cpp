@@ -18,6 +18,7 @@
 #include "platform/DistributedNotifications.h"
 #include "platform/ExitStatus.h"
 #include "platform/LoginSession.h"
+#include "platform/SingleWindow.h"
 #include "platform/Toolkit.h"
 #include "saver/TamselScheduledSaverView.h"
 
@@ -58,14 +59,9 @@ public:
         return QFileInfo(m_desktop.bundle.resourcesPath() + "/orange"_L1).isDir();
     }
 
-    std::unique_ptr<TamselClockSaverView> makeView(bool isPreview) const
-    {
-        return std::make_unique<TamselScheduledSaverView>(m_desktop, isPreview);
-    }
-
     /// A view that shows the time of \p clocks, which must outlive it.
-    std::unique_ptr<TamselClockSaverView> makeViewAt(const platform::Clocks &clocks,
-                                                     bool isPreview) const
+    std::unique_ptr<TamselClockSaverView>
+    makeView(bool isPreview, const platform::Clocks &clocks = platform::systemClocks()) const
     {
         platform::Desktop desktop = m_desktop;
         desktop.clocks = &clocks;
@@ -103,7 +99,7 @@ int savePicture(const QImage &picture, const Options &options)
 int runSnapshot(const Options &options, const Application &application)
 {
     const platform::FixedClocks clocks(options.at.value_or(QDateTime::currentDateTime()));
-    const auto view = application.makeViewAt(clocks, options.preview);
+    const auto view = application.makeView(options.preview, clocks);
     return savePicture(pictureOfFrame(*view, options.size, options.scale), options);
 }
 
@@ -117,13 +113,13 @@ int runSheetSnapshot(const Options &options, const Application &application)
 
 int runConfigure(const Application &application)
 {
-    const Configuration configuration(application.desktop());
-    if (!configuration.isOnlyOne()) {
-        configuration.bringOtherToFront();
+    const platform::SingleWindow single(application.desktop(), u"configuration"_s);
+    if (!single.isOnlyOne()) {
+        single.bringOtherToFront();
         return kSuccess;
     }
     const auto view = application.makeView(false);
-    return configuration.run(*view) ? kSuccess : kCancelled;
+    return runSheet(*view, single) ? kSuccess : kCancelled;
 }
 
 int runHostWindow(const Options &options, Application &application, quint32 window)

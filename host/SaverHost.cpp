@@ -31,8 +31,7 @@ QList<QScreen *> distinctScreens()
         const auto showsSame = [&](const QScreen *other) {
             return other->geometry() == screen->geometry();
         };
-        if (!screen->geometry().isEmpty() &&
-            std::none_of(distinct.begin(), distinct.end(), showsSame))
+        if (!screen->geometry().isEmpty() && std::ranges::none_of(distinct, showsSame))
             distinct.append(screen);
     }
     return distinct;

@@ -14,20 +14,15 @@ constexpr double kMillisecond = 0.001;
 } // namespace
 
 XIdleSource::XIdleSource(double idleSeconds)
-    : PolledIdleSource(idleSeconds), m_connection(xcb_connect(nullptr, nullptr))
+    : PolledIdleSource(idleSeconds), m_connection(xcb_connect(nullptr, nullptr), xcb_disconnect)
 {
-}
-
-XIdleSource::~XIdleSource()
-{
-    xcb_disconnect(m_connection);
 }
 
 void XIdleSource::start()
 {
-    const bool answers = xcb_connection_has_error(m_connection) == 0;
-    const auto *extension =
-        answers ? xcb_get_extension_data(m_connection, &xcb_screensaver_id) : nullptr;
+    xcb_connection_t *x = m_connection.get();
+    const bool answers = xcb_connection_has_error(x) == 0;
+    const auto *extension = answers ? xcb_get_extension_data(x, &xcb_screensaver_id) : nullptr;
     if (extension == nullptr || extension->present == 0) {
         Q_EMIT unavailable();
         return;
@@ -38,10 +33,10 @@ void XIdleSource::start()
 
 void XIdleSource::look()
 {
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    xcb_connection_t *x = m_connection.get();
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(x)).data->root;
     const platform::XcbReply<xcb_screensaver_query_info_reply_t> info(
-        xcb_screensaver_query_info_reply(m_connection,
-                                         xcb_screensaver_query_info(m_connection, root), nullptr));
+        xcb_screensaver_query_info_reply(x, xcb_screensaver_query_info(x, root), nullptr));
     if (info)
         taken(info->ms_since_user_input * kMillisecond);
     else

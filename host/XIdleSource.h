@@ -3,6 +3,8 @@
 
 #include "host/PolledIdleSource.h"
 
+#include <memory>
+
 struct xcb_connection_t;
 
 namespace host {
@@ -14,13 +16,12 @@ class XIdleSource final : public PolledIdleSource
 
 public:
     explicit XIdleSource(double idleSeconds);
-    ~XIdleSource() override;
     void start() override;
 
 private:
     void look() override;
 
-    xcb_connection_t *m_connection;
+    std::shared_ptr<xcb_connection_t> m_connection;
 };
 
 } // namespace host

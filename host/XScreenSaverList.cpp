@@ -246,7 +246,7 @@ QByteArray listedProgram(const QByteArray &path)
         return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
                std::strchr("/._+-", c) != nullptr;
     };
-    if (std::all_of(path.begin(), path.end(), isPlain))
+    if (std::ranges::all_of(path, isPlain))
         return path;
     const bool canBeQuoted = !path.contains('\'') && !path.contains('\\') && !path.contains('\n');
     return canBeQuoted ? "'" + path + "'" : QByteArray();

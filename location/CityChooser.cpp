@@ -48,8 +48,8 @@ CityChooser::CityChooser(const ZoneCities &cities, QWidget *parent)
 void CityChooser::setCity(const std::optional<ZoneCity> &city)
 {
     const QSignalBlocker blocker(m_list);
-    const auto row = std::find_if(m_found.begin(), m_found.end(),
-                                  [&](const ZoneCity &c) { return city && c.zone == city->zone; });
+    const auto row = std::ranges::find_if(
+        m_found, [&](const ZoneCity &c) { return city && c.zone == city->zone; });
     m_list->setCurrentRow(row == m_found.end() ? -1 : int(row - m_found.begin()));
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "location/Coordinates.h"
 
-#include <QLocale>
 #include <QRegularExpression>
 
 #include <cmath>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "location/DayBar.h"
 
+#include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
 #include <QLocale>
@@ -83,9 +84,7 @@ void DayBar::paintEvent(QPaintEvent *)
     const QRectF bar(0.0, 0.0, width(), kBarHeight);
     QPainterPath track;
     track.addRoundedRect(bar, kBarHeight / 2.0, kBarHeight / 2.0);
-    QColor night = palette().color(QPalette::WindowText);
-    night.setAlphaF(float(kNightOpacity));
-    painter.fillPath(track, night);
+    painter.fillPath(track, withAlpha(palette().color(QPalette::WindowText), kNightOpacity));
     if (m_sunrise && m_sunset)
         painter.fillPath(track & litParts(bar, *m_sunrise, *m_sunset), kDaylight);
     painter.setPen(platform::Appearance::shared().secondaryLabelColor());

@@ -87,16 +87,13 @@ QWidget *LocationWindow::makeContent()
     return content;
 }
 
-int LocationWindow::neededHeight() const
-{
-    return m_area->widget()->heightForWidth(width()) + m_saveBar->heightForWidth(width());
-}
-
 /// Enlarges the window for a message as far as the screen allows.
 void LocationWindow::growToContent()
 {
+    const int needed =
+        m_area->widget()->heightForWidth(width()) + m_saveBar->heightForWidth(width());
     const QRect frame =
-        platform::frameOnScreen(geometry(), neededHeight(), screen()->availableGeometry()).toRect();
+        platform::frameOnScreen(geometry(), needed, screen()->availableGeometry()).toRect();
     if (frame.height() > height())
         setGeometry(frame);
 }
@@ -252,7 +249,6 @@ void LocationWindow::followStore()
 void LocationWindow::followAppearance()
 {
     setPalette(platform::Appearance::shared().palette());
-    m_card->followAppearance();
     m_coordinates->followAppearance();
     m_saveBar->followAppearance();
 }

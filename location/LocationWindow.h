@@ -47,7 +47,6 @@ private:
     QWidget *makeIntroduction();
     void layOut();
     QWidget *makeContent();
-    int neededHeight() const;
     void growToContent();
     void suggest(const QString &systemZone);
     void connectParts();

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "location/PlaceCard.h"
 
+#include "controls/RoundedShape.h"
+#include "controls/ViewAppearance.h"
 #include "location/Coordinates.h"
-#include "location/Look.h"
 #include "platform/Appearance.h"
 #include "platform/ShortTime.h"
 
@@ -49,6 +50,7 @@ PlaceCard::PlaceCard(QWidget *parent)
       m_sun(new QLabel(this)), m_bar(new DayBar(this))
 {
     m_name->setFont(platform::systemFont(kNameSize, QFont::DemiBold));
+    m_coordinates->setForegroundRole(QPalette::PlaceholderText);
     m_sun->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -60,7 +62,6 @@ PlaceCard::PlaceCard(QWidget *parent)
     layout->addSpacing(kSpacing);
     layout->addWidget(m_bar);
     setAccessibleName(u"Chosen place"_s);
-    followAppearance();
     setPlace(std::nullopt);
 }
 
@@ -75,21 +76,11 @@ void PlaceCard::setPlace(const std::optional<Place> &place)
         QStringList{m_name->text(), m_coordinates->text(), m_sun->text()}.join(". "_L1));
 }
 
-void PlaceCard::followAppearance()
-{
-    setTextColor(m_coordinates, platform::Appearance::shared().secondaryLabelColor());
-    update();
-}
-
 void PlaceCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor surface = palette().color(QPalette::WindowText);
-    surface.setAlphaF(float(kCardOpacity));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(surface);
-    painter.drawRoundedRect(rect(), kRadius, kRadius);
+    fillRounded(painter, rect(), kRadius,
+                withAlpha(palette().color(QPalette::WindowText), kCardOpacity));
 }
 
 } // namespace location

@@ -21,9 +21,6 @@ public:
     /// None: no place is chosen.
     void setPlace(const std::optional<Place> &place);
 
-    /// Updates the colours to those of the desktop.
-    void followAppearance();
-
 protected:
     void paintEvent(QPaintEvent *event) override;
 

@@ -77,8 +77,8 @@ QString searchText(const QString &text)
 bool matches(const ZoneCity &city, const QStringList &words)
 {
     const QString text = u' ' + searchText(city.fullName());
-    return std::all_of(words.begin(), words.end(),
-                       [&](const QString &word) { return text.contains(u' ' + word); });
+    return std::ranges::all_of(words,
+                               [&](const QString &word) { return text.contains(u' ' + word); });
 }
 
 } // namespace
@@ -100,7 +100,7 @@ ZoneCities::ZoneCities(const QByteArray &zoneTab, const QByteArray &countryTab,
         if (position && !zone.isEmpty())
             m_cities.append({zone, cityName(zone), countries.value(row[0], row[0]), *position});
     }
-    std::sort(m_cities.begin(), m_cities.end(), [](const ZoneCity &a, const ZoneCity &b) {
+    std::ranges::sort(m_cities, [](const ZoneCity &a, const ZoneCity &b) {
         return a.fullName().localeAwareCompare(b.fullName()) < 0;
     });
     for (const QString &line : QString::fromUtf8(tzdata).split(u'\n')) {
@@ -122,8 +122,8 @@ QList<ZoneCity> ZoneCities::matching(const QString &query) const
 {
     const QStringList words = searchText(query).split(u' ', Qt::SkipEmptyParts);
     QList<ZoneCity> found;
-    std::copy_if(m_cities.begin(), m_cities.end(), std::back_inserter(found),
-                 [&](const ZoneCity &city) { return matches(city, words); });
+    std::ranges::copy_if(m_cities, std::back_inserter(found),
+                         [&](const ZoneCity &city) { return matches(city, words); });
     return found;
 }
 
@@ -131,8 +131,7 @@ std::optional<ZoneCity> ZoneCities::ofZone(const QString &zone) const
 {
     QString name = zone;
     for (int i = 0; i < kMostAliases; ++i) {
-        const auto city = std::find_if(m_cities.begin(), m_cities.end(),
-                                       [&](const ZoneCity &c) { return c.zone == name; });
+        const auto city = std::ranges::find(m_cities, name, &ZoneCity::zone);
         if (city != m_cities.end())
             return *city;
         name = m_aliases.value(name);
@@ -142,10 +141,8 @@ std::optional<ZoneCity> ZoneCities::ofZone(const QString &zone) const
 
 std::optional<ZoneCity> ZoneCities::nearestTo(const SolarLocation &location) const
 {
-    const auto nearest = std::min_element(
-        m_cities.begin(), m_cities.end(), [&](const ZoneCity &a, const ZoneCity &b) {
-            return distance(location, a.location) < distance(location, b.location);
-        });
+    const auto nearest = std::ranges::min_element(
+        m_cities, {}, [&](const ZoneCity &city) { return distance(location, city.location); });
     return nearest != m_cities.end() ? std::optional(*nearest) : std::nullopt;
 }
 

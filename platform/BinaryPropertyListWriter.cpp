@@ -64,7 +64,7 @@ QByteArray marker(Kind kind, qsizetype length)
 
 QByteArray textObject(const QString &text)
 {
-    if (std::all_of(text.begin(), text.end(), [](QChar c) { return c < u'\x80'; }))
+    if (std::ranges::all_of(text, [](QChar c) { return c < u'\x80'; }))
         return marker(kAscii, text.size()) + text.toLatin1();
     QByteArray units(2 * text.size(), Qt::Uninitialized);
     qToBigEndian<char16_t>(text.constData(), text.size(), units.data());

@@ -164,8 +164,8 @@ QVariant busVariant(const QVariant &value)
 
 bool appendArguments(sd_bus_message *message, const QVariantList &arguments)
 {
-    return std::all_of(arguments.cbegin(), arguments.cend(),
-                       [message](const QVariant &argument) { return append(message, argument); });
+    return std::ranges::all_of(
+        arguments, [message](const QVariant &argument) { return append(message, argument); });
 }
 
 BusMessage readMessage(sd_bus_message *message)

@@ -65,7 +65,7 @@ QColor asColor(const QVariant &value)
         const auto number = as<double>(component);
         return number && *number >= 0.0 && *number <= 1.0;
     };
-    if (components.size() != 3 || !std::all_of(components.cbegin(), components.cend(), isComponent))
+    if (components.size() != 3 || !std::ranges::all_of(components, isComponent))
         return {};
     return QColor::fromRgbF(components[0].toFloat(), components[1].toFloat(),
                             components[2].toFloat());

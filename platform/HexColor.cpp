@@ -88,7 +88,6 @@ QColor colorFromHexString(const QString &string)
 QString normalizedHexStringFromString(const QString &string)
 {
     const QString text = upperWithoutNumberSigns(string.trimmed());
-    const bool isHex =
-        std::all_of(text.begin(), text.end(), [](QChar c) { return hexDigit(c).has_value(); });
+    const bool isHex = std::ranges::all_of(text, [](QChar c) { return hexDigit(c).has_value(); });
     return text.size() == kDigits && isHex ? u'#' + text : QString();
 }

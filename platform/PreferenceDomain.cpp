@@ -12,15 +12,12 @@
 #include <QHash>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <chrono>
 #include <ctime>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 namespace platform {
 

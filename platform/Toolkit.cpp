@@ -9,6 +9,7 @@
 #include <QDBusConnection>
 #include <QDeadlineTimer>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <optional>
 
@@ -29,29 +30,19 @@ constexpr char kScaleVariable[] = "QT_SCALE_FACTOR";
 constexpr double kSmallestScale = 0.1;
 constexpr double kLargestScale = 16.0;
 
-/// Sets an environment variable and restores its old value in the destructor.
-class OtherValue
+/// Sets an environment variable; the guard restores its old value.
+auto withVariable(const char *name, const char *value)
 {
-public:
-    OtherValue(const char *name, const char *value) : m_name(name)
-    {
-        if (qEnvironmentVariableIsSet(name))
-            m_before = qgetenv(name);
-        qputenv(name, value);
-    }
-    ~OtherValue()
-    {
-        if (m_before)
-            qputenv(m_name, *m_before);
+    const bool wasSet = qEnvironmentVariableIsSet(name);
+    auto restore = qScopeGuard([name, wasSet, before = qgetenv(name)] {
+        if (wasSet)
+            qputenv(name, before);
         else
-            qunsetenv(m_name);
-    }
-    Q_DISABLE_COPY_MOVE(OtherValue)
-
-private:
-    const char *m_name;
-    std::optional<QByteArray> m_before;
-};
+            qunsetenv(name);
+    });
+    qputenv(name, value);
+    return restore;
+}
 
 /// Removes a scale at which no window could be shown; the toolkit does not check it.
 void dropUnusableScale()
@@ -98,8 +89,8 @@ bool busesAnswer()
 /// environment names none.
 std::unique_ptr<QApplication> makeWithoutBuses(int &argc, char **argv)
 {
-    const OtherValue session("DBUS_SESSION_BUS_ADDRESS", kNoBus);
-    const OtherValue assistive("AT_SPI_BUS_ADDRESS", kNoBus);
+    const auto session = withVariable("DBUS_SESSION_BUS_ADDRESS", kNoBus);
+    const auto assistive = withVariable("AT_SPI_BUS_ADDRESS", kNoBus);
     auto application = std::make_unique<QApplication>(argc, argv);
     QDBusConnection::sessionBus();
     QAccessible::setActive(false);

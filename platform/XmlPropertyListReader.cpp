@@ -54,8 +54,8 @@ std::optional<QString> decoded(const QByteArray &bytes)
 
 std::optional<QVariant> beyondRange(QStringView text)
 {
-    const bool isPlausible = std::all_of(
-        text.begin(), text.end(), [](QChar c) { return u"0123456789+-.:eETZ"_s.contains(c); });
+    const bool isPlausible =
+        std::ranges::all_of(text, [](QChar c) { return u"0123456789+-.:eETZ"_s.contains(c); });
     return isPlausible && !text.isEmpty() ? std::optional(QVariant::fromValue(ForeignObject()))
                                           : std::nullopt;
 }
@@ -203,7 +203,7 @@ private:
         QStringView tag = takeUntil(u">");
         const bool isEmpty = tag.endsWith(u'/');
         tag.chop(isEmpty ? 1 : 0);
-        const auto *nameEnd = std::find_if(tag.begin(), tag.end(), isBlank);
+        const auto *nameEnd = std::ranges::find_if(tag, isBlank);
         return {.name = tag.first(nameEnd - tag.begin()), .isEmpty = isEmpty};
     }
 
@@ -292,7 +292,7 @@ private:
         if (end < 0)
             return std::nullopt;
         const QStringView name = take(end + 1).sliced(1, end - 1);
-        const auto *entity = std::find(kEntities.begin(), kEntities.end(), name);
+        const auto *entity = std::ranges::find(kEntities, name);
         if (entity != kEntities.end())
             return QString(kEntityCharacters[entity - kEntities.begin()]);
         bool isNumber = false;

@@ -21,7 +21,7 @@ constexpr int kLastYear = 9999;
 /// Line ends other than "\n" would be read as that.
 bool isXmlText(const QString &text)
 {
-    return text.isValidUtf16() && std::all_of(text.begin(), text.end(), [](QChar c) {
+    return text.isValidUtf16() && std::ranges::all_of(text, [](QChar c) {
                return c == u'\t' || c == u'\n' || (c >= u' ' && c < u'\xFFFE');
            });
 }
@@ -107,8 +107,8 @@ private:
         if (list.isEmpty())
             return writeLine(depth, "<array/>");
         writeLine(depth, "<array>");
-        const bool isWritten = std::all_of(
-            list.begin(), list.end(), [&](const QVariant &item) { return write(item, depth + 1); });
+        const bool isWritten =
+            std::ranges::all_of(list, [&](const QVariant &item) { return write(item, depth + 1); });
         return isWritten && writeLine(depth, "</array>");
     }
 

@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr qlonglong kDefaultFrom = 1170; // 19:30

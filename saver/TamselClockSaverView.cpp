@@ -4,11 +4,9 @@
 #include "calendar/TamselCalendarFont.h"
 #include "calendar/TamselCalendarLayout.h"
 #include "clock/FrameDamage.h"
-#include "night/NightSchedule.h"
-#include "platform/Clocks.h"
 #include "platform/FramePresenter.h"
 #include "platform/LoginSession.h"
-#include "settings/OptionsSheet.h"
+#include "settings/TimeRows.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -193,7 +191,15 @@ QWidget *TamselClockSaverView::configureSheet()
     return m_options->configureSheet();
 }
 
-const SettingsSheet *TamselClockSaverView::settingsSheet() const
+void TamselClockSaverView::storeCalendarEnabled(bool enabled)
 {
-    return m_options ? &m_options->controls() : nullptr;
+    m_preferences.storeCalendarEnabled(enabled);
+    m_palette.applyCalendarEnabled(enabled);
+}
+
+void TamselClockSaverView::storeNightSettings(const QVariantMap &record)
+{
+    const TimeRows *rows = m_options ? m_options->timeRows() : nullptr;
+    m_preferences.storeNightSettings(
+        m_schedule->recordToStore(record, rows ? rows->timeModes() : QStringList()));
 }

@@ -2,12 +2,9 @@
 #pragma once
 
 #include "saver/TamselClockSaverView.h"
-
-#include <QStringList>
+#include "settings/TimeRows.h"
 
 class TamselSolarTimes;
-class TamselTimeMenu;
-class TimeRows;
 
 /// The saver that hosts make: its night may begin with today's sunset and end with today's sunrise
 /// instead of at fixed times.
@@ -29,10 +26,16 @@ public:
     // Forwarders, documented at TimeRows. Without a sheet there are no rows and no modes, and the
     // others do nothing.
 
-    TimeRows *timeRows() const;
-    QStringList timeModes() const;
-    void refreshTimeRows() const;
-    void showTimeMenu(TamselTimeMenu *sender) const;
-    void selectTimeMode(const QString &mode, int row) const;
-    void requestSolarLocation() const;
+    TimeRows *timeRows() const { return forwardTo(optionsSheet(), &OptionsSheet::timeRows); }
+    QStringList timeModes() const { return forwardTo(timeRows(), &TimeRows::timeModes); }
+    void refreshTimeRows() const { forwardTo(timeRows(), &TimeRows::refreshTimeRows); }
+    void showTimeMenu(TamselTimeMenu *sender) const
+    {
+        forwardTo(timeRows(), &TimeRows::showTimeMenu, sender);
+    }
+    void selectTimeMode(const QString &mode, int row) const
+    {
+        forwardTo(timeRows(), &TimeRows::selectTimeMode, mode, row);
+    }
+    void requestSolarLocation() const { forwardTo(timeRows(), &TimeRows::requestSolarLocation); }
 };

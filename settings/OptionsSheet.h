@@ -9,7 +9,6 @@
 #include <QVariantMap>
 
 #include <memory>
-#include <optional>
 
 class NightSchedule;
 class SaverPreferences;

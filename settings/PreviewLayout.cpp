@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/PreviewLayout.h"
 
+#include <QTransform>
+
 namespace {
 
 /// The preview width for which the lengths below are given; they scale with the width.
@@ -27,11 +29,6 @@ double between(double from, double to, double fraction)
     return from + (to - from) * fraction;
 }
 
-QRectF scaled(const QRectF &rect, double unit)
-{
-    return {rect.x() * unit, rect.y() * unit, rect.width() * unit, rect.height() * unit};
-}
-
 } // namespace
 
 double calendarEase(double t)
@@ -52,7 +49,6 @@ double calendarEase(double t)
 
 PreviewLayout previewLayout(const QSizeF &size, double progress)
 {
-    const double unit = size.width() / kDesignWidth;
     const QRectF &alone = kClockAlone;
     const QRectF &beside = kClockBesideCalendar;
     const QRectF clock(between(alone.x(), beside.x(), progress),
@@ -61,5 +57,7 @@ PreviewLayout previewLayout(const QSizeF &size, double progress)
                        between(alone.height(), beside.height(), progress));
     QRectF calendar = kCalendarShown;
     calendar.moveLeft(between(kDesignWidth + kCalendarGap, kCalendarShown.x(), progress));
-    return {scaled(clock, unit), scaled(calendar, unit)};
+    const double unit = size.width() / kDesignWidth;
+    const auto toPreview = QTransform::fromScale(unit, unit);
+    return {toPreview.mapRect(clock), toPreview.mapRect(calendar)};
 }

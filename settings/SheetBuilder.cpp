@@ -10,9 +10,8 @@
 #include "controls/TamselSwatchButton.h"
 #include "controls/TamselSymbolButton.h"
 #include "controls/TamselToggle.h"
+#include "controls/TextLabel.h"
 #include "controls/TimePicker.h"
-#include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
 #include "platform/Desktop.h"
 #include "prefs/Variants.h"
 #include "settings/SettingsSheet.h"
@@ -37,7 +36,6 @@ constexpr QRect kFirstVariantFrame(182, 7, 28, 28);
 constexpr int kVariantPitch = 32;
 constexpr QRect kToggleFrame(298, 13, 36, 16);
 
-constexpr QSize kColorRowsSize(344, 96);
 constexpr QRect kDayRowsFrame(0, kRowPitch, 344, 96);
 constexpr QRect kNightRowsFrame(0, kRowPitch, 344, 180);
 constexpr QRect kColorLabelFrame(kTitleInset, 19, 150, 18);
@@ -68,90 +66,38 @@ TamselSettingsView *transparentView(const QRect &frame, QWidget *parent)
     return view;
 }
 
-/// Builds the controls of one sheet.
-class SheetBuilder
+void addWindow(SettingsSheet &sheet, const platform::Desktop &desktop)
 {
-public:
-    SheetBuilder(SettingsSheet &sheet, const platform::Desktop &desktop)
-        : m_sheet(sheet), m_desktop(desktop)
-    {
-    }
-
-    void build()
-    {
-        m_sheet.configurationSheet = new TamselSettingsWindow;
-        addWindow();
-        QWidget *document = m_sheet.settingsScroll->widget();
-        addPreview(document);
-        addThemeGroup(document);
-        addCalendarGroup(document);
-        addNightGroup(document);
-        addActions(document);
-    }
-
-private:
-    void addWindow();
-    void addPreview(QWidget *document);
-    void addThemeGroup(QWidget *document);
-    void addVariantSwatches();
-    void addCalendarGroup(QWidget *document);
-    void addNightGroup(QWidget *document);
-    TimePicker *addTimeRow(int row, const QString &title, const QString &name) const;
-    void addActions(QWidget *document);
-
-    TamselToggle *toggle(const QString &name, QWidget *group) const;
-    TamselSettingsView *colorControlsNight(bool night, QWidget *group);
-    TamselSymbolButton *swapButton(bool night, QWidget *rows) const;
-    void addColorControls(const QString &key, QPoint offset, QWidget *rows);
-
-    SettingsSheet &m_sheet;
-    const platform::Desktop &m_desktop;
-};
-
-void SheetBuilder::addWindow()
-{
-    TamselSettingsWindow *window = m_sheet.configurationSheet;
+    auto *window = new TamselSettingsWindow;
+    sheet.configurationSheet = window;
     const double height = sheetLayout(kCollapsedHeight, kCollapsedHeight).contentHeight;
     window->resize(int(kSheetWidth), int(height));
     window->setCornerRadius(kSheetCornerRadius);
     window->setMovableByWindowBackground(true);
-    followAppearance(window, [window] { window->setPalette(appearanceOf(window).palette()); });
 
-    m_sheet.settingsScroll =
-        new OverlayScrollArea(*m_desktop.clocks, transparentView(window->rect(), nullptr), window);
-    m_sheet.settingsScroll->setGeometry(window->rect());
+    sheet.settingsScroll =
+        new OverlayScrollArea(*desktop.clocks, transparentView(window->rect(), nullptr), window);
+    sheet.settingsScroll->setGeometry(window->rect());
 }
 
-void SheetBuilder::addPreview(QWidget *document)
+void addPreview(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget *document)
 {
-    auto *preview = new TamselClockPreviewView(*m_desktop.clocks, document);
-    m_sheet.customPreviewView = preview;
+    auto *preview = new TamselClockPreviewView(*desktop.clocks, document);
+    sheet.customPreviewView = preview;
     preview->setGeometry(kPreviewFrame.toRect());
     preview->setCornerRadius(kPreviewRadius);
 
-    auto *mode = new TamselModeControl(*m_desktop.clocks, preview);
-    m_sheet.previewMode = mode;
+    auto *mode = new TamselModeControl(*desktop.clocks, preview);
+    sheet.previewMode = mode;
     mode->setGeometry(kModeControlFrame);
 }
 
-void SheetBuilder::addThemeGroup(QWidget *document)
-{
-    m_sheet.themeGroup = settingsGroupIn(document);
-    labelWithString(u"Theme"_s, kThemeTitleFrame, m_sheet.themeGroup);
-    m_sheet.themeName = labelWithString({}, kThemeNameFrame, m_sheet.themeGroup);
-    m_sheet.themeName->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    setLabelColor(m_sheet.themeName, &platform::Appearance::secondaryLabelColor);
-    addVariantSwatches();
-    m_sheet.dayColorControls = colorControlsNight(false, m_sheet.themeGroup);
-    m_sheet.dayColorControls->setGeometry(kDayRowsFrame);
-}
-
-void SheetBuilder::addVariantSwatches()
+void addVariantSwatches(SettingsSheet &sheet)
 {
     QRect frame = kFirstVariantFrame;
     for (const QLatin1StringView name : kSwatchVariants) {
         const QString variant = name;
-        auto *swatch = new TamselSwatchButton(m_sheet.themeGroup);
+        auto *swatch = new TamselSwatchButton(sheet.themeGroup);
         swatch->setObjectName(variant);
         swatch->setGeometry(frame);
         swatch->setCheckable(true);
@@ -159,70 +105,39 @@ void SheetBuilder::addVariantSwatches()
         swatch->setSwatchColor(backgroundColors().value(variant));
         swatch->setAccessibleName(variantLabels().value(variant));
         swatch->setToolTip(swatch->accessibleName());
-        m_sheet.variantRadioButtons.insert(variant, swatch);
+        sheet.variantRadioButtons.insert(variant, swatch);
         frame.translate(kVariantPitch, 0);
     }
 }
 
-void SheetBuilder::addCalendarGroup(QWidget *document)
+/// How assistive technology names what edits the colour \p key: \p format's palette and part.
+QString colorControlName(const QString &format, const QString &key)
 {
-    const QString title = u"Monthly calendar"_s;
-    m_sheet.calendarGroup = settingsGroupIn(document);
-    labelWithString(title, kTitleFrame, m_sheet.calendarGroup);
-    m_sheet.calendarCheckbox = toggle(title, m_sheet.calendarGroup);
+    const bool mark = key == kMarkColorKey || key == kNightMarkColorKey;
+    return format.arg(isNightColorKey(key) ? u"Night"_s : u"Day"_s,
+                      mark ? u"primary"_s : u"background"_s);
 }
 
-void SheetBuilder::addNightGroup(QWidget *document)
+void addColorControls(const QString &key, QPoint offset, SettingsSheet &sheet, QWidget *rows)
 {
-    const QString title = u"Night Mode"_s;
-    m_sheet.nightGroup = settingsGroupIn(document);
-    labelWithString(title, kTitleFrame, m_sheet.nightGroup);
-    m_sheet.nightSwitch = toggle(title, m_sheet.nightGroup);
-    m_sheet.nightControls = colorControlsNight(true, m_sheet.nightGroup);
-    m_sheet.nightControls->setGeometry(kNightRowsFrame);
-    m_sheet.nightFromPicker = addTimeRow(0, u"From"_s, u"Night mode starts at"_s);
-    m_sheet.nightToPicker = addTimeRow(1, u"To"_s, u"Night mode ends at"_s);
+    const ColorControls &controls = *colorControlsOf(key);
+    auto *field = new TamselHexField(rows);
+    field->setObjectName(key);
+    field->setGeometry(kHexFieldFrame.translated(offset));
+    field->setAccessibleName(colorControlName(u"%1 %2 hex color"_s, key));
+    sheet.*controls.field = field;
+
+    auto *swatch = new TamselSwatchButton(rows);
+    swatch->setObjectName(key);
+    swatch->setGeometry(kSwatchFrame.translated(offset));
+    swatch->setSwatchColor(Qt::black);
+    swatch->setUsesPickerSelection(true);
+    swatch->setAccessibleName(colorControlName(u"%1 %2 color"_s, key));
+    sheet.*controls.button = swatch;
 }
 
-TimePicker *SheetBuilder::addTimeRow(int row, const QString &title, const QString &name) const
+TamselSymbolButton *swapButton(bool night, const platform::Bundle &bundle, QWidget *rows)
 {
-    const QPoint offset(0, kRowPitch * row);
-    addSettingsDividerAt(kTimeRowsTop + offset.y(), m_sheet.nightControls);
-    labelWithString(title, kTimeLabelFrame.translated(offset), m_sheet.nightControls);
-    auto *picker = new TimePicker(m_sheet.nightControls);
-    picker->setGeometry(kTimePickerFrame.translated(offset));
-    picker->setAccessibleName(name);
-    return picker;
-}
-
-TamselToggle *SheetBuilder::toggle(const QString &name, QWidget *group) const
-{
-    auto *toggle = new TamselToggle(*m_desktop.clocks, group);
-    toggle->setGeometry(kToggleFrame);
-    toggle->setAccessibleName(name);
-    return toggle;
-}
-
-TamselSettingsView *SheetBuilder::colorControlsNight(bool night, QWidget *group)
-{
-    auto *rows = transparentView({QPoint(), kColorRowsSize}, group);
-    addSettingsDividerAt(0, rows);
-    const QPoint next(0, kRowPitch);
-    QLabel *markLabel = labelWithString(u"Primary"_s, kColorLabelFrame, rows);
-    QLabel *baseLabel = labelWithString(u"Background"_s, kColorLabelFrame.translated(next), rows);
-    addColorControls(night ? kNightMarkColorKey : kMarkColorKey, QPoint(), rows);
-    addColorControls(night ? kNightBaseColorKey : kBaseColorKey, next, rows);
-    if (!night) {
-        m_sheet.customMarkLabel = markLabel;
-        m_sheet.customBaseLabel = baseLabel;
-    }
-    (night ? m_sheet.nightSwapButton : m_sheet.daySwapButton) = swapButton(night, rows);
-    return rows;
-}
-
-TamselSymbolButton *SheetBuilder::swapButton(bool night, QWidget *rows) const
-{
-    const platform::Bundle &bundle = m_desktop.bundle;
     auto *connector = new ConnectorView(
         platform::SvgImage::fromFile(bundle.pathForResource(u"swap-connector"_s, u"svg"_s)), rows);
     connector->setObjectName(u"swapConnector"_s);
@@ -239,47 +154,95 @@ TamselSymbolButton *SheetBuilder::swapButton(bool night, QWidget *rows) const
     return swap;
 }
 
-/// How assistive technology names what edits the colour \p key: \p format's palette and part.
-QString colorControlName(const QString &format, const QString &key)
+TamselSettingsView *colorControlsNight(bool night, SettingsSheet &sheet,
+                                       const platform::Desktop &desktop, QWidget *group)
 {
-    const bool mark = key == kMarkColorKey || key == kNightMarkColorKey;
-    return format.arg(isNightColorKey(key) ? u"Night"_s : u"Day"_s,
-                      mark ? u"primary"_s : u"background"_s);
+    auto *rows = transparentView(night ? kNightRowsFrame : kDayRowsFrame, group);
+    addSettingsDividerAt(0, rows);
+    const QPoint next(0, kRowPitch);
+    QLabel *markLabel = labelWithString(u"Primary"_s, kColorLabelFrame, rows);
+    QLabel *baseLabel = labelWithString(u"Background"_s, kColorLabelFrame.translated(next), rows);
+    addColorControls(night ? kNightMarkColorKey : kMarkColorKey, QPoint(), sheet, rows);
+    addColorControls(night ? kNightBaseColorKey : kBaseColorKey, next, sheet, rows);
+    if (!night) {
+        sheet.customMarkLabel = markLabel;
+        sheet.customBaseLabel = baseLabel;
+    }
+    (night ? sheet.nightSwapButton : sheet.daySwapButton) = swapButton(night, desktop.bundle, rows);
+    return rows;
 }
 
-void SheetBuilder::addColorControls(const QString &key, QPoint offset, QWidget *rows)
+void addThemeGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget *document)
 {
-    const ColorControls &controls = *colorControlsOf(key);
-    auto *field = new TamselHexField(rows);
-    field->setObjectName(key);
-    field->setGeometry(kHexFieldFrame.translated(offset));
-    field->setAccessibleName(colorControlName(u"%1 %2 hex color"_s, key));
-    m_sheet.*controls.field = field;
-
-    auto *swatch = new TamselSwatchButton(rows);
-    swatch->setObjectName(key);
-    swatch->setGeometry(kSwatchFrame.translated(offset));
-    swatch->setSwatchColor(Qt::black);
-    swatch->setUsesPickerSelection(true);
-    swatch->setAccessibleName(colorControlName(u"%1 %2 color"_s, key));
-    m_sheet.*controls.button = swatch;
+    sheet.themeGroup = settingsGroupIn(document);
+    labelWithString(u"Theme"_s, kThemeTitleFrame, sheet.themeGroup);
+    sheet.themeName = labelWithString({}, kThemeNameFrame, sheet.themeGroup);
+    sheet.themeName->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    sheet.themeName->setForegroundRole(QPalette::PlaceholderText);
+    addVariantSwatches(sheet);
+    sheet.dayColorControls = colorControlsNight(false, sheet, desktop, sheet.themeGroup);
 }
 
-void SheetBuilder::addActions(QWidget *document)
+TamselToggle *addToggle(const QString &name, const platform::Clocks &clocks, QWidget *group)
+{
+    auto *toggle = new TamselToggle(clocks, group);
+    toggle->setGeometry(kToggleFrame);
+    toggle->setAccessibleName(name);
+    return toggle;
+}
+
+void addCalendarGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget *document)
+{
+    const QString title = u"Monthly calendar"_s;
+    sheet.calendarGroup = settingsGroupIn(document);
+    labelWithString(title, kTitleFrame, sheet.calendarGroup);
+    sheet.calendarCheckbox = addToggle(title, *desktop.clocks, sheet.calendarGroup);
+}
+
+TimePicker *addTimeRow(int row, const QString &title, const QString &name, QWidget *rows)
+{
+    const QPoint offset(0, kRowPitch * row);
+    addSettingsDividerAt(kTimeRowsTop + offset.y(), rows);
+    labelWithString(title, kTimeLabelFrame.translated(offset), rows);
+    auto *picker = new TimePicker(rows);
+    picker->setGeometry(kTimePickerFrame.translated(offset));
+    picker->setAccessibleName(name);
+    return picker;
+}
+
+void addNightGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget *document)
+{
+    const QString title = u"Night Mode"_s;
+    sheet.nightGroup = settingsGroupIn(document);
+    labelWithString(title, kTitleFrame, sheet.nightGroup);
+    sheet.nightSwitch = addToggle(title, *desktop.clocks, sheet.nightGroup);
+    sheet.nightControls = colorControlsNight(true, sheet, desktop, sheet.nightGroup);
+    sheet.nightFromPicker =
+        addTimeRow(0, u"From"_s, u"Night mode starts at"_s, sheet.nightControls);
+    sheet.nightToPicker = addTimeRow(1, u"To"_s, u"Night mode ends at"_s, sheet.nightControls);
+}
+
+void addActions(SettingsSheet &sheet, QWidget *document)
 {
     const SheetLayout layout = sheetLayout(kCollapsedHeight, kCollapsedHeight);
-    m_sheet.settingsActions = transparentView(layout.settingsActions.toRect(), document);
-    m_sheet.cancelButton = new PushButton(u"Cancel"_s, m_sheet.settingsActions);
-    m_sheet.cancelButton->setGeometry(kCancelFrame);
+    sheet.settingsActions = transparentView(layout.settingsActions.toRect(), document);
+    sheet.cancelButton = new PushButton(u"Cancel"_s, sheet.settingsActions);
+    sheet.cancelButton->setGeometry(kCancelFrame);
 
-    m_sheet.saveButton = new PushButton(u"OK"_s, m_sheet.settingsActions);
-    m_sheet.saveButton->setGeometry(kSaveFrame);
-    m_sheet.saveButton->setProminent(true);
+    sheet.saveButton = new PushButton(u"OK"_s, sheet.settingsActions);
+    sheet.saveButton->setGeometry(kSaveFrame);
+    sheet.saveButton->setProminent(true);
 }
 
 } // namespace
 
 void buildSheet(SettingsSheet &sheet, const platform::Desktop &desktop)
 {
-    SheetBuilder(sheet, desktop).build();
+    addWindow(sheet, desktop);
+    QWidget *document = sheet.settingsScroll->widget();
+    addPreview(sheet, desktop, document);
+    addThemeGroup(sheet, desktop, document);
+    addCalendarGroup(sheet, desktop, document);
+    addNightGroup(sheet, desktop, document);
+    addActions(sheet, document);
 }

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetParts.h"
 
-#include "controls/ControlFont.h"
 #include "controls/Symbol.h"
 #include "controls/TamselInputFill.h"
 #include "controls/TamselSeparator.h"
 #include "controls/TamselSettingsView.h"
 #include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
 #include "settings/SheetLayout.h"
 
-#include <QLabel>
 #include <QPainter>
 
 #include <utility>
@@ -23,26 +20,6 @@ constexpr int kDividerLeft = 10;
 constexpr int kDividerWidth = 324;
 
 } // namespace
-
-QLabel *labelWithString(const QString &text, const QRect &frame, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setGeometry(frame);
-    label->setFont(controlFont());
-    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setTextFormat(Qt::PlainText);
-    setLabelColor(label, &platform::Appearance::labelColor);
-    return label;
-}
-
-void setLabelColor(QLabel *label, QColor (platform::Appearance::*color)() const)
-{
-    followAppearance(label, [label, color] {
-        QPalette colors = label->palette();
-        colors.setColor(QPalette::WindowText, (appearanceOf(label).*color)());
-        label->setPalette(colors);
-    });
-}
 
 TamselSettingsView *settingsGroupIn(QWidget *parent)
 {

@@ -3,6 +3,7 @@
 
 #include "calendar/TamselCalendarLayout.h"
 #include "clock/FrameDamage.h"
+#include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 #include "platform/Clocks.h"
@@ -291,9 +292,6 @@ void TamselClockPreviewView::paintRounded(QPainter &painter, const QRegion &regi
     QBrush brush(picture);
     brush.setTransform(QTransform::fromScale(1.0 / scale, 1.0 / scale));
     painter.setClipRegion(region);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(brush);
-    painter.drawRoundedRect(rect(), m_cornerRadius, m_cornerRadius);
+    fillRounded(painter, rect(), m_cornerRadius, brush);
 }

@@ -4,6 +4,7 @@
 #include "controls/ControlFont.h"
 #include "controls/Popover.h"
 #include "controls/PushButton.h"
+#include "controls/RoundedShape.h"
 #include "controls/TamselColorPopover.h"
 #include "controls/TamselGradientSlider.h"
 #include "controls/TamselHexField.h"
@@ -14,13 +15,14 @@
 #include "controls/TamselTimeInput.h"
 #include "controls/TamselTimeMenu.h"
 #include "controls/TamselToggle.h"
+#include "controls/TextLabel.h"
 #include "controls/TimePicker.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "platform/Clocks.h"
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QLabel>
 #include <QPainter>
 
 using namespace Qt::StringLiterals;
@@ -44,19 +46,6 @@ void focusByKey(QWidget *control)
     QCoreApplication::sendEvent(control, &event);
 }
 
-void addLabel(QWidget *row, const QString &text, const QRect &frame)
-{
-    auto *label = new QLabel(text, row);
-    label->setFont(controlFont());
-    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    label->setGeometry(frame);
-    followAppearance(label, [label] {
-        QPalette colors = label->palette();
-        colors.setColor(QPalette::WindowText, appearanceOf(label).labelColor());
-        label->setPalette(colors);
-    });
-}
-
 /// A coloured background, as the preview is below a mode control.
 class Ground final : public QWidget
 {
@@ -67,10 +56,7 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(m_color);
-        painter.drawRoundedRect(rect(), 10, 10);
+        fillRounded(painter, rect(), 10, m_color);
     }
 
 private:
@@ -137,6 +123,7 @@ Gallery::Gallery(const platform::Appearance &appearance, QWidget *parent)
     : QWidget(parent), m_bottom(kMargin)
 {
     setAppearanceOf(this, appearance);
+    setPalette(appearance.palette());
     auto *background = new TamselSettingsView(this);
     addSwatches();
     addFields();
@@ -162,7 +149,7 @@ QWidget *Gallery::addRow(const QString &title, int height)
     row->setAccessibleName(title);
     row->setGeometry(kMargin, m_bottom, kRowWidth, height);
     m_bottom += height + kRowGap;
-    addLabel(row, title, {10, 13, 150, 18});
+    labelWithString(title, {10, 13, 150, 18}, row);
     return row;
 }
 
@@ -230,8 +217,8 @@ void Gallery::addSymbolButtons()
 void Gallery::addTimeRows()
 {
     QWidget *row = addRow(u"From, hovered"_s, 126);
-    addLabel(row, u"From"_s, {10, 55, 100, 18});
-    addLabel(row, u"To"_s, {10, 97, 100, 18});
+    labelWithString(u"From"_s, {10, 55, 100, 18}, row);
+    labelWithString(u"To"_s, {10, 97, 100, 18}, row);
     for (const int y : {42, 84})
         (new TamselSeparator(row))->setGeometry(10, y, 324, 1);
     hover(addTimeMenu(row, u"Sunset"_s, 21));
@@ -251,7 +238,7 @@ void Gallery::addToggles()
     QWidget *row = addRow(u"Toggles"_s);
     const QStringList names{u"Off"_s, u"On"_s, u"Pressed"_s, u"Disabled"_s, u"Focused"_s};
     for (int i = 0; i < names.size(); ++i) {
-        auto *toggle = new TamselToggle(row);
+        auto *toggle = new TamselToggle(platform::systemClocks(), row);
         toggle->setAccessibleName(names[i]);
         toggle->move(kRowRight - 36 - 46 * (4 - i), 13);
         toggle->setChecked(i % 2 == 1 || i == 4);
@@ -285,14 +272,14 @@ void Gallery::addModeControls()
     for (int i = 0; i < 3; ++i) {
         auto *ground = new Ground(grounds[i], row);
         ground->setGeometry(10 + 110 * i, 10, 104, 40);
-        auto *control = new TamselModeControl(ground);
+        auto *control = new TamselModeControl(platform::systemClocks(), ground);
         control->setGeometry(10, 8, 50, 24);
         control->setInk(i == 0 ? Qt::black : Qt::white);
         control->setSelectedSegment(i % 2);
         if (i == 1)
             focusByKey(control->buttons().at(1));
         if (i == 2) {
-            auto *shown = new TamselToggle(ground);
+            auto *shown = new TamselToggle(platform::systemClocks(), ground);
             shown->move(64, 12);
             shown->setAccessibleName(u"Mode control shown"_s);
             shown->setChecked(true);

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QHBoxLayout>
-#include <QPainter>
 
 using namespace Qt::StringLiterals;
 using platform::Appearance;

@@ -51,7 +51,7 @@ private Q_SLOTS:
 
     void focusRingIsForTheKeyboard()
     {
-        TamselToggle first(m_window.get());
+        TamselToggle first(platform::systemClocks(), m_window.get());
         TamselSwatchButton second(m_window.get());
         first.setGeometry(20, 20, 36, 16);
         second.setGeometry(80, 20, 28, 28);

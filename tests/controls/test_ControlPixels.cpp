@@ -15,6 +15,7 @@
 #include "controls/TimePicker.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "platform/Clocks.h"
 #include "tests/support/ControlPicture.h"
 
 #include <QTest>
@@ -171,7 +172,7 @@ private Q_SLOTS:
 
     void modeControlShowsTheOtherSegmentPaler()
     {
-        TamselModeControl control;
+        TamselModeControl control(platform::systemClocks(), nullptr);
         control.resize(50, 24);
         control.setInk(Qt::black);
         const auto inkOf = [&](int segment) {

@@ -5,7 +5,6 @@
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QElapsedTimer>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>

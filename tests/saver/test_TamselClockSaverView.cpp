@@ -5,7 +5,6 @@
 #include "tests/support/Pixels.h"
 #include "tests/support/SaverFixture.h"
 
-#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;

@@ -4,7 +4,6 @@
 #include "night/TamselSolarTimes.h"
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
-#include "prefs/NightSettings.h"
 
 #include <QFile>
 #include <QTemporaryDir>
