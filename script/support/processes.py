@@ -140,7 +140,7 @@ def measured(cases, server, half_turns, seconds):
                 sys.exit(f"{case.command[0]} is not installed")
             phase = part % 2 * SWEEP_SECONDS if case.sweeps else None
             with case.around():
-                watched = SWEEP_SECONDS if case.sweeps or name == "floor" else seconds
+                watched = SWEEP_SECONDS if case.sweeps or name.startswith("floor") else seconds
                 found.setdefault(name, []).append(usage(case.command, server, watched, phase))
     return {name: mean(parts) for name, parts in found.items()}
 
