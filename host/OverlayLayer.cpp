@@ -7,14 +7,46 @@
 #include <QGuiApplication>
 #include <QWidget>
 
+#include <cstring>
+
+#include <wayland-client.h>
+
 using namespace Qt::StringLiterals;
 
 namespace host {
 
+namespace {
+
+bool compositorIsPlasma()
+{
+    wl_display *display = wl_display_connect(nullptr);
+    if (!display)
+        return false;
+    static constexpr wl_registry_listener kGlobals = {
+        .global =
+            [](void *found, wl_registry *, uint32_t, const char *interface, uint32_t) {
+                if (std::strcmp(interface, "org_kde_plasma_shell") == 0)
+                    *static_cast<bool *>(found) = true;
+            },
+        .global_remove = [](void *, wl_registry *, uint32_t) {},
+    };
+    bool found = false;
+    wl_registry *registry = wl_display_get_registry(display);
+    wl_registry_add_listener(registry, &kGlobals, &found);
+    wl_display_roundtrip(display);
+    wl_registry_destroy(registry);
+    wl_display_disconnect(display);
+    return found;
+}
+
+} // namespace
+
 void putOnOverlayLayer(QWidget &window)
 {
     using Layer = LayerShellQt::Window;
-    if (!QGuiApplication::platformName().startsWith("wayland"_L1))
+    static const bool isPlasma =
+        QGuiApplication::platformName().startsWith("wayland"_L1) && compositorIsPlasma();
+    if (!isPlasma)
         return;
     window.winId(); // makes its handle
     Layer *layer = Layer::get(window.windowHandle());
@@ -25,8 +57,6 @@ void putOnOverlayLayer(QWidget &window)
     layer->setExclusiveZone(kOverPanels);
     layer->setKeyboardInteractivity(Layer::KeyboardInteractivityExclusive);
     layer->setScope(u"tamsel-clock"_s);
-    // The host ends the window when its screen goes.
-    layer->setCloseOnDismissed(false);
 }
 
 } // namespace host

@@ -59,7 +59,7 @@ void SaverHost::start()
 {
     m_settled.setSingleShot(true);
     m_settled.setInterval(kSettlingTime);
-    connect(&m_settled, &QTimer::timeout, this, &SaverHost::syncViews);
+    connect(&m_settled, &QTimer::timeout, this, &SaverHost::screensSettled);
     m_moved.setSingleShot(true);
     m_moved.setInterval(kScreenNewsTime);
     connect(&m_moved, &QTimer::timeout, this, [] { QCoreApplication::exit(0); });
@@ -69,6 +69,7 @@ void SaverHost::start()
     });
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](QScreen *screen) {
         m_views.erase(screen);
+        m_hasLostScreen = true;
         screensChanged();
     });
     connect(&m_xScreens, &XScreenChanges::changed, this, &SaverHost::screensMoved);
@@ -97,6 +98,22 @@ void SaverHost::screensMoved()
     m_moved.stop();
     m_pointer = PointerGuard();
     m_settled.start();
+}
+
+/// A compositor that moves the windows of a lost screen to another one may show those and hide the
+/// clock there, without telling it. A window that is shown anew is in sight.
+void SaverHost::screensSettled()
+{
+    const bool mayBeHidden =
+        m_hasLostScreen && QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    m_hasLostScreen = false;
+    for (const auto &[screen, view] : m_views) {
+        if (mayBeHidden) {
+            view->hide();
+            view->showFullScreen();
+        }
+    }
+    syncViews();
 }
 
 void SaverHost::syncViews()

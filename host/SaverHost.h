@@ -42,6 +42,7 @@ private:
     void followScreen(QScreen *screen) const;
     void screensChanged();
     void screensMoved();
+    void screensSettled();
     void syncViews();
     void cover(QScreen *screen);
     bool isUserComingBack(QEvent *event);
@@ -53,6 +54,8 @@ private:
     PointerGuard m_pointer;
     /// Active until the screens have been stable for a while.
     QTimer m_settled;
+    /// A screen went since the screens were stable.
+    bool m_hasLostScreen = false;
     /// Active from a movement until it is certain that no change of screens caused it.
     QTimer m_moved;
 };
