@@ -14,11 +14,11 @@ enum class Interaction {
     Working,
 };
 
-/// Keeps the toolkit from starting helpers, from session services that our programs do not need and
-/// from scales at which windows cannot be shown. A message that is fatal to the toolkit ends the
-/// process with one line on stderr and status 1, without a core dump; other messages are dropped,
-/// because hosts read our stderr through a pipe and wake up for each line. To be called before any
-/// application object exists.
+/// Keeps the heap small over weeks and the toolkit from starting helpers, from session services
+/// that our programs do not need and from scales at which windows cannot be shown. A message that
+/// is fatal to the toolkit ends the process with one line on stderr and status 1, without a core
+/// dump; other messages are dropped, because hosts read our stderr through a pipe and wake up for
+/// each line. To be called before any application object exists.
 void prepareToolkit();
 
 /// Prepares the toolkit and creates the application object for its platform \p qtPlatform. The
