@@ -17,6 +17,11 @@ tamsel_script_test(host_starting host/starting.py BUS LABELS host
     ARGS $<TARGET_FILE:tamsel-clock> ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/pelko-location)
 tamsel_installed_test(host_xscreensaver host/xscreensaver.sh)
 tamsel_installed_test(host_mate host/mate.sh)
+# Not in every Debian.
+find_program(TAMSEL_XFCE4_SCREENSAVER xfce4-screensaver)
+if(TAMSEL_XFCE4_SCREENSAVER)
+    tamsel_installed_test(host_xfce host/xfce.sh)
+endif()
 tamsel_installed_test(host_xsecurelock host/xsecurelock.sh)
 tamsel_installed_test(host_sway host/sway.py)
 add_library(display_power MODULE host/display_power.cpp)
