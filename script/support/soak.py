@@ -10,6 +10,7 @@ import subprocess
 import sys
 import time
 
+from Xlib.error import XError
 from Xlib.ext import res
 
 import growth
@@ -56,11 +57,15 @@ class XScreen:
 
     def held_for(self, pid):
         """What the server holds for a process: the number of resources, and kibibytes of pixmaps."""
-        pid_of = [{"client": 0, "mask": res.LocalClientPIDMask}]
-        owned = [known.spec.client for known in self.display.res_query_client_ids(pid_of).ids
-                 if list(known.value) == [pid]]
-        count = sum(kind.count for client in owned for kind in self.display.res_query_client_resources(client).types)
-        return count, sum(self.display.res_query_client_pixmap_bytes(client).bytes for client in owned) // 1024
+        try:
+            pid_of = [{"client": 0, "mask": res.LocalClientPIDMask}]
+            owned = [known.spec.client for known in self.display.res_query_client_ids(pid_of).ids
+                     if list(known.value) == [pid]]
+            count = sum(kind.count for client in owned
+                        for kind in self.display.res_query_client_resources(client).types)
+            return count, sum(self.display.res_query_client_pixmap_bytes(client).bytes for client in owned) // 1024
+        except XError:  # a connection that the process used for a moment ended in between
+            return self.held_for(pid)
 
 
 class WaylandScreen:
