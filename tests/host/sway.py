@@ -27,7 +27,7 @@ BLACK = (0, 0, 0)
 def start_sway():
     sway = launch_sway("resolution 1280x720 position 0,0 scale 2", "resolution 1200x810 position 640,0 scale 1.5",
                        backend="x11")
-    wait_for("two outputs", lambda: len(output_windows()) == 2)
+    wait_for("two outputs", lambda: [window.get_geometry().width for window in output_windows()] == [1280, 1200])
     return sway
 
 
