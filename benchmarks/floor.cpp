@@ -2,31 +2,19 @@
 // The lower bound for the cost of an animation under X: a plain program that fills a square of the
 // given number of pixels in shared memory and puts it on its window 30 times a second. floor
 // WIDTHxHEIGHT PIXELS
+#include "benchmarks/Floor.h"
+
 #include <sys/ipc.h>
 #include <sys/shm.h>
 #include <xcb/shm.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-#include <ctime>
+#include <tuple>
 
 namespace {
-
-constexpr long kIntervalNanoseconds = 1'000'000'000 / 30;
-
-timespec later(timespec time, long nanoseconds)
-{
-    time.tv_nsec += nanoseconds;
-    if (time.tv_nsec >= 1'000'000'000) {
-        time.tv_nsec -= 1'000'000'000;
-        ++time.tv_sec;
-    }
-    return time;
-}
 
 xcb_window_t showWindow(xcb_connection_t *x, const xcb_screen_t &screen, uint16_t width,
                         uint16_t height)
@@ -44,11 +32,10 @@ xcb_window_t showWindow(xcb_connection_t *x, const xcb_screen_t &screen, uint16_
 
 int main(int argc, char **argv)
 {
-    int width = 0;
-    int height = 0;
-    if (argc != 3 || std::sscanf(argv[1], "%dx%d", &width, &height) != 2)
+    Floor floor(argc, argv);
+    const auto [width, height, side] = std::tuple(floor.width, floor.height, floor.side);
+    if (side == 0)
         return 2;
-    const int side = std::min({int(std::sqrt(std::atof(argv[2]))), width, height});
 
     xcb_connection_t *x = xcb_connect(nullptr, nullptr);
     if (xcb_connection_has_error(x))
@@ -65,16 +52,13 @@ int main(int argc, char **argv)
     std::free(xcb_get_input_focus_reply(x, xcb_get_input_focus(x), nullptr));
     shmctl(id, IPC_RMID, nullptr);
 
-    timespec due = {};
-    clock_gettime(CLOCK_MONOTONIC, &due);
     for (uint32_t frame = 0; !xcb_connection_has_error(x); ++frame) {
         std::fill_n(pixels, side * side, 0xff4600 + frame % 64);
         xcb_shm_put_image(x, window, context, uint16_t(side), uint16_t(side), 0, 0, uint16_t(side),
                           uint16_t(side), 0, 0, screen.root_depth, XCB_IMAGE_FORMAT_Z_PIXMAP, 0,
                           segment, 0);
         xcb_flush(x);
-        due = later(due, kIntervalNanoseconds);
-        clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &due, nullptr);
+        floor.awaitNextFrame();
     }
     return 0;
 }

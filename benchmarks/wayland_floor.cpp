@@ -2,6 +2,8 @@
 // The least that an animation on a Wayland screen can cost: a bare full-screen program that fills a
 // square of the given number of pixels in shared memory and shows it 30 times a second.
 //   wayland_floor WIDTHxHEIGHT PIXELS
+#include "benchmarks/Floor.h"
+
 #include "xdg-shell-client-protocol.h"
 
 #include <poll.h>
@@ -10,18 +12,15 @@
 #include <wayland-client.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <iterator>
+#include <tuple>
 #include <type_traits>
 
 namespace {
 
-constexpr long kIntervalNanoseconds = 1'000'000'000 / 30;
 constexpr int kMostBuffers = 3;
 
 struct Buffer
@@ -90,25 +89,14 @@ bool takeEvents(wl_display *display)
     return wl_display_dispatch_pending(display) >= 0;
 }
 
-timespec later(timespec time, long nanoseconds)
-{
-    time.tv_nsec += nanoseconds;
-    if (time.tv_nsec >= 1'000'000'000) {
-        time.tv_nsec -= 1'000'000'000;
-        ++time.tv_sec;
-    }
-    return time;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
-    int width = 0;
-    int height = 0;
-    if (argc != 3 || std::sscanf(argv[1], "%dx%d", &width, &height) != 2)
+    Floor floor(argc, argv);
+    const auto [width, height, side] = std::tuple(floor.width, floor.height, floor.side);
+    if (side == 0)
         return 2;
-    const int side = std::min({int(std::sqrt(std::atof(argv[2]))), width, height});
 
     wl_display *display = wl_display_connect(nullptr);
     if (!display)
@@ -149,8 +137,6 @@ int main(int argc, char **argv)
         wl_buffer_add_listener(buffers[i].handle, &kBufferListener, &buffers[i]);
     }
 
-    timespec due = {};
-    clock_gettime(CLOCK_MONOTONIC, &due);
     for (uint32_t frame = 0; takeEvents(display); ++frame) {
         auto *const buffer = std::find_if(std::begin(buffers), std::end(buffers),
                                           [](const Buffer &it) { return !it.isHeld; });
@@ -163,8 +149,7 @@ int main(int argc, char **argv)
             wl_surface_commit(surface);
             wl_display_flush(display);
         }
-        due = later(due, kIntervalNanoseconds);
-        clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &due, nullptr);
+        floor.awaitNextFrame();
     }
     return 0;
 }

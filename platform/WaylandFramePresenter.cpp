@@ -368,7 +368,7 @@ void WaylandFramePresenter::present(std::span<const PixelBlock> blocks)
 {
     if (!m_next || (blocks.empty() && !m_isFresh))
         return;
-    if (m_extent.scale != 0)
+    if (m_extent.scale != 0 && m_isFresh)
         wl_surface_set_buffer_scale(m_surface->get(), m_extent.scale);
     if (m_viewport && m_isFresh && m_scale > 0.0)
         wp_viewport_set_destination(m_viewport.get(), m_extent.size.width(),
