@@ -23,7 +23,8 @@ activate() {
 }
 deactivate() {
     xscreensaver-command -deactivate >/dev/null 2>&1 || fail "the daemon does not answer"
-    until_true 5 shows "$desktop" 2 2 || fail "the desktop does not come back"
+    # Its drawing process may begin to wait just after the signal came, and then sees it with its next timer, 5 s later.
+    until_true 15 shows "$desktop" 2 2 || fail "the desktop does not come back"
     until_true 5 no_clock_runs || fail "deactivation leaves the saver running"
 }
 
