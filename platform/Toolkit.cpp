@@ -3,6 +3,7 @@
 
 #include "platform/BusConnection.h"
 #include "platform/ExitStatus.h"
+#include "platform/Memory.h"
 #include "platform/MessageBus.h"
 
 #include <QAccessible>
@@ -13,7 +14,6 @@
 
 #include <optional>
 
-#include <malloc.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -43,17 +43,6 @@ auto withVariable(const char *name, const char *value)
     });
     qputenv(name, value);
     return restore;
-}
-
-/// Blocks from this size on, pictures above all, get memory of their own. The C library raises its
-/// threshold when such a block is freed and would cut the next ones from the heap, where small,
-/// lasting blocks then fill the holes, and a clock that runs for weeks grows.
-void keepLargeBlocksOutOfTheHeap()
-{
-#ifdef M_MMAP_THRESHOLD
-    constexpr int kLargeBlock = 128 * 1024; // in bytes, where the C library's threshold begins
-    mallopt(M_MMAP_THRESHOLD, kLargeBlock);
-#endif
 }
 
 /// Removes a scale at which no window could be shown; the toolkit does not check it.

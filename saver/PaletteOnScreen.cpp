@@ -6,6 +6,7 @@
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 #include "platform/HexColor.h"
+#include "platform/Memory.h"
 #include "prefs/NightSettings.h"
 #include "prefs/SaverPreferences.h"
 #include "prefs/Variants.h"
@@ -172,6 +173,8 @@ QColor PaletteOnScreen::displayedMarkColor() const
 
 void PaletteOnScreen::endFinishedTransition()
 {
-    if (paletteTransitionProgress() >= 1.0)
-        m_transition = {};
+    if (paletteTransitionProgress() < 1.0 || !m_transition.transitionFromBackground.isValid())
+        return;
+    m_transition = {};
+    platform::returnUnusedMemory();
 }

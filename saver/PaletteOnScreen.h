@@ -81,7 +81,7 @@ public:
     QColor blendFrom(const QColor &from, const QColor &to) const;
     QColor displayedBackgroundColor() const;
     QColor displayedMarkColor() const;
-    /// Forgets the colours of a cross-fade that has run its time.
+    /// Forgets the colours of a cross-fade that has run its time, and returns the memory it took.
     void endFinishedTransition();
 
 Q_SIGNALS:
