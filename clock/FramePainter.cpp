@@ -30,9 +30,9 @@ bool FramePainter::keepPicture(const ClockFrame &frame, const QTransform &toDevi
 {
     const QRect area = toDevice.mapRect(frame.bounds).toAlignedRect();
     if (toDevice.type() > QTransform::TxScale)
-        dropMemory();
+        m_memory = {};
     else if (m_memory.picture.size() != area.size())
-        makeMemory(area.size());
+        m_memory = OwnFrameMemory(area.size());
     if (m_memory.picture.isNull()) {
         m_surface.forget();
         return false;
@@ -40,18 +40,4 @@ bool FramePainter::keepPicture(const ClockFrame &frame, const QTransform &toDevi
     m_origin = area.topLeft();
     m_surface.show(m_memory, frame, toDevice * QTransform::fromTranslate(-area.x(), -area.y()));
     return true;
-}
-
-void FramePainter::makeMemory(const QSize &size)
-{
-    m_room = QImage(size, QImage::Format_RGB32);
-    m_memory = {QImage(size, QImage::Format_RGB32), reinterpret_cast<QRgb *>(m_room.bits())};
-    if (m_room.isNull())
-        dropMemory();
-}
-
-void FramePainter::dropMemory()
-{
-    m_memory = {};
-    m_room = {};
 }

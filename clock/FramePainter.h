@@ -13,12 +13,9 @@ public:
 
 private:
     bool keepPicture(const ClockFrame &frame, const QTransform &toDevice);
-    void makeMemory(const QSize &size);
-    void dropMemory();
 
     /// The device pixels of the frame, from m_origin on; null while none are kept.
-    platform::FrameMemory m_memory;
-    QImage m_room;
+    OwnFrameMemory m_memory;
     QPoint m_origin;
     FrameSurface m_surface;
     /// Of frames drawn while no picture is kept.

@@ -85,6 +85,14 @@ void SecondHand::drawByQt(const platform::PixelBlock &strip, const ClockFrame &f
     drawClock(painter, hand, layer);
 }
 
+OwnFrameMemory::OwnFrameMemory(const QSize &size) : m_room(size, QImage::Format_RGB32)
+{
+    if (m_room.isNull())
+        return;
+    picture = QImage(size, QImage::Format_RGB32);
+    room = reinterpret_cast<QRgb *>(m_room.bits());
+}
+
 QRegion FrameSurface::show(platform::FrameMemory &memory, const ClockFrame &frame,
                            const QTransform &toDevice)
 {

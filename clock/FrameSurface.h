@@ -49,6 +49,17 @@ private:
     platform::CoveredPixels m_covered;
 };
 
+/// Memory that no window system reads; its picture is null when there is not enough.
+class OwnFrameMemory : public platform::FrameMemory
+{
+public:
+    OwnFrameMemory() = default;
+    explicit OwnFrameMemory(const QSize &size);
+
+private:
+    QImage m_room;
+};
+
 /// Keeps memory holding one frame after the other, to the same pixels as drawFrame(). From frame to
 /// frame only the second hand is taken off and put on again; what it covers is kept aside.
 class FrameSurface

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <dlfcn.h>
 #include <sys/auxv.h>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +43,15 @@ Bundle Bundle::ofProgram()
             return Bundle(path);
     }
     return Bundle(QDir::cleanPath(programs.filePath(kBundleBesidePrograms)));
+}
+
+Bundle Bundle::ofLibrary(const QString &place)
+{
+    Dl_info library{};
+    if (!::dladdr(&kBundleBesidePrograms, &library))
+        return Bundle({});
+    const QFileInfo file(QFileInfo(QFile::decodeName(library.dli_fname)).canonicalFilePath());
+    return Bundle(QDir::cleanPath(file.dir().filePath(place)));
 }
 
 QString Bundle::resourcesPath() const

@@ -22,6 +22,10 @@ public:
     /// installation have the same layout. An empty bundle when the program's own path is unknown.
     static Bundle ofProgram();
 
+    /// The module's bundle for code that a program of others has loaded: at \p place from the
+    /// folder of the library that holds this code. An empty bundle when that is unknown.
+    static Bundle ofLibrary(const QString &place);
+
     QString path() const { return m_path; }
     QString resourcesPath() const;
 

@@ -2,10 +2,10 @@
 #include "saver/TamselClockSaverView.h"
 
 #include "calendar/TamselCalendarFont.h"
-#include "calendar/TamselCalendarLayout.h"
 #include "clock/FrameDamage.h"
 #include "platform/FramePresenter.h"
 #include "platform/LoginSession.h"
+#include "saver/FrameOnScreen.h"
 #include "settings/TimeRows.h"
 
 #include <QPaintEvent>
@@ -104,44 +104,21 @@ bool TamselClockSaverView::isSeen() const
     return ScreenSaverView::isSeen() && (!m_desktop.session || m_desktop.session->isActive());
 }
 
-/// The frame value for \p now at \p ratio device pixels per point. The slow drift advances only in
-/// visible steps from the frame on screen.
+/// The slow drift advances only in visible steps from the frame on screen.
 ClockFrame TamselClockSaverView::frameAt(const QDateTime &now, double ratio) const
 {
-    const bool calendar = m_palette.applied().calendarEnabled;
-    const CalendarLayoutRects rects = places(now, calendar);
-    ClockFrame frame;
-    frame.bounds = QRectF(rect());
-    frame.background = m_palette.displayedBackgroundColor();
-    frame.tinted = m_palette.paletteTransitionProgress() < 1.0;
-    if (frame.tinted || calendar)
-        frame.mark = m_palette.displayedMarkColor();
-    frame.artwork = m_palette.loaded().artwork;
-    frame.clockRect = rects.clock;
-    frame.angles = TamselClockAnglesForDate(now);
-    if (calendar)
-        frame.calendar = {rects.calendar,
-                          {now.date(), calendarIsPortrait(frame.bounds.size()), QLocale::system()}};
-    return withDriftHeld(m_shown, std::move(frame), ratio);
-}
-
-/// Where the clock stands at \p now and, with \p calendar, the calendar beside it.
-CalendarLayoutRects TamselClockSaverView::places(const QDateTime &now, bool calendar) const
-{
-    const double scale = isPreview() ? 1.0 : calendarDriftScale(now);
-    if (calendar)
-        return TamselCalendarLayout(now.date(), rect(), scale);
-    return {TamselSoloClockRect(rect(), scale), {}};
+    return withDriftHeld(m_shown, frameOnScreen(m_palette, now, rect(), drifts()), ratio);
 }
 
 QRectF TamselClockSaverView::clockRect() const
 {
-    return places(clocks().now(), m_palette.applied().calendarEnabled).clock;
+    return placesOnScreen(clocks().now(), rect(), m_palette.applied().calendarEnabled, drifts())
+        .clock;
 }
 
 QRectF TamselClockSaverView::calendarRect() const
 {
-    return places(clocks().now(), true).calendar;
+    return placesOnScreen(clocks().now(), rect(), true, drifts()).calendar;
 }
 
 void TamselClockSaverView::drawRect(QPainter &painter, const QRectF &)

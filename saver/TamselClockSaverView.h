@@ -11,8 +11,6 @@
 #include "saver/PaletteOnScreen.h"
 #include "saver/SheetOperations.h"
 
-struct CalendarLayoutRects;
-
 /// The clock on one screen, or in the settings thumbnail: it draws a frame 30 times a second. What
 /// it shows belongs to owners that know no view: the stored settings, the night schedule, the
 /// palette on screen and the options sheet.
@@ -112,8 +110,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// A thumbnail stands still.
+    bool drifts() const { return !isPreview(); }
     ClockFrame frameAt(const QDateTime &now, double ratio) const;
-    CalendarLayoutRects places(const QDateTime &now, bool calendar) const;
     void presentFrame();
 
     platform::Desktop m_desktop;
