@@ -17,6 +17,7 @@ KNOWS = {
     "clock": {"calendar", "platform"},
     "settings": {"clock", "calendar", "controls", "night", "prefs", "platform"},
     "saver": {"settings", "clock", "calendar", "night", "prefs", "platform"},
+    "quick": {"saver", "clock", "calendar", "night", "prefs", "platform"},
     "host": {"saver", "night", "prefs", "platform"},
     "location": {"controls", "night", "prefs", "platform"},
 }
