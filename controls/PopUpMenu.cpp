@@ -104,7 +104,7 @@ void PopUpMenu::drawItem(QPainter &painter, const QAction &action, const QRectF 
 {
     const platform::Appearance &appearance = appearanceOf(this);
     if (action.isSeparator()) {
-        const QRectF line(item.left() + kCheckLeft, item.center().y(),
+        const QRectF line(item.left() + kCheckLeft, std::floor(item.center().y()),
                           item.width() - 2.0 * kCheckLeft, 1.0);
         painter.fillRect(line, withAlpha(appearance.labelColor(), kSeparatorAlpha));
         return;

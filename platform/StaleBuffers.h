@@ -11,9 +11,9 @@ namespace platform {
 class StaleBuffers
 {
 public:
-    /// To be called before each frame of a window that the toolkit presents. Drops the buffers while
-    /// one of another density than the window's may be among them; true when it did, which means
-    /// that the whole window must be painted.
+    /// To be called before each frame of a window that the toolkit presents. Drops the buffers
+    /// while one of another density than the window's may be among them; true when it did, which
+    /// means that the whole window must be painted.
     bool drop(const QWidget &window);
 
 private:

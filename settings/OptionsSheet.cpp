@@ -142,6 +142,7 @@ void OptionsSheet::resetSettingsDraft()
     validateSchedule();
     if (m_timeRows)
         m_timeRows->setTimeModes(night);
+    s.variantRadioButtons.value(selectedVariantFromRadioButtons())->setFocus();
 }
 
 QString OptionsSheet::selectedVariantFromRadioButtons() const

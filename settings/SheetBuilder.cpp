@@ -20,6 +20,7 @@
 #include "settings/SheetRules.h"
 #include "settings/TamselClockPreviewView.h"
 
+#include <QButtonGroup>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -94,6 +95,8 @@ void addPreview(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget 
 
 void addVariantSwatches(SettingsSheet &sheet)
 {
+    // Arrow keys move the focus in it, and the choice with it.
+    auto *choice = new QButtonGroup(sheet.themeGroup);
     QRect frame = kFirstVariantFrame;
     for (const QLatin1StringView name : kSwatchVariants) {
         const QString variant = name;
@@ -101,6 +104,7 @@ void addVariantSwatches(SettingsSheet &sheet)
         swatch->setObjectName(variant);
         swatch->setGeometry(frame);
         swatch->setCheckable(true);
+        choice->addButton(swatch);
         swatch->setRainbow(variant == "custom"_L1);
         swatch->setSwatchColor(backgroundColors().value(variant));
         swatch->setAccessibleName(variantLabels().value(variant));

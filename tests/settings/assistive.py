@@ -15,14 +15,17 @@ from xhost import check, wait_for  # noqa: E402
 EQUAL_TIMES = "Night mode start and end times must be different."
 NO_PLACE = "Sun times need location permission."
 # role, name, help or description, text or whether it is checked
-EXPECTED = [
-    ("radio button", "Preview day colors", "", True),
-    ("radio button", "Preview night colors", "", False),
+THEMES = [
     ("radio button", "Cream", "#FFF5E8", False),
     ("radio button", "Orange", "#FF4600", False),
     ("radio button", "Blue", "#0021D0", False),
     ("radio button", "Nero", "#000000", False),
     ("radio button", "Custom", "Custom", True),
+]
+EXPECTED = [
+    ("radio button", "Preview day colors", "", True),
+    ("radio button", "Preview night colors", "", False),
+    *THEMES,
     ("text", "Day primary hex color", "", "#AABBCC"),
     ("push button", "Day primary color", "#AABBCC", None),
     ("text", "Day background hex color", "", "#112233"),
@@ -78,10 +81,17 @@ SUITE.write_bytes(plistlib.dumps({
 window = OptionsWindow(sys.argv[1], start_desktop("900x720"))
 ok = window.control("push button", "OK")
 check(not has(ok, "ENABLED"), "OK is disabled with a night without length")
-in_reading_order = [described(n) for n in window.application.nodes()
-                    if has(n, "FOCUSABLE") and has(n, "SHOWING") and has(n, "ENABLED")]
+in_reading_order = [described(n) for n in window.application.nodes() if has(n, "SHOWING") and has(n, "ENABLED")
+                    and (has(n, "FOCUSABLE") or role_of(n) == "radio button")]
 expect(in_reading_order, EXPECTED, "reading order")
-expect(tab_order(), [control[:3] for control in EXPECTED], "tab order")
+# Of the themes only the chosen one, which has the focus first, is on the way; arrow keys choose another.
+chosen = EXPECTED.index(("radio button", "Custom", "Custom", True))
+on_the_way = EXPECTED[chosen:] + EXPECTED[:chosen - len(THEMES) + 1]
+expect(tab_order(), [control[:3] for control in on_the_way], "tab order")
+xdotool("key", "shift+Tab")
+for key, theme in ("Left", "Nero"), ("Right", "Custom"):
+    xdotool("key", key)
+    wait_for(f"{theme} by an arrow key", lambda: has(window.control("radio button", theme), "CHECKED"))
 
 roles = [role_of(node) for node in window.application.nodes()]
 check(roles.count("separator") == 4 and "ShowMenu" in actions(window.control("push button", "Night mode end setting")),
@@ -105,6 +115,8 @@ check(swatch.get_description() == window.text("Day primary hex color") == "#BBCC
 
 # The wheel scrolls the sheet past a time that is not being edited.
 start = window.control("spin button", "Night mode starts at")
+window.control("push button", "Night mode end setting").grab_focus()
+time.sleep(0.3)
 before = middle(start)
 xdotool("mousemove", *before, "click", 4)
 wait_for("a scrolled sheet", lambda: middle(start)[1] > before[1])

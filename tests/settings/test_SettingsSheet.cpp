@@ -256,7 +256,7 @@ private Q_SLOTS:
             << int(Qt::Key_Return) << u"Day primary hex color"_s << QList<QVariantList>{};
         QTest::newRow("Escape in a field")
             << int(Qt::Key_Escape) << u"Day primary hex color"_s << cancelled;
-        QTest::newRow("Return on a swatch") << int(Qt::Key_Return) << u"Cream"_s << saved;
+        QTest::newRow("Return on a swatch") << int(Qt::Key_Return) << u"Custom"_s << saved;
         QTest::newRow("Return on Cancel") << int(Qt::Key_Return) << u"Cancel"_s << cancelled;
     }
 
