@@ -44,6 +44,11 @@ def dial_at(x, y):
     return host.shows(BLACK, x + 8, y) and host.shows(ORANGE, x - 150, y - 170)
 
 
+def clock_windows():
+    search = ["xdotool", "search", "--onlyvisible", "--name", "Tamsel Clock"]
+    return len(subprocess.run(search, capture_output=True, text=True).stdout.split())
+
+
 LEFT = ("L", "640/160x720/180+0+0")
 RIGHT = ("R", "640/160x720/180+640+0")
 
@@ -56,6 +61,9 @@ def every_screen_has_its_dial():
     wait_for("one dial after a screen went", lambda: dial_at(640, 360))
     monitors(LEFT, RIGHT)
     wait_for("two dials after a screen came", lambda: dial_at(320, 360) and dial_at(960, 360))
+    whole = "1280/320x720/180+0+0"
+    monitors(("A", whole), ("B", whole))
+    wait_for("one dial for two screens that show the same", lambda: dial_at(640, 360) and clock_windows() == 1)
     check(is_alive(program), "screens that come and go do not end the program")
     check(stop(program, signal.SIGTERM) == 0, "SIGTERM ends with status 0")
     check(program.stderr.read() == "", "the program is silent")

@@ -13,6 +13,8 @@ import sys
 import tempfile
 import time
 
+from Xlib import Xatom
+
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from xhost import ORANGE, Host, X, check, is_alive, launch_x_server, stop, wait_for  # noqa: E402
 
@@ -123,6 +125,15 @@ def dead_windows_open_nothing():
 
 
 def the_root_window_is_drawn_when_no_other_is_named():
+    # Old window managers cover the root window by one of their own, and say so.
+    virtual = host.window(100, 50, 400, 300)
+    virtual.change_property(host.display.intern_atom("__SWM_VROOT"), Xatom.WINDOW, 32, [virtual.id])
+    host.display.sync()
+    program = start("--root")
+    wait_for("a picture on the virtual root window", lambda: fills(100, 50, 400, 300))
+    check(host.pixel(700, 600) != ORANGE, "nothing beyond it")
+    stop(program, signal.SIGTERM)
+    virtual.destroy()
     program = start("--root")
     wait_for("a picture on the root window", lambda: fills(0, 0, 1280, 720))
     check(stop(program, signal.SIGHUP) == 0, "SIGHUP ends with status 0")

@@ -64,6 +64,11 @@ def with_the_x_server_alone():
     wait_for("the end by a key", shows_desktop, 1.5)
 
     wait_for("the clock of a user idle again", shows_clock)
+    os.kill(clocks_of(service)[0], signal.SIGSTOP)
+    xdotool("mousemove_relative", "40", "30")
+    wait_for("the end of a clock that does not end itself", lambda: not clocks_of(service), 4)
+
+    wait_for("the clock of a user idle again", shows_clock)
     check(stop(service, signal.SIGTERM, within=1.5) == 0, "SIGTERM ends the waiting with status 0")
     wait_for("the end of its clock", shows_desktop)
     check(service.stderr.read() == "", "the waiting is silent")

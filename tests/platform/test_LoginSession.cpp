@@ -31,6 +31,7 @@ private Q_SLOTS:
     void followsTheSessionOfTheProcess();
     void fallsBackToTheSessionOfTheDisplay();
     void doesNotBelieveAForgedSignal();
+    void asksAgainWhatChangedMeanwhile();
     void wakingUpCountsAsActivation();
     void takesUpABusThatComesBack();
 
@@ -126,6 +127,22 @@ void test_LoginSession::doesNotBelieveAForgedSignal()
     QSignalSpy active(&session, &LoginSession::becameActive);
     QVERIFY(!active.wait(300));
     QVERIFY(!session.isActive());
+}
+
+/// The manager may look, change its mind, tell so, and answer only then.
+void test_LoginSession::asksAgainWhatChangedMeanwhile()
+{
+    QVERIFY(m_bus->start() && startManager() && putProcessInSession());
+    const QString properties = "org.freedesktop.DBus.Properties";
+    const auto code = QString("self.asked = getattr(self, 'asked', 0) + 1\n"
+                              "if self.asked == 1: self.EmitSignal('%1', 'PropertiesChanged', "
+                              "'sa{sv}as', ['%2', {'Active': dbus.Boolean(False)}, []])\n"
+                              "ret = dbus.Boolean(self.asked == 1, variant_level=1)")
+                          .arg(properties, kSession);
+    QVERIFY(
+        m_manager->callOn(kSessionPath, "AddMethod", {properties, "Get", "ss", "v", code}));
+    LoginSession session;
+    QTRY_VERIFY(!session.isActive());
 }
 
 void test_LoginSession::wakingUpCountsAsActivation()

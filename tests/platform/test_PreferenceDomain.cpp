@@ -126,6 +126,8 @@ private:
 /// What locking and flushing fail with; 0 for not at all.
 int g_lockError = 0;
 int g_flushError = 0;
+/// The names of what was flushed.
+QStringList g_flushed;
 
 } // namespace
 
@@ -148,6 +150,8 @@ extern "C" int fcntl(int descriptor, int command, ...)
 extern "C" int fsync(int descriptor)
 {
     static const auto real = reinterpret_cast<decltype(&fsync)>(dlsym(RTLD_NEXT, "fsync"));
+    const QString link = u"/proc/self/fd/%1"_s.arg(descriptor);
+    g_flushed.append(QFileInfo(QFile::symLinkTarget(link)).fileName());
     errno = g_flushError;
     return g_flushError ? -1 : real(descriptor);
 }
@@ -203,8 +207,11 @@ void TestPreferenceDomain::startsFromNothing()
     const PreferenceDomain store(deep);
     QVERIFY(!store.value(kKey).isValid());
     ::umask(0);
+    g_flushed.clear();
     QVERIFY(store.setValue(kKey, u"blue"_s));
     ::umask(022);
+    // The bytes before the name stands for them, and then the name.
+    QCOMPARE(g_flushed, QStringList({u".c.plist.new"_s, u"b"_s}));
     QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
     QCOMPARE(modeOf(deep), mode_t(0600));
     QCOMPARE(modeOf(m_dir->filePath(u"a/b"_s)), mode_t(0700));
