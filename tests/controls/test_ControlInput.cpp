@@ -99,15 +99,11 @@ private Q_SLOTS:
         QTest::addColumn<double>("from");
         QTest::addColumn<double>("to");
         const QPoint still;
-        QTest::newRow("left") << int(Qt::Key_Left) << still << 0.5 << 0.49;
-        QTest::newRow("right") << int(Qt::Key_Right) << still << 0.5 << 0.51;
         QTest::newRow("up") << int(Qt::Key_Up) << still << 0.5 << 0.51;
         QTest::newRow("down") << int(Qt::Key_Down) << still << 0.5 << 0.49;
         QTest::newRow("page up") << int(Qt::Key_PageUp) << still << 0.5 << 0.6;
         QTest::newRow("page down") << int(Qt::Key_PageDown) << still << 0.5 << 0.4;
-        QTest::newRow("home") << int(Qt::Key_Home) << still << 0.5 << 0.0;
         QTest::newRow("end") << int(Qt::Key_End) << still << 0.5 << 1.0;
-        QTest::newRow("left at the end") << int(Qt::Key_Left) << still << 0.0 << 0.0;
         QTest::newRow("wheel up") << 0 << QPoint(0, 120) << 0.5 << 0.51;
         QTest::newRow("fine wheel down") << 0 << QPoint(0, -30) << 0.5 << 0.4975;
         QTest::newRow("wheel to the right") << 0 << QPoint(-240, 10) << 0.5 << 0.52;
@@ -132,30 +128,12 @@ private Q_SLOTS:
         QCOMPARE(edited.size(), 1);
     }
 
-    void toggleSlidesForTheUserOnly()
-    {
-        platform::FixedClocks clocks({}, 10.0);
-        TamselToggle toggle(clocks, m_window.get());
-        toggle.show();
-        toggle.setChecked(true);
-        QVERIFY(!toggle.slide().isRunning());
-        toggle.click();
-        QVERIFY(!toggle.isChecked());
-        QVERIFY(toggle.slide().isRunning());
-        clocks.advance(1.0);
-        toggle.slide().tick();
-        QVERIFY(!toggle.slide().isRunning());
-    }
-
     void modeControlFades()
     {
         platform::FixedClocks clocks({}, 100.0);
         TamselModeControl control(clocks, m_window.get());
         const auto enabled = [&] { return control.buttons().at(0)->isEnabled(); };
         control.show();
-        control.setVisible(true, true);
-        QVERIFY2(!control.visibilityTimer().isRunning(), "nothing to fade");
-
         control.setVisible(false, true);
         QVERIFY(control.isVisible() && !enabled());
         clocks.advance(0.07);
@@ -175,18 +153,10 @@ private Q_SLOTS:
         control.setVisible(true, true);
         QVERIFY(control.isVisible());
         QCOMPARE(alphaValue(&control), 0.0);
-        control.setVisible(false, false);
-        QVERIFY(control.isHidden() && !control.visibilityTimer().isRunning());
-
-        control.setVisible(true, false);
-        control.hide(); // by its owner: the alpha stays, and drops at the first step
-        control.setVisible(true, true);
-        QCOMPARE(alphaValue(&control), 1.0);
-        control.visibilityTimer().tick();
-        QCOMPARE(alphaValue(&control), 0.0);
     }
 
-    void timePickerTypesAndSteps()
+    /// Wherever the caret was put.
+    void digitsReplaceAWholeNumber()
     {
         TimePicker picker(m_window.get());
         picker.setDisplayFormat(u"HH:mm"_s);
@@ -197,20 +167,16 @@ private Q_SLOTS:
         picker.setSelectedSection(QDateTimeEdit::HourSection);
         QTest::keyClick(&picker, Qt::Key_Up);
         QCOMPARE(picker.time(), QTime(8, 30));
-        QTest::keyClicks(&picker, u"21"_s);
-        QCOMPARE(picker.time(), QTime(21, 30));
-        // Wherever the caret was put, digits replace a whole number.
         auto *editor = picker.findChild<QLineEdit *>();
         QTest::mouseClick(editor, Qt::LeftButton, {}, {editor->width() - 4, editor->height() / 2});
         QCoreApplication::processEvents();
         QTest::keyClicks(&picker, u"41"_s);
-        QCOMPARE(picker.time(), QTime(21, 41));
+        QCOMPARE(picker.time(), QTime(8, 41));
         for (const auto key : {QKeySequence::MoveToEndOfLine, QKeySequence::SelectAll}) {
             QTest::keySequence(&picker, QKeySequence(key));
             QTest::keyClicks(&picker, u"05"_s);
         }
         QCOMPARE(picker.time(), QTime(5, 5));
-        QVERIFY(!picker.displayFormat().contains(u's'));
     }
 
     void timesAreTypedInEveryLanguage_data()

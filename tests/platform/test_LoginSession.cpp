@@ -137,6 +137,7 @@ void test_LoginSession::asksAgainWhatChangedMeanwhile()
     const auto code = QString("self.asked = getattr(self, 'asked', 0) + 1\n"
                               "if self.asked == 1: self.EmitSignal('%1', 'PropertiesChanged', "
                               "'sa{sv}as', ['%2', {'Active': dbus.Boolean(False)}, []])\n"
+                              "if self.asked == 1: import time; time.sleep(0.2)\n"
                               "ret = dbus.Boolean(self.asked == 1, variant_level=1)")
                           .arg(properties, kSession);
     QVERIFY(
