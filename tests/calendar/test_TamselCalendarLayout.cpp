@@ -4,13 +4,11 @@
 #include "platform/Clocks.h"
 #include "saver/TamselClockSaverView.h"
 
-
 #include <QTest>
 #include <QTimeZone>
 
 #include <cmath>
 #include <numbers>
-
 
 namespace {
 
@@ -134,7 +132,6 @@ private Q_SLOTS:
         QCOMPARE(screen.calendarRect().width(), calendar.width());
         QCOMPARE(thumbnail.calendarRect(), calendar);
     }
-
 };
 
 QTEST_MAIN(TestTamselCalendarLayout)

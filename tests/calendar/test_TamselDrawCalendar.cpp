@@ -15,7 +15,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -93,7 +92,6 @@ ClockFrame frameOf(QDate date, bool portrait = false)
     frame.calendar = {QRectF(30.3, 20.7, 340, 330), {date, portrait, kEnglish}};
     return frame;
 }
-
 
 } // namespace
 

@@ -100,9 +100,10 @@ private Q_SLOTS:
 
     void theKnobStandsOnTheColourItChooses()
     {
-        const QColor colors[][3] = {{Qt::red, Qt::cyan, Qt::red},                         // hue
-                                    {QColor(128, 128, 128), QColor(64, 128, 128), QColor(0, 128, 128)},
-                                    {Qt::black, QColor(64, 128, 128), QColor(128, 255, 255)}};
+        const QColor colors[][3] = {
+            {Qt::red, Qt::cyan, Qt::red}, // hue
+            {QColor(128, 128, 128), QColor(64, 128, 128), QColor(0, 128, 128)},
+            {Qt::black, QColor(64, 128, 128), QColor(128, 255, 255)}};
         for (int component = 0; component < 3; ++component) {
             for (int step = 0; step < 3; ++step) {
                 TamselGradientSlider slider;

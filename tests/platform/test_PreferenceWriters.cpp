@@ -117,7 +117,46 @@ private Q_SLOTS:
     void init() { m_dir = std::make_unique<QTemporaryDir>(); }
     void cleanup() { m_dir.reset(); }
 
-    void killedWritersLoseNothingElse();
+    /// Kills all writers at random moments, round after round; each one's successor goes on from
+    /// what is stored.
+    void killedWritersLoseNothingElse()
+    {
+        constexpr int kRounds = 8;
+        std::mt19937 random(20);
+        std::uniform_int_distribution<int> pause(0, 60);
+        const auto reader = startSelf({u"--read"_s, path()});
+        std::array<int, kWriters> stored = {};
+        for (int round = 0; round < kRounds; ++round) {
+            std::vector<std::unique_ptr<QProcess>> writers;
+            for (int i = 0; i < kWriters; ++i)
+                writers.push_back(startWriter(path(), i, stored[size_t(i)]));
+            for (const auto &writer : writers)
+                QVERIFY(writer->waitForReadyRead());
+            for (const auto &writer : writers) {
+                QTest::qSleep(pause(random));
+                writer->kill();
+                QVERIFY(writer->waitForFinished());
+            }
+            const QVariantMap values = PreferenceDomain(path()).contents();
+            QCOMPARE(values.size(), kWriters);
+            for (int i = 0; i < kWriters; ++i) {
+                const QVariant value = values.value(writerKey(i));
+                QVERIFY(isWhole(value));
+                stored[size_t(i)] = value.toList().first().toInt();
+                // Killed between storing a number and reporting it, it may be one ahead.
+                const int ahead = stored[size_t(i)] - lastReported(*writers[size_t(i)]);
+                QVERIFY(ahead == 0 || ahead == 1);
+            }
+        }
+        reader->closeWriteChannel();
+        QVERIFY(reader->waitForFinished());
+        QCOMPARE(reader->exitCode(), 0);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(PreferenceDomain(path()).setValue(u"SelectedVariant"_s, u"blue"_s));
+        QVERIFY(timer.elapsed() < 1000);
+        QCOMPARE(namesInFolder(), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
+    }
 
 private:
     QString path() const { return m_dir->filePath(u"store.plist"_s); }
@@ -130,53 +169,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
-/// Kills all writers at random moments, round after round; each one's successor goes on from what
-/// is stored.
-void TestPreferenceWriters::killedWritersLoseNothingElse()
-{
-    constexpr int kRounds = 8;
-    std::mt19937 random(20);
-    std::uniform_int_distribution<int> pause(0, 60);
-    const auto reader = startSelf({u"--read"_s, path()});
-    std::array<int, kWriters> stored = {};
-    for (int round = 0; round < kRounds; ++round) {
-        std::vector<std::unique_ptr<QProcess>> writers;
-        for (int i = 0; i < kWriters; ++i)
-            writers.push_back(startWriter(path(), i, stored[size_t(i)]));
-        for (const auto &writer : writers)
-            QVERIFY(writer->waitForReadyRead());
-        for (const auto &writer : writers) {
-            QTest::qSleep(pause(random));
-            writer->kill();
-            QVERIFY(writer->waitForFinished());
-        }
-        const QVariantMap values = PreferenceDomain(path()).contents();
-        QCOMPARE(values.size(), kWriters);
-        for (int i = 0; i < kWriters; ++i) {
-            const QVariant value = values.value(writerKey(i));
-            QVERIFY(isWhole(value));
-            stored[size_t(i)] = value.toList().first().toInt();
-            // Killed between storing a number and reporting it, it may be one ahead.
-            const int ahead = stored[size_t(i)] - lastReported(*writers[size_t(i)]);
-            QVERIFY(ahead == 0 || ahead == 1);
-        }
-    }
-    reader->closeWriteChannel();
-    QVERIFY(reader->waitForFinished());
-    QCOMPARE(reader->exitCode(), 0);
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(PreferenceDomain(path()).setValue(u"SelectedVariant"_s, u"blue"_s));
-    QVERIFY(timer.elapsed() < 1000);
-    QCOMPARE(namesInFolder(), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
-}
-
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"--write")
-        return runWriter(arguments.value(2), arguments.value(3).toInt(), arguments.value(4).toInt());
+        return runWriter(arguments.value(2), arguments.value(3).toInt(),
+                         arguments.value(4).toInt());
     if (arguments.value(1) == u"--read")
         return runReader(arguments.value(2));
     TestPreferenceWriters test;

@@ -7,12 +7,9 @@
 #include "platform/Appearance.h"
 #include "settings/SheetRules.h"
 
-
 #include <QScrollArea>
 
-
 using namespace Qt::StringLiterals;
-
 
 namespace {
 
@@ -183,7 +180,6 @@ private Q_SLOTS:
         QCOMPARE(heights(), QSize(42, 42));
         QCOMPARE(f.window()->height(), 482);
     }
-
 };
 
 QTEST_MAIN(TestSettingsSheet)

@@ -66,13 +66,15 @@ private Q_SLOTS:
     /// Rows come after their group has grown, and go before it shrinks.
     void groupsAndRowsTakeTurns_data()
     {
-        QTest::addColumn<bool>("toNight"); // else to the colours of one's own; always from the other
+        QTest::addColumn<bool>(
+            "toNight"); // else to the colours of one's own; always from the other
         QTest::addColumn<double>("time");
         QTest::addColumn<QList<double>>("day"); // height and alpha, none while its rows are hidden
         QTest::addColumn<QList<double>>("night");
         const QList<double> none{42.0};
         QTest::newRow("rows half gone") << false << 0.08 << none << QList<double>{222.0, 0.5};
-        QTest::newRow("half of both") << true << 0.32 << QList<double>{90.0} << QList<double>{132.0};
+        QTest::newRow("half of both")
+            << true << 0.32 << QList<double>{90.0} << QList<double>{132.0};
         QTest::newRow("just begun") << true << 0.24 << QList<double>{138.0 - 96.0 * 0.15625}
                                     << QList<double>{42.0 + 180.0 * 0.15625};
         QTest::newRow("rows half there") << true << 0.56 << none << QList<double>{222.0, 0.5};

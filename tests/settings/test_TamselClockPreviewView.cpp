@@ -202,7 +202,6 @@ private Q_SLOTS:
             QCOMPARE(smooth.toAlignedRect(), QRect(QPoint(), kSize));
         }
     }
-
 };
 
 QTEST_MAIN(TestTamselClockPreviewView)

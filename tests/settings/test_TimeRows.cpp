@@ -27,7 +27,6 @@ namespace {
 
 constexpr SolarLocation kHelsinki{60.1699, 24.9384};
 
-
 const QString kSun = u"sunset"_s;
 const QString kSunrise = u"sunrise"_s;
 const QString kCustom = u"custom"_s;
