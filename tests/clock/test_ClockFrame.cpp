@@ -46,8 +46,6 @@ private Q_SLOTS:
         QTest::newRow("sweeping second") << u"22:08:30.5"_s << 304.0 << 48.0 << 183.0;
         QTest::newRow("last tenth of the day") << u"23:59:59.9"_s << 359.5 << 354.0 << 359.4;
         QTest::newRow("noon") << u"12:00:00"_s << 0.0 << 0.0 << 0.0;
-        QTest::newRow("midnight") << u"00:00:00"_s << 0.0 << 0.0 << 0.0;
-        QTest::newRow("afternoon repeats morning") << u"13:00:00"_s << 30.0 << 0.0 << 0.0;
         QTest::newRow("seconds move no other hand")
             << u"09:15:59.999"_s << 277.5 << 90.0 << 359.994;
     }
@@ -80,15 +78,6 @@ private Q_SLOTS:
         QCOMPARE(noon.pixel(400, 240), QRgb(0xffff4600));
         frame.artwork.secondImage = {};
         QCOMPARE(picture(frame).pixel(400, 240), QRgb(0xff000000));
-    }
-
-    void missingLayersLeaveTheRest()
-    {
-        ClockFrame frame = emptyFrame(200);
-        const QImage bare = picture(frame);
-        QCOMPARE(bare.pixel(100, 4), kPaper);
-        frame.artwork.faceImage = artworkOf(u"orange"_s).faceImage;
-        QCOMPARE(picture(frame).pixel(100, 10), kInk);
     }
 
     /// The artwork turns about the exact centre and reaches neither beyond the dial nor short of

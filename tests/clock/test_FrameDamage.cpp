@@ -89,14 +89,6 @@ private Q_SLOTS:
         QVERIFY(frameDamage(frame, frame, 1.0).isEmpty());
     }
 
-    void aBreathTouchesTheInk()
-    {
-        const ClockFrame shown = frames::frameAt(QTime(10, 8, 30), {1920, 1080}, 0.998);
-        const ClockFrame next = frames::frameAt(QTime(10, 8, 30), {1920, 1080}, 0.99805);
-        const QRectF clock = next.clockRect;
-        QVERIFY(area(frameDamage(shown, next, 1.0)) < 0.5 * clock.width() * clock.height());
-    }
-
     void anythingElseTouchesTheWhole_data()
     {
         QTest::addColumn<ClockFrame>("next");

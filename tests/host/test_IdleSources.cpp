@@ -162,15 +162,6 @@ private Q_SLOTS:
         QCOMPARE(heard.unavailable.size(), 0);
     }
 
-    void aCompositorMayNotTell()
-    {
-        FakeCompositor compositor(FakeCompositor::Plain);
-        host::WaylandIdleSource source(kIdleSeconds);
-        Heard heard(source);
-        source.start();
-        QTRY_COMPARE(heard.unavailable.size(), 1);
-    }
-
     void asksEverybodyWhoInhibits_data()
     {
         QTest::addColumn<QString>("service");
@@ -188,10 +179,6 @@ private Q_SLOTS:
                              << "/org/kde/Solid/PowerManagement/PolicyAgent"
                              << QStringList{"HasInhibition", "u", "b", "ret = args[0] == 4"}
                              << true;
-        QTest::newRow("another desktop")
-            << "org.freedesktop.PowerManagement.Inhibit"
-            << "/org/freedesktop/PowerManagement/Inhibit"
-            << QStringList{"HasInhibit", "", "b", "ret = True"} << true;
         QTest::newRow("a service that answers nonsense")
             << gnome << "/org/gnome/SessionManager"
             << QStringList{"IsInhibited", "u", "s", "ret = ''"} << false;

@@ -152,7 +152,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("words");
         QTest::newRow("rejected") << u"rejected"_s << u"Access to your location was refused"_s;
         QTest::newRow("no agent") << u"no-agent"_s << u"does not give locations to programs"_s;
-        QTest::newRow("vanishing") << u"vanishing"_s << u"No location service answered"_s;
         QTest::newRow("good") << u"good"_s << u"Near Helsinki, Finland"_s;
     }
 
@@ -169,19 +168,6 @@ private Q_SLOTS:
         QCOMPARE(window->choice(), answer == "good"_L1 ? kHelsinki : kHelsinkiOfItsZone);
         QVERIFY(named<QPushButton>(*window, u"Find my location"_s));
         QVERIFY(!SolarLocationStore(m_desktop).load());
-    }
-
-    void silenceLeavesTheOtherWaysOpen()
-    {
-        GeoClue service;
-        QVERIFY(service.answers(u"silent"_s));
-        const auto window = open();
-        window->findChild<location::ServiceFinder *>()->service().setPatience(200ms);
-        named<QPushButton>(*window, u"Find my location"_s)->click();
-        QVERIFY(says(*window, u"You can choose a city instead"_s));
-        QVERIFY(named<QListWidget>(*window, u"Cities"_s)->isEnabled());
-        QVERIFY(named<QPushButton>(*window, u"Save"_s)->isEnabled());
-        QTRY_VERIFY(says(*window, u"No location service answered"_s));
     }
 
     void choosingOtherwiseEndsTheRequest()
@@ -204,16 +190,6 @@ private Q_SLOTS:
         named<QPushButton>(*window, u"Save"_s)->click();
         QVERIFY(says(*window, u"cannot be changed: something else stands in its place."_s));
         QVERIFY(named<QPushButton>(*window, u"Save"_s)->isEnabled());
-    }
-
-    void forgets()
-    {
-        QVERIFY(SolarLocationStore(m_desktop).save(kHelsinki));
-        const auto window = open();
-        named<QPushButton>(*window, u"Forget location"_s)->click();
-        QVERIFY(says(*window, u"Forgotten"_s));
-        QVERIFY(!SolarLocationStore(m_desktop).load());
-        QVERIFY(!named<QPushButton>(*window, u"Forget location"_s)->isEnabled());
     }
 
     void hearsOfOtherPrograms_data()

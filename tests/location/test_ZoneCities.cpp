@@ -62,12 +62,9 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("zones");
         QTest::newRow("beginning") << u"hel"_s << QStringList{u"Europe/Helsinki"_s};
         QTest::newRow("within a word") << u"sinki"_s << QStringList{};
-        QTest::newRow("second word, any case") << u"PAULO"_s << QStringList{u"America/Sao_Paulo"_s};
         QTest::newRow("without accents") << u"cote d'i"_s << QStringList{u"Africa/Abidjan"_s};
-        QTest::newRow("accents too many") << u"são"_s << QStringList{u"America/Sao_Paulo"_s};
         QTest::newRow("city and country")
             << u" fin  helsinki"_s << QStringList{u"Europe/Helsinki"_s};
-        QTest::newRow("both must match") << u"helsinki bra"_s << QStringList{};
         QTest::newRow("signs alone find all") << u" ,-"_s << zonesOf(m_cities.matching({}));
     }
 
@@ -85,7 +82,6 @@ private Q_SLOTS:
         QTest::newRow("another name") << u"Europe/Mariehamn"_s << u"Helsinki"_s;
         QTest::newRow("another name's name") << u"Old/Name"_s << u"Helsinki"_s;
         QTest::newRow("names in a circle") << u"Loop/A"_s << QString();
-        QTest::newRow("no place") << u"UTC"_s << QString();
         QTest::newRow("none") << QString() << QString();
     }
 
@@ -110,15 +106,6 @@ private Q_SLOTS:
     {
         QFETCH(SolarLocation, place);
         QTEST(m_cities.placeName(place), "name");
-    }
-
-    void readsTheSystemsDatabase()
-    {
-        const ZoneCities cities = ZoneCities::ofSystem();
-        QVERIFY(cities.matching({}).size() > 300);
-        QCOMPARE(cities.ofZone(u"Asia/Calcutta"_s).value_or(ZoneCity()).fullName(),
-                 u"Kolkata, India"_s);
-        QVERIFY(!cities.ofZone(u"Etc/UTC"_s));
     }
 
     void knowsWhoseClockDiffers()

@@ -79,13 +79,7 @@ private Q_SLOTS:
         const QVariantMap sun = night(u"sunset"_s, u"sunrise"_s);
         QTest::newRow("minute before sunset") << kHelsinki << at(spring, 18, 18) << sun << false;
         QTest::newRow("minute of sunset") << kHelsinki << at(spring, 18, 19) << sun << true;
-        QTest::newRow("midnight") << kHelsinki << at(spring, 0, 0) << sun << true;
-        QTest::newRow("minute before sunrise") << kHelsinki << at(spring, 6, 39) << sun << true;
         QTest::newRow("minute of sunrise") << kHelsinki << at(spring, 6, 40) << sun << false;
-        QTest::newRow("no mode keys")
-            << kHelsinki << at(spring, 18, 19) << QVariantMap{{u"enabled"_s, true}} << true;
-        QTest::newRow("switched off")
-            << kHelsinki << at(spring, 23, 0) << QVariantMap{{u"enabled"_s, false}} << false;
         QTest::newRow("custom start")
             << kHelsinki << at(spring, 18, 30) << night(u"custom"_s, u"sunrise"_s) << false;
         QTest::newRow("custom end")
@@ -106,15 +100,6 @@ private Q_SLOTS:
         SolarLocationStore(m_desktop).save(place);
         QTEST(view.nightActiveAtDate(moment, settings), "isNight");
         QTEST(view.nightActiveAtDate(moment.toUTC(), settings), "isNight");
-    }
-
-    void withoutALocationItIsDay()
-    {
-        TamselScheduledSaverView view(m_desktop, false);
-        QVERIFY(
-            !view.nightActiveAtDate(at({2026, 3, 14}, 23, 0), night(u"sunset"_s, u"sunrise"_s)));
-        QVERIFY(
-            !view.nightActiveAtDate(at({2026, 3, 14}, 23, 0), night(u"custom"_s, u"sunrise"_s)));
     }
 
     void paletteFollowsTheSunFromTheStart()
