@@ -13,12 +13,11 @@ from xhost import ORANGE, Host, check, is_alive, start_x_server, stop, wait_for 
 PROGRAM = sys.argv[1]
 start_x_server("-screen", "0", "1280x720x24")
 host = Host()
-environment = {k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"}
 BLACK = (0, 0, 0)
 
 
 def start(*arguments):
-    return subprocess.Popen([PROGRAM, *arguments], env=environment, stderr=subprocess.PIPE, text=True)
+    return subprocess.Popen([PROGRAM, *arguments], stderr=subprocess.PIPE, text=True)
 
 
 def monitors(*names_and_geometries):

@@ -22,12 +22,10 @@ PROGRAM = sys.argv[1]
 server = launch_x_server("-screen", "0", "1280x720x24")
 host = Host()
 HOSTS_OWN = (255, 0, 255)
-# A platform that the session prefers must not win over the host's window.
-environment = {k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"}
 
 
 def start(*arguments, **variables):
-    return subprocess.Popen([PROGRAM, *arguments], env={**environment, **variables},
+    return subprocess.Popen([PROGRAM, *arguments], env={**os.environ, **variables},
                             stderr=subprocess.PIPE, text=True)
 
 
@@ -148,7 +146,7 @@ def resources_may_vanish():
     settings = pathlib.Path(os.environ["XDG_CONFIG_HOME"], "tamsel-clock", "org.tamsel.VornakClockSaver.plist")
     window = host.window()
     program = subprocess.Popen([root / "bin" / "tamsel-clock", "--root"], stderr=subprocess.PIPE, text=True,
-                               env={**environment, "XSCREENSAVER_WINDOW": hex(window.id)})
+                               env={**os.environ, "XSCREENSAVER_WINDOW": hex(window.id)})
     wait_for("a picture", lambda: fills(100, 50, 240, 135))
     shutil.rmtree(root)
     settings.parent.mkdir(parents=True)
@@ -182,7 +180,7 @@ def signals_end_it_whoever_does_not_answer():
     for (variables, running, stopped), command in itertools.product(states, programs):
         if running == 0:
             server.send_signal(signal.SIGSTOP)
-        program = subprocess.Popen(command, env={**environment, **variables})
+        program = subprocess.Popen(command, env={**os.environ, **variables})
         time.sleep(running)
         if stopped:
             server.send_signal(signal.SIGSTOP)

