@@ -28,20 +28,15 @@ class TestTamselCalendarLayout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rows_data()
-    {
-        QTest::addColumn<QDate>("date");
-        QTest::addColumn<int>("lead");
-        QTest::addColumn<int>("rows");
-        QTest::newRow("28 days from Monday") << QDate(2021, 2, 28) << 0 << 4;
-        QTest::newRow("30 days from Sunday") << QDate(2024, 9, 30) << 6 << 6;
-        QTest::newRow("31 days from Saturday") << QDate(2026, 8, 31) << 5 << 6;
-    }
     void rows()
     {
-        QFETCH(QDate, date);
-        QTEST(calendarLeadingCells(date), "lead");
-        QTEST(TamselCalendarRows(date), "rows");
+        const std::tuple<QDate, int, int> cases[] = {{{2021, 2, 28}, 0, 4},  // 28 days from Monday
+                                                     {{2024, 9, 30}, 6, 6},  // 30 from Sunday
+                                                     {{2026, 8, 31}, 5, 6}}; // 31 from Saturday
+        for (const auto &[date, lead, rows] : cases) {
+            QCOMPARE(calendarLeadingCells(date), lead);
+            QCOMPARE(TamselCalendarRows(date), rows);
+        }
     }
 
     void places_data()

@@ -278,6 +278,23 @@ private Q_SLOTS:
         }
     }
 
+    /// In the digits of the days, whatever font stands in for the letters beside it.
+    void theYearStandsLastAsItIsRead()
+    {
+        const auto span = [](const QPainterPath &path, int from, int to) {
+            return QPointF(path.elementAt(to)) - QPointF(path.elementAt(from));
+        };
+        for (const auto &[language, isLeft] : {std::pair(u"hi_IN"_s, false), {u"ar_EG"_s, true}}) {
+            const CalendarPage page = calendarPage({QDate(2026, 3, 1), false, QLocale(language)});
+            const QPainterPath &title = page.title.outline;
+            const QPainterPath &day = page.days.at(25).outline;
+            const int last = day.elementCount() - 1;
+            const int from = isLeft ? 0 : title.elementCount() - 1 - last;
+            const QPointF error = span(title, from, from + last) - span(day, 0, last) * 34 / 32;
+            QVERIFY(error.manhattanLength() < 0.2);
+        }
+    }
+
     /// The last test: what it registers stays registered for this process.
     void registeredFacesComeFirst()
     {

@@ -191,24 +191,18 @@ private Q_SLOTS:
             QTest::addRow("%s %s", language, qPrintable(typed)) << language << from << typed << to;
         };
         row("en_US", evening, u"12:00 AM"_s, {0, 0});
-        row("en_US", evening, u"1200a"_s, {0, 0});
         row("en_US", morning, u"12:00 p.m."_s, {12, 0});
         row("en_US", evening, u"9:5 am"_s, {9, 5});
-        row("en_US", evening, u"945"_s, {21, 45});
         row("en_US", evening, u"130a"_s, {1, 30}); // an hour of one digit, without a colon
         row("en_US", evening, u"0130"_s, {13, 30});
-        row("ko_KR", evening, u"1015"_s, {22, 15});
-        row("ko_KR", evening, u"a 10:15"_s, {10, 15});
         row("ko_KR", evening, u"오전1015"_s, {10, 15});
         row("zh_TW", evening, u"1015上午"_s, {10, 15});
         row("sq_AL", morning, u"1015 e pas"_s, {22, 15});
         row("ar_EG", evening, u"١٠١٥ ص"_s, {10, 15});
         row("fr_CA", evening, u"1 h 15"_s, {1, 15});
-        row("as_IN", evening, u"১০১৫"_s, {22, 15});
         row("ff_SN", evening, u"𞥑𞥐𞥑𞥕"_s, {10, 15});
         row("ccp_BD", evening, u"𑄷𑄶𑄷𑄻AM"_s, {10, 15});
         row("bem_ZM", morning, u"1015a"_s, {22, 15}); // akasuba, and not AM
-        row("bem_ZM", evening, u"1015am"_s, {10, 15});
     }
 
     void timesAreTypedInEveryLanguage()

@@ -157,9 +157,6 @@ private Q_SLOTS:
             // Overlapping parts must not add up.
             QVERIFY(boundsOf(image, [](const QColor &it) { return it.alpha() > 131; }).isNull());
 
-            button.setDown(true);
-            QVERIFY(std::abs(inkIn(picture(&button, 4)) / inkIn(image) - 0.6) < 0.02);
-            button.setDown(false);
             button.setImage(Symbol::named(name, 13, QFont::DemiBold));
             QVERIFY(inkIn(picture(&button, 4)) > 1.02 * inkIn(image));
         }

@@ -170,18 +170,6 @@ private Q_SLOTS:
         QVERIFY(!SolarLocationStore(m_desktop).load());
     }
 
-    void choosingOtherwiseEndsTheRequest()
-    {
-        GeoClue service;
-        QVERIFY(service.answers(u"silent"_s));
-        const auto window = open();
-        named<QPushButton>(*window, u"Find my location"_s)->click();
-        QVERIFY(window->findChild<location::ServiceFinder *>()->service().isUpdating());
-        named<QListWidget>(*window, u"Cities"_s)->setCurrentRow(0);
-        QVERIFY(!window->findChild<location::ServiceFinder *>()->service().isUpdating());
-        QCOMPARE(window->choice(), m_cities.matching({}).first().location);
-    }
-
     void tellsWhenSavingFails()
     {
         QFile inTheWay(library());

@@ -163,20 +163,6 @@ private Q_SLOTS:
         QCOMPARE(solar.location(), kHelsinki);
     }
 
-    void followsAReplacedFileAtOnce()
-    {
-        TamselSolarTimes writer(m_desktop);
-        TamselSolarTimes reader(m_desktop);
-        writer.setPersistent(true);
-        reader.setPersistent(true);
-        for (int i = 0; i < 50; ++i) {
-            const SolarLocation place = {double(i), double(-i)};
-            writer.locationManagerDidUpdateLocations({fixOfAge(1000, 0, place)});
-            reader.reloadSavedLocation();
-            QCOMPARE(reader.location(), place);
-        }
-    }
-
     void takesUsableFixesOnly_data()
     {
         QTest::addColumn<platform::LocationFix>("fix");

@@ -80,27 +80,16 @@ private Q_SLOTS:
         QVERIFY(settings == expected);
     }
 
-    void reducedMotionAsksInOrder_data()
-    {
-        QTest::addColumn<DesktopSettings>("settings");
-        QTest::addColumn<bool>("reduced");
-        const auto row = [](const char *name, const DesktopSettings &settings, bool reduced) {
-            QTest::newRow(name) << settings << reduced;
-        };
-        row("nothing told", {}, false);
-        row("portal on", {.reducedMotion = true, .enableAnimations = true}, true);
-        row("portal off", {.reducedMotion = false, .enableAnimations = false}, false);
-        row("animations off", {.enableAnimations = false, .animationFactor = 1.0}, true);
-        row("animations on", {.enableAnimations = true, .animationFactor = 0.0}, false);
-        row("factor 0", {.animationFactor = 0.0}, true);
-        row("factor 0.5", {.animationFactor = 0.5}, false);
-    }
-
     void reducedMotionAsksInOrder()
     {
-        QFETCH(DesktopSettings, settings);
-        QFETCH(bool, reduced);
-        QCOMPARE(settings.wantsReducedMotion(), reduced);
+        using Case = std::pair<DesktopSettings, bool>;
+        for (const auto &[settings, isReduced] :
+             {Case{{}, false}, Case{{.reducedMotion = true, .enableAnimations = true}, true},
+              Case{{.reducedMotion = false, .enableAnimations = false}, false},
+              Case{{.enableAnimations = false, .animationFactor = 1.0}, true},
+              Case{{.enableAnimations = true, .animationFactor = 0.0}, false},
+              Case{{.animationFactor = 0.0}, true}, Case{{.animationFactor = 0.5}, false}})
+            QCOMPARE(settings.wantsReducedMotion(), isReduced);
     }
 
     void followsThePaletteWithoutAPortal()

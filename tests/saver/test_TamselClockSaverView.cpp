@@ -197,19 +197,6 @@ private Q_SLOTS:
         QCOMPARE(view->displayedBackgroundColor(), QColor(0x10, 0x18, 0x20));
     }
 
-    void artworkThatIsMissingLeavesTheBackground()
-    {
-        const SaverFixture f;
-        platform::Desktop desktop = f.desktop();
-        desktop.bundle = platform::Bundle(f.folder.path());
-        TamselClockSaverView view(desktop, true);
-        view.resize(50, 50);
-        const QImage picture = SaverFixture::picture(view);
-        QImage plain(picture.size(), picture.format());
-        plain.fill(QColor(0xff, 0x46, 0x00));
-        QCOMPARE(picture, plain);
-    }
-
     void drawsNothingBeyondAThinView()
     {
         const SaverFixture f;

@@ -144,21 +144,6 @@ private Q_SLOTS:
         QVERIFY(!f.view.isFading());
     }
 
-    void itTicksOnlyWhileItCanBeSeen()
-    {
-        Fixture f;
-        f.view.startAnimation();
-        QVERIFY(f.view.isAnimating() && !f.view.isTicking());
-        QVERIFY(f.show());
-        QVERIFY(f.view.isTicking());
-        f.view.hide();
-        QVERIFY(f.view.isAnimating() && !f.view.isTicking());
-        f.view.show();
-        QVERIFY(f.view.isTicking());
-        f.view.stopAnimation();
-        QVERIFY(!f.view.isAnimating() && !f.view.isTicking());
-    }
-
     /// On screen, where only what changed is painted: over a fade, a slide of the calendar and the
     /// turn of a minute.
     void whatIsOnScreenIsWhatIsDrawn()
