@@ -3,6 +3,8 @@ tamsel_test(host/test_IdleWatch.cpp LIBS tamsel_host)
 pkg_check_modules(WAYLAND_SERVER REQUIRED IMPORTED_TARGET wayland-server)
 tamsel_test(host/test_IdleSources.cpp LIBS tamsel_host PkgConfig::WAYLAND_SERVER tamsel_idle_protocol)
 tamsel_test(host/test_XScreenSaverRegistration.cpp LIBS tamsel_host)
+target_compile_definitions(test_XScreenSaverRegistration PRIVATE TAMSEL_PROGRAM="$<TARGET_FILE:tamsel-clock>")
+add_dependencies(test_XScreenSaverRegistration tamsel-clock)
 tamsel_script_test(host_command_line host/command_line.sh
     ARGS $<TARGET_FILE:tamsel-clock> ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/${TAMSEL_BUNDLE_DIR})
 tamsel_script_test(host_window host/hosting.py ARGS $<TARGET_FILE:tamsel-clock> LABELS host)
