@@ -180,38 +180,32 @@ private Q_SLOTS:
         QVERIFY(named<QPushButton>(*window, u"Save"_s)->isEnabled());
     }
 
-    void hearsOfOtherPrograms_data()
-    {
-        QTest::addColumn<bool>("hasBus");
-        QTest::newRow("at once") << true;
-        QTest::newRow("in front again") << false;
-    }
-
     void hearsOfOtherPrograms()
     {
-        QFETCH(bool, hasBus);
-        const SolarLocationStore other(m_desktop);
-        QVERIFY(other.save(kHelsinki));
-        platform::DistributedNotifications ours;
-        platform::DistributedNotifications theirs;
-        if (hasBus)
-            m_desktop.notifications = &ours;
-        const auto window = open();
-        const auto *save = named<QPushButton>(*window, u"Save"_s);
-        QVERIFY(!save->isEnabled());
-        QVERIFY(other.save({-33.87, 151.21}));
-        QWidget front;
-        if (!hasBus) {
-            front.show();
-            front.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&front));
-            window->activateWindow();
+        // At once by the bus, else when it is in front again.
+        for (const bool hasBus : {true, false}) {
+            const SolarLocationStore other(m_desktop);
+            QVERIFY(other.save(kHelsinki));
+            platform::DistributedNotifications ours;
+            platform::DistributedNotifications theirs;
+            m_desktop.notifications = hasBus ? &ours : nullptr;
+            const auto window = open();
+            const auto *save = named<QPushButton>(*window, u"Save"_s);
+            QVERIFY(!save->isEnabled());
+            QVERIFY(other.save({-33.87, 151.21}));
+            QWidget front;
+            if (!hasBus) {
+                front.show();
+                front.activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(&front));
+                window->activateWindow();
+            }
+            // Until the window listens, the bus has nobody to tell.
+            QTRY_VERIFY(
+                (hasBus ? theirs.post(QString(kSolarLocationChanged)) : void(), save->isEnabled()));
+            QVERIFY(says(*window, u"Another program saved another place"_s));
+            QCOMPARE(window->choice(), kHelsinki);
         }
-        // Until the window listens, the bus has nobody to tell.
-        QTRY_VERIFY(
-            (hasBus ? theirs.post(QString(kSolarLocationChanged)) : void(), save->isEnabled()));
-        QVERIFY(says(*window, u"Another program saved another place"_s));
-        QCOMPARE(window->choice(), kHelsinki);
     }
 
     void everythingHasANameAndAPlaceInTheTabOrder()

@@ -63,10 +63,7 @@ private Q_SLOTS:
         setTimeZone(zone);
 
         const QDateTime noon(day, QTime(12, 0));
-        const platform::FixedClocks clocks(noon);
-        TamselSolarTimes solar({.clocks = &clocks,
-                                .bundle = platform::Bundle(TAMSEL_TEST_BUNDLE),
-                                .preferencesFolder = {}});
+        TamselSolarTimes solar(m_desktop);
         solar.setLocation(place);
         for (const char *event : {"sunrise", "sunset"}) {
             const QDateTime expected =
@@ -81,10 +78,7 @@ private Q_SLOTS:
     void everyMomentOfADayHasTheSameTimes()
     {
         setTimeZone("America/New_York");
-        const platform::FixedClocks clocks{QDateTime()};
-        TamselSolarTimes solar({.clocks = &clocks,
-                                .bundle = platform::Bundle(TAMSEL_TEST_BUNDLE),
-                                .preferencesFolder = {}});
+        TamselSolarTimes solar(m_desktop);
         solar.setLocation(SolarLocation{40.71, -74.01});
         for (const QDate day : {QDate(2026, 3, 8), QDate(2026, 11, 1), QDate(2026, 7, 1)}) {
             const auto sunset = solar.eventOnDate(u"sunset"_s, QDateTime(day, QTime(0, 0)));
@@ -97,10 +91,7 @@ private Q_SLOTS:
 
     void followsTheTimeZone()
     {
-        const platform::FixedClocks clocks{QDateTime()};
-        TamselSolarTimes solar({.clocks = &clocks,
-                                .bundle = platform::Bundle(TAMSEL_TEST_BUNDLE),
-                                .preferencesFolder = {}});
+        TamselSolarTimes solar(m_desktop);
         solar.setLocation(SolarLocation{60.17, 24.94});
         const qint64 moment = QDateTime({2026, 6, 21}, {9, 0}, Qt::UTC).toMSecsSinceEpoch();
         setTimeZone("Europe/Helsinki");
@@ -110,6 +101,11 @@ private Q_SLOTS:
         const QDateTime abroad = QDateTime::fromMSecsSinceEpoch(moment);
         QCOMPARE(solar.eventOnDate(u"sunset"_s, abroad)->time().hour(), 20);
     }
+
+private:
+    platform::Desktop m_desktop{.clocks = &platform::systemClocks(),
+                                .bundle = platform::Bundle(TAMSEL_TEST_BUNDLE),
+                                .preferencesFolder = {}};
 };
 
 QTEST_GUILESS_MAIN(test_SunTimes)

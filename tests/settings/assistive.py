@@ -75,7 +75,8 @@ FOLDER.mkdir(parents=True)
 SUITE.write_bytes(plistlib.dumps({
     "SelectedVariant": "custom", "CustomBaseColor": "#112233", "CustomMarkColor": "#AABBCC",
     "NightSettings": {"enabled": True, "from": 1200, "to": 1200, "fromMode": "custom", "toMode": "custom"}}))
-window = OptionsWindow(sys.argv[1], start_desktop("900x720"))
+start_desktop("900x720")
+window = OptionsWindow(sys.argv[1])
 ok = window.control("push button", "OK")
 check(not has(ok, "ENABLED"), "OK is disabled with a night without length")
 in_reading_order = [described(n) for n in window.application.nodes()

@@ -194,15 +194,6 @@ private Q_SLOTS:
                  f.store(false, kCustom, kCustom, 0);
                  f.view->reloadVariantIfNeeded();
              }},
-            {"many clicks",
-             [](Fixture &f) {
-                 for (const QString &variant : {u"nero"_s, kCustom, u"cream"_s, kCustom}) {
-                     f.clocks.advance(0.1);
-                     QCoreApplication::processEvents();
-                     f.chooseVariant(variant);
-                     f.sheet().nightSwitch->click();
-                 }
-             }},
             {"the desktop closes it", [](Fixture &f) { f.window()->close(); }},
             {"its host goes", [](Fixture &f) { delete f.window(); }},
             {"the view goes", [](Fixture &f) { f.view.reset(); }},
