@@ -1,5 +1,4 @@
 tamsel_test(platform/test_Clocks.cpp LIBS tamsel_platform)
-tamsel_test(platform/test_FramePacer.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_HexColor.cpp LIBS tamsel_platform)
 # What the message buses carry.
 tamsel_test(platform/test_MessageBus.cpp LIBS tamsel_platform)
@@ -13,4 +12,3 @@ tamsel_test(platform/test_PreferenceDomain.cpp LIBS tamsel_platform)
 tamsel_test(platform/test_PreferenceWriters.cpp LIBS tamsel_platform)
 set_tests_properties(test_PreferenceWriters PROPERTIES TIMEOUT 240)
 tamsel_test(platform/test_PolygonFill.cpp LIBS tamsel_platform)
-tamsel_test(platform/test_SingleWindow.cpp LIBS tamsel_platform)

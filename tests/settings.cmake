@@ -1,8 +1,6 @@
 tamsel_test(settings/test_TamselClockPreviewView.cpp LIBS tamsel_settings)
 tamsel_test(settings/test_SheetLayout.cpp LIBS tamsel_settings)
-tamsel_test(settings/test_SheetTransition.cpp LIBS tamsel_settings)
 tamsel_test(settings/test_ReducedMotion.cpp LIBS tamsel_saver tamsel_settings)
-tamsel_test(settings/test_SheetRules.cpp LIBS tamsel_settings)
 tamsel_test(settings/test_SettingsSheet.cpp LIBS tamsel_saver tamsel_settings)
 tamsel_test(settings/test_ColorEditing.cpp LIBS tamsel_saver tamsel_settings)
 tamsel_test(settings/test_TimeRows.cpp LIBS tamsel_saver tamsel_settings)

@@ -78,7 +78,8 @@ FOLDER.mkdir(parents=True)
 SUITE.write_bytes(plistlib.dumps({
     "SelectedVariant": "custom", "CustomBaseColor": "#112233", "CustomMarkColor": "#AABBCC",
     "NightSettings": {"enabled": True, "from": 1200, "to": 1200, "fromMode": "custom", "toMode": "custom"}}))
-window = OptionsWindow(sys.argv[1], start_desktop("900x720"))
+start_desktop("900x720")
+window = OptionsWindow(sys.argv[1])
 ok = window.control("push button", "OK")
 check(not has(ok, "ENABLED"), "OK is disabled with a night without length")
 in_reading_order = [described(n) for n in window.application.nodes() if has(n, "SHOWING") and has(n, "ENABLED")
@@ -93,6 +94,8 @@ for key, theme in ("Left", "Nero"), ("Right", "Custom"):
     xdotool("key", key)
     wait_for(f"{theme} by an arrow key", lambda: has(window.control("radio button", theme), "CHECKED"))
 
+for title in ("Theme", "Custom", "Primary", "Background", "Monthly calendar", "Night Mode"):
+    window.control("label", title)
 roles = [role_of(node) for node in window.application.nodes()]
 check(roles.count("separator") == 4 and "ShowMenu" in actions(window.control("push button", "Night mode end setting")),
       "separators and menus are told")

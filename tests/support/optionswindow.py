@@ -48,9 +48,9 @@ class Bells:
 
 
 class OptionsWindow:
-    def __init__(self, program, environment):
+    def __init__(self, program):
         self.host = Host()
-        self.process = subprocess.Popen([program, "--configure"], env=environment, stderr=subprocess.PIPE, text=True)
+        self.process = subprocess.Popen([program, "--configure"], stderr=subprocess.PIPE, text=True)
         self.application = Application("tamsel-clock", self.process)
         self.control("push button", "OK")
 
