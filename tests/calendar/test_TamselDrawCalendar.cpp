@@ -234,7 +234,6 @@ private Q_SLOTS:
             change(frames.last());
         };
         next([](ClockFrame &f) { f.calendar->rect.translate(0.001, 0.0); });
-
         next([](ClockFrame &f) { f.calendar->rect.setWidth(339.98); });
         next([](ClockFrame &f) { f.mark = Qt::white; });
         next([](ClockFrame &f) { f.background = QColor(12, 13, 14); });
@@ -248,7 +247,6 @@ private Q_SLOTS:
         next([](ClockFrame &f) { f.tinted = true; });
         next([](ClockFrame &f) { f.calendar->rect = QRectF(10, 10, 0, 200); });
         next([](ClockFrame &f) { f.calendar->rect = QRectF(10, 10, 200, 200); });
-
         FrameScratch kept;
         for (const double deviceScale : {1.0, 2.0, 1.0}) {
             for (const ClockFrame &frame : std::as_const(frames)) {
