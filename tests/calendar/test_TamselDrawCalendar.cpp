@@ -140,7 +140,8 @@ private Q_SLOTS:
         };
         for (int cell = 0; cell < 42; ++cell) {
             const int day = cell - lead + 1;
-            const QRectF rect = cellAt(cell % 7, design.firstDayMiddle + cell / 7 * design.pitch);
+            const int row = cell / 7;
+            const QRectF rect = cellAt(cell % 7, design.firstDayMiddle + row * design.pitch);
             if (day < 1 || day > date.daysInMonth()) {
                 QVERIFY(month.inkIn(rect).isNull());
             } else if (day == date.day()) {
