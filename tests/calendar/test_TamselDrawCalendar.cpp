@@ -140,7 +140,8 @@ private Q_SLOTS:
         };
         for (int cell = 0; cell < 42; ++cell) {
             const int day = cell - lead + 1;
-            const QRectF rect = cellAt(cell % 7, design.firstDayMiddle + cell / 7 * design.pitch);
+            const int row = cell / 7;
+            const QRectF rect = cellAt(cell % 7, design.firstDayMiddle + row * design.pitch);
             if (day < 1 || day > date.daysInMonth()) {
                 QVERIFY(month.inkIn(rect).isNull());
             } else if (day == date.day()) {
@@ -234,7 +235,6 @@ private Q_SLOTS:
             change(frames.last());
         };
         next([](ClockFrame &f) { f.calendar->rect.translate(0.001, 0.0); });
-
         next([](ClockFrame &f) { f.calendar->rect.setWidth(339.98); });
         next([](ClockFrame &f) { f.mark = Qt::white; });
         next([](ClockFrame &f) { f.background = QColor(12, 13, 14); });
@@ -248,7 +248,6 @@ private Q_SLOTS:
         next([](ClockFrame &f) { f.tinted = true; });
         next([](ClockFrame &f) { f.calendar->rect = QRectF(10, 10, 0, 200); });
         next([](ClockFrame &f) { f.calendar->rect = QRectF(10, 10, 200, 200); });
-
         FrameScratch kept;
         for (const double deviceScale : {1.0, 2.0, 1.0}) {
             for (const ClockFrame &frame : std::as_const(frames)) {

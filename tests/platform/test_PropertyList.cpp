@@ -256,12 +256,15 @@ private Q_SLOTS:
         const QVariantMap wide{{u"int"_s, qlonglong(1170)}, {u"float"_s, 0.5}};
         QCOMPARE(PropertyList::toXml(narrow), PropertyList::toXml(wide));
         QCOMPARE(PropertyList::toBinary(narrow), PropertyList::toBinary(wide));
-        QVariant tooDeep;
-        for (int i = 0; i < 65; ++i)
-            tooDeep = QVariantList{tooDeep};
+        QVariant deepLists = true;
+        QVariant deepMaps = true;
+        for (int i = 0; i < 64; ++i) {
+            deepLists = QVariantList{deepLists};
+            deepMaps = QVariantMap{{u"a"_s, deepMaps}};
+        }
         const QVariantList tooLarge(1'000'000, true);
-        for (const QVariant &value :
-             QVariantList{QVariant(), QTime(1, 2), QDateTime(), tooDeep, QVariant(tooLarge)})
+        for (const QVariant &value : QVariantList{QVariant(), QTime(1, 2), QDateTime(), deepLists,
+                                                  deepMaps, QVariant(tooLarge)})
             QCOMPARE(PropertyList::toXmlOrBinary(QVariantMap{{u"a"_s, true}, {u"b"_s, value}}), "");
     }
 };

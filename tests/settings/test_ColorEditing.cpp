@@ -102,6 +102,7 @@ private Q_SLOTS:
             f.popover()->saturationSlider()->edit(1.0);
             f.popover()->brightnessSlider()->edit(1.0);
             f.popover()->hueSlider()->edit(1.0 / 3.0);
+            QCOMPARE(f.popover()->saturationSlider()->colorAtValue(1.0), QColor(0, 255, 0));
             QCOMPARE(f.draft(key), u"#00FF00"_s);
             QCOMPARE(f.shown(key), u"#00FF00"_s);
             QCOMPARE(f.sheet().previewMode->selectedSegment(), int(isNightColorKey(key)));
