@@ -95,7 +95,7 @@ void PopUpMenu::paintEvent(QPaintEvent *)
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(rect(), Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    drawPanel(painter, this, kRadius, rect());
+    drawPanel(painter, this, PanelOver::Window, kRadius, rect());
     for (const QAction *action : actions())
         drawItem(painter, *action, actionGeometry(const_cast<QAction *>(action)));
 }

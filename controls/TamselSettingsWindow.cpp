@@ -110,6 +110,8 @@ void TamselSettingsWindow::paintEvent(QPaintEvent *event)
 {
     if (m_cornerRadius <= 0.0)
         return;
+    const bool isAlert = qobject_cast<TamselSettingsWindow *>(parentWidget()) != nullptr;
     QPainter painter(this);
-    drawPanel(painter, this, m_cornerRadius, event->rect());
+    drawPanel(painter, this, isAlert ? PanelOver::Window : PanelOver::Desktop, m_cornerRadius,
+              event->rect());
 }
