@@ -6,6 +6,7 @@
 #include "controls/FocusRing.h"
 #include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
+#include "controls/TextLabel.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -85,8 +86,8 @@ void PushButton::drawContents(QPainter &painter) const
     const double left = std::round((width() - titleWidth - symbolWidth) / 2.0);
     const double line = lineHeight(font());
     const bool mirrored = isRightToLeft();
-    const QRectF title(mirrored ? left : left + symbolWidth, (height() - line) / 2.0,
-                       titleWidth + 1.0, line);
+    const double top = (height() - line) / 2.0 - baselineShift(text(), font());
+    const QRectF title(mirrored ? left : left + symbolWidth, top, titleWidth + 1.0, line);
 
     painter.setFont(font());
     painter.setPen(displayInk());

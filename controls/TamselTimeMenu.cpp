@@ -4,6 +4,7 @@
 #include "controls/ControlAccessibility.h"
 #include "controls/ControlFont.h"
 #include "controls/RoundedShape.h"
+#include "controls/TextLabel.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -66,9 +67,10 @@ void TamselTimeMenu::paintEvent(QPaintEvent *)
     if (!text().isEmpty()) {
         const double line = lineHeight(font());
         painter.setPen(hoverInk().isValid() ? hoverInk() : appearanceOf(this).controlTextColor());
+        const double top = (height() - line) / 2.0 - baselineShift(text(), font());
         const double left = mirrored ? titleEnd() : 0.0;
         const double right = mirrored ? width() : titleEnd();
-        painter.drawText(QRectF(left, (height() - line) / 2.0, right - left, line),
+        painter.drawText(QRectF(left, top, right - left, line),
                          Qt::AlignRight | Qt::AlignTop | Qt::TextSingleLine, text());
     }
     drawSymbolInRect(painter, icon);

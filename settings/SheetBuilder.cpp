@@ -200,7 +200,7 @@ void addThemeGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidg
     const QLabel *title =
         labelWithString(OptionsSheet::tr("Theme"), kThemeTitleFrame, sheet.themeGroup);
     const QRect name = themeNameFrame(textWidth(title->text()));
-    sheet.themeName = labelWithString({}, name, sheet.themeGroup);
+    sheet.themeName = labelWithString(OptionsSheet::tr("Theme"), name, sheet.themeGroup);
     sheet.themeName->setAlignment(Qt::AlignRight | Qt::AlignTop);
     sheet.themeName->setForegroundRole(QPalette::PlaceholderText);
     addVariantSwatches(sheet);

@@ -608,7 +608,7 @@ Endestatus: 0 Erfolg, 1 nicht möglich (eine Zeile auf stderr nennt den Grund), 
     <name>location::PlaceCard</name>
     <message>
         <source>Choose a place to see its sunrise and sunset.</source>
-        <translation>Wählen Sie einen Ort, um seinen Sonnenauf- und -untergang zu sehen.</translation>
+        <translation>Wählen Sie einen Ort, um zu sehen, wann die Sonne dort auf- und untergeht.</translation>
     </message>
     <message>
         <source>The sun does not rise or set there today, so it cannot begin or end a night.</source>

@@ -521,7 +521,7 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     </message>
     <message>
         <source>Nero</source>
-        <translation>Nero</translation>
+        <translation>黑色</translation>
     </message>
     <message>
         <source>Random</source>

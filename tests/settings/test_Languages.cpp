@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// No text of a window is cut or meets another control, in any language that there is a catalogue for.
+// No text of a window is cut or meets another control, in any language that there is a catalogue
+// for.
 #include "controls/Alert.h"
 #include "location/LocationWindow.h"
 #include "platform/Translations.h"
@@ -41,8 +42,8 @@ QString faultOf(const QLabel &label)
     const QRect frame = label.geometry().adjusted(-1, -1, 1, 1);
     if (!label.text().isEmpty() && !frame.contains(text))
         return u"'%1' is cut"_s.arg(label.text());
-    for (const QWidget *other : label.parentWidget()->findChildren<QWidget *>(
-             Qt::FindDirectChildrenOnly)) {
+    for (const QWidget *other :
+         label.parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
         const auto *otherLabel = qobject_cast<const QLabel *>(other);
         const QRect taken = otherLabel ? textOf(*otherLabel) : other->geometry();
         if (other != &label && other->isVisible() && !other->isWindow() && taken.intersects(text))
@@ -62,8 +63,8 @@ QString faultIn(const QWidget &window)
             return fault;
     }
     for (const auto *button : window.findChildren<QAbstractButton *>()) {
-        const bool showsText = qobject_cast<const PushButton *>(button) ||
-                               qobject_cast<const QPushButton *>(button);
+        const bool showsText =
+            qobject_cast<const PushButton *>(button) || qobject_cast<const QPushButton *>(button);
         if (showsText && button->isVisible() && button->sizeHint().width() > button->width())
             return u"'%1' is cut"_s.arg(button->text());
     }
