@@ -46,7 +46,7 @@ public:
     // Forwarders, documented at their owners. Variants and Artwork:
     static const QStringList &availableVariants() { return ::availableVariants(); }
     static const QStringList &popupVariants() { return ::popupVariants(); }
-    static const QHash<QString, QString> &variantLabels() { return ::variantLabels(); }
+    static QHash<QString, QString> variantLabels() { return ::variantLabels(); }
     static const QHash<QString, QColor> &backgroundColors() { return ::backgroundColors(); }
     platform::SvgImage imageForVariant(const QString &variant, const QString &name) const
     {
