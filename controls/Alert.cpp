@@ -34,6 +34,7 @@ Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
         label->setWordWrap(true);
     setAttribute(Qt::WA_DeleteOnClose);
     setCornerRadius(kRadius);
+    setOver(PanelOver::Window);
     setMovableByWindowBackground(true);
     setWindowTitle(message);
     setAccessibleDescription(information);

@@ -13,8 +13,6 @@
 
 namespace {
 constexpr double kEdgeAlpha = 0.16;
-/// Has a contrast of 3 : 1 against our windows.
-constexpr double kClearEdgeAlpha = 0.5;
 constexpr int kEdgeWidth = 1;
 /// How far a corner's arc stays from its sides, of the radius: 1 - sqrt(1/2), rounded up.
 constexpr double kArcReach = 0.3;
@@ -59,7 +57,7 @@ void drawPanel(QPainter &painter, const QWidget *panel, PanelOver over, double r
     }
     const QRectF whole = panel->rect();
     const QColor edge =
-        withAlpha(appearance.labelColor(), isOverWindow ? kClearEdgeAlpha : kEdgeAlpha);
+        isOverWindow ? appearance.edgeColor() : withAlpha(appearance.labelColor(), kEdgeAlpha);
     if (!platform::blendsWindows()) {
         // The corner pixels that the window mask keeps take the colour of the edge.
         painter.fillRect(whole, ground);

@@ -4,7 +4,6 @@
 #include "controls/ControlAccessibility.h"
 #include "controls/ControlFont.h"
 #include "controls/PushButton.h"
-#include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -110,8 +109,6 @@ void TamselSettingsWindow::paintEvent(QPaintEvent *event)
 {
     if (m_cornerRadius <= 0.0)
         return;
-    const bool isAlert = qobject_cast<TamselSettingsWindow *>(parentWidget()) != nullptr;
     QPainter painter(this);
-    drawPanel(painter, this, isAlert ? PanelOver::Window : PanelOver::Desktop, m_cornerRadius,
-              event->rect());
+    drawPanel(painter, this, m_over, m_cornerRadius, event->rect());
 }

@@ -73,6 +73,7 @@ void PlaceCard::setPlace(const std::optional<Place> &place)
     m_name->setText(nameText(place));
     m_coordinates->setText(place && !place->name.isNull() ? coordinatesText(place->location)
                                                           : QString());
+    m_coordinates->setVisible(!m_coordinates->text().isEmpty());
     m_sun->setText(sunText(place));
     m_bar->setDaylight(place ? place->sunrise : std::nullopt, place ? place->sunset : std::nullopt);
     setAccessibleDescription(

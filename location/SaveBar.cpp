@@ -17,6 +17,7 @@ SaveBar::SaveBar(QWidget *parent)
       m_close(new QPushButton(tr("&Close"))), m_save(new QPushButton(tr("&Save")))
 {
     m_message->setWordWrap(true);
+    m_message->setMinimumHeight(fontMetrics().lineSpacing());
     m_forget->setAutoDefault(false);
     m_close->setAutoDefault(false);
     m_save->setDefault(true);

@@ -549,6 +549,10 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
         <source>Cities</source>
         <translation>المدن</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>لم يُعثر على مدينة</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     <message>
         <source>Another program saved another place.</source>
         <translation>حفظ برنامج آخر مكانًا غيره.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>عُثر عليه، لكنه لم يُحفظ بعد.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>هل تريد حفظ هذا المكان؟</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>المكان الذي اخترته لم يُحفظ بعد.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>عدم الحفظ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,10 @@ Endestatus: 0 Erfolg, 1 nicht möglich (eine Zeile auf stderr nennt den Grund), 
         <source>Cities</source>
         <translation>Städte</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>Keine Stadt gefunden</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Endestatus: 0 Erfolg, 1 nicht möglich (eine Zeile auf stderr nennt den Grund), 
     <message>
         <source>Another program saved another place.</source>
         <translation>Ein anderes Programm hat einen anderen Ort gespeichert.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>Gefunden, aber noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>Diesen Ort speichern?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>Der gewählte Ort ist noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,10 @@ Estado de salida: 0 correcto, 1 no se pudo hacer (una línea en stderr dice por 
         <source>Cities</source>
         <translation>Ciudades</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>No se encontró ninguna ciudad</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Estado de salida: 0 correcto, 1 no se pudo hacer (una línea en stderr dice por 
     <message>
         <source>Another program saved another place.</source>
         <translation>Otro programa guardó otro lugar.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>Encontrada, pero aún no guardada.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>¿Guardar este lugar?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>El lugar elegido aún no está guardado.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>No guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,10 @@ Code de sortie : 0 succès, 1 échec (une ligne sur stderr dit pourquoi), 2 mauv
         <source>Cities</source>
         <translation>Villes</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>Aucune ville trouvée</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Code de sortie : 0 succès, 1 échec (une ligne sur stderr dit pourquoi), 2 mauv
     <message>
         <source>Another program saved another place.</source>
         <translation>Un autre programme a enregistré un autre lieu.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>Position trouvée, mais pas encore enregistrée.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>Enregistrer ce lieu ?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>Le lieu choisi n’est pas encore enregistré.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>

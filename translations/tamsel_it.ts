@@ -549,6 +549,10 @@ Stato di uscita: 0 successo, 1 non riuscito (una riga su stderr dice perché), 2
         <source>Cities</source>
         <translation>Città</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>Nessuna città trovata</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Stato di uscita: 0 successo, 1 non riuscito (una riga su stderr dice perché), 2
     <message>
         <source>Another program saved another place.</source>
         <translation>Un altro programma ha salvato un altro luogo.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>Trovata, ma non ancora salvata.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>Salvare questo luogo?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>Il luogo scelto non è ancora salvato.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Non salvare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,10 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
         <source>Cities</source>
         <translation>都市</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>都市が見つかりません</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     <message>
         <source>Another program saved another place.</source>
         <translation>別のプログラムが別の場所を保存しました。</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>見つかりましたが、まだ保存されていません。</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>この場所を保存しますか?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>選択した場所はまだ保存されていません。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>保存しない</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,10 @@ Afsluitstatus: 0 gelukt, 1 niet gelukt (een regel op stderr zegt waarom), 2 verk
         <source>Cities</source>
         <translation>Steden</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>Geen stad gevonden</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Afsluitstatus: 0 gelukt, 1 niet gelukt (een regel op stderr zegt waarom), 2 verk
     <message>
         <source>Another program saved another place.</source>
         <translation>Een ander programma heeft een andere plaats opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>Gevonden, maar nog niet opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>Deze plaats opslaan?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>De gekozen plaats is nog niet opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Niet opslaan</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
     </message>
 </context>
 <context>

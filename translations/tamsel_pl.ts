@@ -549,6 +549,10 @@ Stan wyjścia: 0 sukces, 1 nie udało się (wiersz na stderr mówi dlaczego), 2 
         <source>Cities</source>
         <translation>Miasta</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>Nie znaleziono miasta</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Stan wyjścia: 0 sukces, 1 nie udało się (wiersz na stderr mówi dlaczego), 2 
     <message>
         <source>Another program saved another place.</source>
         <translation>Inny program zapisał inne miejsce.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>Znaleziono, ale jeszcze nie zapisano.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>Zapisać to miejsce?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>Wybrane miejsce nie zostało jeszcze zapisane.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nie zapisuj</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,10 @@ Status de saída: 0 sucesso, 1 não foi possível (uma linha em stderr diz por q
         <source>Cities</source>
         <translation>Cidades</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>Nenhuma cidade encontrada</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Status de saída: 0 sucesso, 1 não foi possível (uma linha em stderr diz por q
     <message>
         <source>Another program saved another place.</source>
         <translation>Outro programa salvou outro lugar.</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>Encontrada, mas ainda não salva.</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>Salvar este lugar?</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>O lugar escolhido ainda não foi salvo.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Não salvar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>

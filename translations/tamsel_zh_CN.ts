@@ -549,6 +549,10 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
         <source>Cities</source>
         <translation>城市</translation>
     </message>
+    <message>
+        <source>No city found</source>
+        <translation>未找到城市</translation>
+    </message>
 </context>
 <context>
     <name>location::CoordinateFields</name>
@@ -602,6 +606,30 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     <message>
         <source>Another program saved another place.</source>
         <translation>另一个程序保存了其他地点。</translation>
+    </message>
+    <message>
+        <source>Found, but not saved yet.</source>
+        <translation>已找到，但尚未保存。</translation>
+    </message>
+    <message>
+        <source>Save this place?</source>
+        <translation>保存此地点？</translation>
+    </message>
+    <message>
+        <source>The place that you chose is not saved yet.</source>
+        <translation>您选择的地点尚未保存。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>不保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
