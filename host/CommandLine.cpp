@@ -248,7 +248,7 @@ QString operandsFault(const QCommandLineParser &parser)
 QString oneLine(QString text)
 {
     text.replace(u'\n', u' ');
-    while (text.endsWith(u'.'))
+    while (text.endsWith(u'.') || text.endsWith(u'。'))
         text.chop(1);
     return text.isEmpty() ? text : text.at(0).toLower() + text.mid(1);
 }

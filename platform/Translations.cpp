@@ -47,6 +47,8 @@ void useLanguage(const QLocale &locale)
     install(QLocale::English, u"tamsel"_s, folder);
     const QString language = install(locale, u"tamsel"_s, folder);
     install(QLocale(language), u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return;
     QGuiApplication::setLayoutDirection(language.isEmpty() ? Qt::LeftToRight
                                                            : QLocale(language).textDirection());
 }

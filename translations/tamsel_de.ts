@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Write one frame to FILE as a PNG; needs no display.</source>
-        <translation>Ein einzelnes Bild als PNG in DATEI schreiben; braucht keine Anzeige.</translation>
+        <translation>Ein einzelnes Bild als PNG in FILE schreiben; braucht keine Anzeige.</translation>
     </message>
     <message>
         <source>Device pixels per point of the picture.</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Write the options sheet to FILE as a PNG; needs no display.</source>
-        <translation>Das Einstellungsfenster als PNG in DATEI schreiben; braucht keine Anzeige.</translation>
+        <translation>Das Einstellungsfenster als PNG in FILE schreiben; braucht keine Anzeige.</translation>
     </message>
     <message>
         <source>Draw the options sheet in its dark appearance.</source>

@@ -65,7 +65,9 @@ QString faultIn(const QWidget &window)
     for (const auto *button : window.findChildren<QAbstractButton *>()) {
         const bool showsText =
             qobject_cast<const PushButton *>(button) || qobject_cast<const QPushButton *>(button);
-        if (showsText && button->isVisible() && button->sizeHint().width() > button->width())
+        const bool isWhole = button->sizeHint().width() <= button->width() && button->x() >= 0 &&
+                             button->geometry().right() < button->parentWidget()->width();
+        if (showsText && button->isVisible() && !isWhole)
             return u"'%1' is cut"_s.arg(button->text());
     }
     for (const auto *field : window.findChildren<QLineEdit *>()) {
