@@ -84,7 +84,7 @@ in_reading_order = [described(n) for n in window.application.nodes()
 expect(in_reading_order, EXPECTED, "reading order")
 expect(tab_order(), [control[:3] for control in EXPECTED], "tab order")
 
-for title in ("Theme", "Custom", "Primary", "Background", "Monthly calendar", "Night Mode"):
+for title in ("Theme", "Custom", "Primary", "Background", "Monthly calendar", "Night Mode", "From", "To"):
     window.control("label", title)
 roles = [role_of(node) for node in window.application.nodes()]
 check(roles.count("separator") == 4 and "ShowMenu" in actions(window.control("push button", "Night mode end setting")),
