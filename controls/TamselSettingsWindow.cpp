@@ -2,6 +2,7 @@
 #include "controls/TamselSettingsWindow.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/ControlFont.h"
 #include "controls/PushButton.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
@@ -11,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWindow>
 
 TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
@@ -19,7 +21,12 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     setAccessibleRole(this, QAccessible::Dialog);
     setAttribute(Qt::WA_TranslucentBackground);
     takeModality();
-    followAppearance(this, [this] { setPalette(appearanceOf(this).palette()); });
+    followAppearance(this, [this] {
+        const QPalette colors = appearanceOf(this).palette();
+        setPalette(colors);
+        QToolTip::setPalette(colors);
+    });
+    QToolTip::setFont(controlFont());
 }
 
 void TamselSettingsWindow::setCornerRadius(double radius)
@@ -103,6 +110,8 @@ void TamselSettingsWindow::paintEvent(QPaintEvent *event)
 {
     if (m_cornerRadius <= 0.0)
         return;
+    const bool isAlert = qobject_cast<TamselSettingsWindow *>(parentWidget()) != nullptr;
     QPainter painter(this);
-    drawPanel(painter, this, m_cornerRadius, event->rect());
+    drawPanel(painter, this, isAlert ? PanelOver::Window : PanelOver::Desktop, m_cornerRadius,
+              event->rect());
 }

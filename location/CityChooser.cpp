@@ -26,12 +26,12 @@ constexpr int kRowHeight = 26;
 CityChooser::CityChooser(const ZoneCities &cities, QWidget *parent)
     : QWidget(parent), m_cities(cities), m_field(new QLineEdit(this)), m_list(new QListWidget(this))
 {
-    m_field->setPlaceholderText(u"Search for a city or country"_s);
-    m_field->setAccessibleName(u"Search for a city or country"_s);
+    m_field->setPlaceholderText(tr("Search for a city or country"));
+    m_field->setAccessibleName(tr("Search for a city or country"));
     m_field->setClearButtonEnabled(true);
     m_field->setMinimumHeight(kControlHeight);
     m_field->installEventFilter(this);
-    m_list->setAccessibleName(u"Cities"_s);
+    m_list->setAccessibleName(tr("Cities"));
     m_list->setUniformItemSizes(true);
     m_list->setMinimumHeight(kRowsShown * kRowHeight);
     auto *layout = new QVBoxLayout(this);

@@ -120,10 +120,10 @@ bool LocationWindow::eventFilter(QObject *watched, QEvent *event)
 QWidget *LocationWindow::makeIntroduction()
 {
     auto *introduction = new QWidget(this);
-    auto *title = new QLabel(u"Where does your sun rise?"_s);
+    auto *title = new QLabel(tr("Where does your sun rise?"));
     title->setFont(platform::systemFont(kTitleSize, QFont::DemiBold));
-    auto *text = new QLabel(u"The clock needs your location to change to its night colours at "
-                            u"sunset and back at sunrise. It stays on this computer."_s);
+    auto *text = new QLabel(tr("The clock needs your location to change to its night colours at "
+                               "sunset and back at sunrise. It stays on this computer."));
     text->setWordWrap(true);
     auto *layout = new QVBoxLayout(introduction);
     layout->setContentsMargins({});
@@ -162,7 +162,7 @@ void LocationWindow::suggest(const QString &systemZone)
         m_saveBar->tell({});
     } else if (const auto city = m_cities.ofZone(systemZone)) {
         chooseCity(*city);
-        m_saveBar->tell(u"Suggested by your time zone; nothing is saved yet."_s);
+        m_saveBar->tell(tr("Suggested by your time zone; nothing is saved yet."));
     } else {
         choose(std::nullopt);
     }
@@ -204,13 +204,13 @@ void LocationWindow::save()
     if (!m_choice)
         return;
     write([this, location = *m_choice] { return m_store.save(location, kNoWaiting); },
-          u"Saved. Clocks that are running follow at once."_s);
+          tr("Saved. Clocks that are running follow at once."));
 }
 
 void LocationWindow::forget()
 {
     write([this] { return m_store.forget(kNoWaiting); },
-          u"Forgotten. A clock that is running keeps its sun times until it ends."_s);
+          tr("Forgotten. A clock that is running keeps its sun times until it ends."));
 }
 
 void LocationWindow::write(const platform::PatientWrite::Attempt &attempt, const QString &done)
@@ -239,11 +239,11 @@ void LocationWindow::followStore()
     if (m_saved == known)
         return;
     if (!m_saved)
-        m_saveBar->tell(u"Another program forgot the saved location."_s);
+        m_saveBar->tell(tr("Another program forgot the saved location."));
     else if (m_saved == m_choice)
-        m_saveBar->tell(u"Another program saved this place."_s);
+        m_saveBar->tell(tr("Another program saved this place."));
     else
-        m_saveBar->tell(u"Another program saved another place."_s);
+        m_saveBar->tell(tr("Another program saved another place."));
 }
 
 void LocationWindow::followAppearance()

@@ -28,18 +28,21 @@ constexpr double kCardOpacity = 0.05;
 QString sunText(const std::optional<Place> &place)
 {
     if (!place)
-        return u"Choose a place to see its sunrise and sunset."_s;
+        return PlaceCard::tr("Choose a place to see its sunrise and sunset.");
     if (!place->sunrise || !place->sunset)
-        return u"The sun does not rise or set there today, so it cannot begin or end a night."_s;
-    return u"Today: sunrise %1, sunset %2%3"_s.arg(
-        platform::shortTimeText(*place->sunrise), platform::shortTimeText(*place->sunset),
-        place->hasOtherTime ? u" by this computer's clock"_s : QString());
+        return PlaceCard::tr(
+            "The sun does not rise or set there today, so it cannot begin or end a night.");
+    const QString text =
+        place->hasOtherTime ? PlaceCard::tr("Today: sunrise %1, sunset %2 by this computer's clock")
+                            : PlaceCard::tr("Today: sunrise %1, sunset %2");
+    return text.arg(platform::shortTimeText(*place->sunrise),
+                    platform::shortTimeText(*place->sunset));
 }
 
 QString nameText(const std::optional<Place> &place)
 {
     if (!place)
-        return u"No place chosen"_s;
+        return PlaceCard::tr("No place chosen");
     return place->name.isNull() ? coordinatesText(place->location) : place->name;
 }
 
@@ -61,7 +64,7 @@ PlaceCard::PlaceCard(QWidget *parent)
     layout->addWidget(m_sun);
     layout->addSpacing(kSpacing);
     layout->addWidget(m_bar);
-    setAccessibleName(u"Chosen place"_s);
+    setAccessibleName(tr("Chosen place"));
     setPlace(std::nullopt);
 }
 

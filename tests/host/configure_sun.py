@@ -13,7 +13,7 @@ from screenreader import start_desktop, xdotool  # noqa: E402
 from xhost import check, is_alive, wait_for  # noqa: E402
 
 PROGRAM, COMPANION = sys.argv[1:]
-QUESTION = "Sunrise and sunset need your Mac's location"
+QUESTION = "Sunrise and sunset need this computer's location"
 start_desktop("900x1000")
 
 
@@ -62,7 +62,7 @@ check(companions() == [], "no companion is started unasked")
 
 options.click("push button", "OK")
 expect_question()
-options.click("push button", "Use Mac location")
+options.click("push button", "Use this computer's location")
 wait_for("the companion's window", companions)
 expect_no_question()
 process = int(xdotool("getwindowpid", companions()[-1]))
