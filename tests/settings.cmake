@@ -6,6 +6,6 @@ tamsel_test(settings/test_ColorEditing.cpp LIBS tamsel_saver tamsel_settings)
 tamsel_test(settings/test_TimeRows.cpp LIBS tamsel_saver tamsel_settings)
 tamsel_test(settings/test_SaveOrder.cpp LIBS tamsel_saver tamsel_settings)
 tamsel_test(settings/test_Languages.cpp LIBS tamsel_location tamsel_saver tamsel_settings)
-tamsel_script_test(assistive_technology settings/assistive.py BUS LABELS host ARGS $<TARGET_FILE:tamsel-clock>)
-tamsel_script_test(assistive_technology_mirrored settings/assistive.py BUS LABELS host
+tamsel_script_test(assistive_technology settings/assistive.py HOME BUS LABELS host ARGS $<TARGET_FILE:tamsel-clock>)
+tamsel_script_test(assistive_technology_mirrored settings/assistive.py HOME BUS LABELS host
     ARGS $<TARGET_FILE:tamsel-clock> ${CMAKE_SOURCE_DIR}/translations/tamsel_ar.ts)
