@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Mouse, wheel, keyboard and text input as a user gives them.
 #include "controls/FocusRing.h"
-#include "controls/OverlayScrollArea.h"
-#include "controls/OverlayScroller.h"
 #include "controls/TamselGradientSlider.h"
 #include "controls/TamselModeControl.h"
 #include "controls/TamselSettingsWindow.h"
@@ -17,7 +15,6 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -228,23 +225,6 @@ private Q_SLOTS:
             picker.clearFocus();
             QTEST(picker.time(), "to");
         }
-    }
-
-    void aScrollerWithNothingToScrollStaysHidden()
-    {
-        const platform::FixedClocks clocks({}, 0.0);
-        auto *content = new QWidget;
-        content->resize(100, 900);
-        OverlayScrollArea area(clocks, content, m_window.get());
-        area.resize(120, 150);
-        area.show();
-        auto *scroller = area.findChild<OverlayScroller *>();
-        QVERIFY(scroller->isVisible());
-        auto *linger = scroller->findChild<QTimer *>();
-        content->resize(100, 100);
-        QTRY_VERIFY(!scroller->isVisible());
-        linger->setInterval(0); // what is left of the wait goes by at once
-        QVERIFY(!QTest::qWaitFor([&] { return scroller->isVisible(); }, 100));
     }
 
     void settingsWindowMovesByItsBackground()

@@ -117,8 +117,7 @@ private Q_SLOTS:
                 const double centre = 14 + 126 * step;
                 QVERIFY(alike(pixelAt(image, centre, 14), colors[component][step], 18));
                 QVERIFY(alike(pixelAt(image, centre - 12, 14), Qt::white));
-                QVERIFY(alike(pixelAt(image, step == 0 ? 277.5 : 2.5, 14),
-                              colors[component][step == 0 ? 2 : 0], 18));
+                QVERIFY(alike(pixelAt(image, 77.5, 14), slider.colorAtValue(76.5 / 278), 18));
             }
         }
     }
@@ -140,6 +139,17 @@ private Q_SLOTS:
         }
     }
 
+    void theRainbowHasManyHues()
+    {
+        TamselSwatchButton swatch;
+        swatch.resize(28, 28);
+        swatch.setRainbow(true);
+        const QImage image = picture(&swatch, 2);
+        QVERIFY(pixelAt(image, 14, 6).hsvSaturation() > 128);
+        QVERIFY(!alike(pixelAt(image, 14, 6), pixelAt(image, 14, 22), 60));
+        QCOMPARE(pixelAt(image, 3.2, 14).alpha(), 0);
+    }
+
     void symbolsAreTintedCentredAndWeighted()
     {
         QVERIFY(Symbol::named(u"no.such.symbol"_s, 13).isNull());
@@ -157,6 +167,9 @@ private Q_SLOTS:
             // Overlapping parts must not add up.
             QVERIFY(boundsOf(image, [](const QColor &it) { return it.alpha() > 131; }).isNull());
 
+            button.setDown(true);
+            QVERIFY(std::abs(inkIn(picture(&button, 4)) / inkIn(image) - 0.6) < 0.02);
+            button.setDown(false);
             button.setImage(Symbol::named(name, 13, QFont::DemiBold));
             QVERIFY(inkIn(picture(&button, 4)) > 1.02 * inkIn(image));
         }

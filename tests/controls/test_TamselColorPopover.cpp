@@ -117,12 +117,13 @@ private Q_SLOTS:
         QCOMPARE(sheet.dismissed + sheet.panels, 1);
     }
 
-    void staysOpenWhileItsOwnWindowsHaveTheFocus()
+    void staysOpenWhileItIsUsed()
     {
         Sheet sheet;
         sheet.window->activateWindow();
         QCoreApplication::processEvents();
         QTest::mouseClick(sheet.editor->popover(), Qt::LeftButton, {}, QPoint(150, 150));
+        QTest::keyClick(sheet.editor->popover(), Qt::Key_A);
         sheet.window->update();
         QCoreApplication::processEvents();
         QVERIFY(sheet.editor->popover()->isVisible());

@@ -49,29 +49,24 @@ private Q_SLOTS:
         for (const char *none : {"", "timeout: 5\n", "timeout: 5", "timeout: 5\\\n", "timeout: 5\\",
                                  "# programs: a\n"})
             QTest::addRow("no list in '%s'", none) << QByteArray(none) << kNewList + none;
-        QTest::newRow("empty list")
-            << QByteArray("programs:\nfade: True\n") << "programs:\\\n" + kLine + "\nfade: True\n";
-        QTest::newRow("one line") << QByteArray(
-                                         "programs: maze --root\\n qix --root \\n\nfade: True\n")
-                                  << "programs: maze --root\\n qix --root \\n\\\n" + kLine +
-                                         "\nfade: True\n";
-        QTest::newRow("no end mark")
-            << QByteArray("Programs: maze --root\nfade: True\n")
-            << "Programs: maze --root \\n\\\n" + kOpenLine + "\nfade: True\n";
-        QTest::newRow("ends in an escaped backslash and an n")
-            << QByteArray("programs: maze\\\\n") << "programs: maze\\\\n \\n\\\n" + kOpenLine;
-        QTest::newRow("the last of two lists")
-            << QByteArray("programs: maze\\n\nprograms: qix\\n\n")
-            << "programs: maze\\n\nprograms: qix\\n\\\n" + kLine + "\n";
-        QTest::newRow("listed and switched off")
-            << QByteArray("programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n")
-            << QByteArray("programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n");
-        QTest::newRow("listed at another place")
-            << QByteArray("programs: \"tamsel-clock\" /old/bin/tamsel-clock --root \\n a\\n\n")
-            << QByteArray("programs: \"tamsel-clock\" tamsel-clock --root \\n a\\n\n");
-        QTest::newRow("relatives are others")
-            << QByteArray("programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\n")
-            << "programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\\\n" + kLine + "\n";
+        const auto row = [](const char *name, const QByteArray &file, const QByteArray &now) {
+            QTest::newRow(name) << file << now;
+        };
+        row("empty list", "programs:\nfade: True\n", "programs:\\\n" + kLine + "\nfade: True\n");
+        row("one line", "programs: maze --root\\n qix --root \\n\nfade: True\n",
+            "programs: maze --root\\n qix --root \\n\\\n" + kLine + "\nfade: True\n");
+        row("no end mark", "Programs: maze --root\nfade: True\n",
+            "Programs: maze --root \\n\\\n" + kOpenLine + "\nfade: True\n");
+        row("ends in an escaped backslash and an n", "programs: maze\\\\n",
+            "programs: maze\\\\n \\n\\\n" + kOpenLine);
+        row("the last of two lists", "programs: maze\\n\nprograms: qix\\n\n",
+            "programs: maze\\n\nprograms: qix\\n\\\n" + kLine + "\n");
+        row("listed and switched off", "programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n",
+            "programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n");
+        row("listed at another place", "programs: \"x\" /old/bin/tamsel-clock --root \\n a\\n\n",
+            "programs: \"x\" tamsel-clock --root \\n a\\n\n");
+        row("relatives are others", "programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\n",
+            "programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\\\n" + kLine + "\n");
     }
 
     void listsTheClockLast()

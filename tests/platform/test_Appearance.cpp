@@ -60,9 +60,7 @@ private Q_SLOTS:
         row("light", kAppearanceGroup, "color-scheme", 2u, {.prefersDark = false});
         row("no preference", kAppearanceGroup, "color-scheme", 0u, {});
         row("scheme as text", kAppearanceGroup, "color-scheme", "1", {});
-        row("accent as text", kAppearanceGroup, "accent-color", "red", {});
         row("less motion", kAppearanceGroup, "reduced-motion", 1u, {.reducedMotion = true});
-        row("unknown motion", kAppearanceGroup, "reduced-motion", 7u, {.reducedMotion = false});
         row("animations off", kGnomeGroup, "enable-animations", false, {.enableAnimations = false});
         row("factor as text", kKdeGroup, "AnimationDurationFactor", "0", {.animationFactor = 0.0});
         row("factor as nonsense", kKdeGroup, "AnimationDurationFactor", "fast", {});

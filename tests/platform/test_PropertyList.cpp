@@ -107,13 +107,11 @@ private Q_SLOTS:
         const auto wide = [](qint64 high) { return '\x14' + bigEndian(high, 8) + bigEndian(1, 8); };
         row("date in year 0", date(0xC22D'63C3'7F02'0000), u"binary"_s);
         row("date in year 10000", date(0x424D'62D2'3C80'0000), u"binary"_s);
-        row("date beyond any calendar", date(0x7FEF'FFFF'FFFF'FFFF), u"binary"_s);
         row("date that is no number", date(0x7FF8'0000'0000'0001), u"binary"_s);
         row("not a number, with a payload", "\x23" + bigEndian(0xFFF8'0000'DEAD'BEEF, 8),
             u"binary"_s);
         row("integer of 65 bits", wide(1), u"binary"_s);
         row("reference of three bytes", "\x82" + bigEndian(7, 3), u"binary"_s);
-        row("lone surrogate", "\x61\xD8\x3D", u"binary"_s);
         row("set", "\xC0", u"none"_s);
         row("dictionary with a key that is no text", "\xD1" + bigEndian(3, 2) + bigEndian(3, 2),
             u"none"_s);
@@ -161,14 +159,10 @@ private Q_SLOTS:
             xml("<array><integer> 0xFFFFFFFFFFFFFFFF</integer><integer>+7\n</integer>"
                 "<real>-Inf</real><real>1E2</real></array>"),
             QVariantList{~qulonglong(0), qlonglong(7), -qInf(), 100.0});
-        row("date without leading zeros", xml("<date>1-01-01T00:00:00Z</date>"),
-            QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC));
         row("beyond our numbers",
             xml("<array><integer>18446744073709551616</integer><real>1e999</real>"
                 "<date>12024-02-29T00:00:00Z</date></array>"),
             QVariantList(3, QVariant::fromValue(PropertyList::ForeignObject())));
-        row("100000 attributes", xml("<true" + QByteArray(" a=\"\"").repeated(100'000) + "/>"),
-            true);
         row("binary dictionary with a shared key and value",
             binary({"\xD1" + bigEndian(1, 2) + bigEndian(1, 2), "\x51z"}),
             QVariantMap{{u"z"_s, u"z"_s}});
@@ -176,7 +170,6 @@ private Q_SLOTS:
             binary({"\xD2" + bigEndian(1, 2) + bigEndian(2, 2) + bigEndian(3, 2).repeated(2),
                     QByteArray("\x62\0\xE4\0\0", 5), "\x61" + bigEndian(0xE4, 2), "\x09"}),
             QVariantMap{{u"ä"_s, true}, {QString(u"ä"_s + QChar()), true}});
-        row("binary real of four bytes", binary({"\x22\xBF" + bigEndian(0, 3)}), -0.5);
         row("binary 16 bytes for -1", binary({"\x14" + QByteArray(16, '\xFF')}), qlonglong(-1));
         QVariant nested = u"d"_s;
         for (int i = 0; i < 64; ++i)

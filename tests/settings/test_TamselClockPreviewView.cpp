@@ -133,17 +133,6 @@ private Q_SLOTS:
         QVERIFY(!f.view.isFading());
     }
 
-    void nothingFadesUnseen()
-    {
-        Fixture f;
-        f.view.beginColorTransition();
-        QVERIFY(!f.view.isFading());
-        QVERIFY(f.show());
-        f.view.setArtwork({});
-        f.view.beginColorTransition();
-        QVERIFY(!f.view.isFading());
-    }
-
     /// On screen, where only what changed is painted: over a fade, a slide of the calendar and the
     /// turn of a minute.
     void whatIsOnScreenIsWhatIsDrawn()
