@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -54,6 +55,10 @@ PlaceCard::PlaceCard(QWidget *parent)
 {
     m_name->setFont(platform::systemFont(kNameSize, QFont::DemiBold));
     m_coordinates->setForegroundRole(QPalette::PlaceholderText);
+    // A name in Latin letters, too, begins at the edge at which the card is read.
+    for (QLabel *label : {m_name, m_coordinates})
+        label->setAlignment(
+            QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter));
     m_sun->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
