@@ -3,6 +3,7 @@
 
 #include "controls/ControlAccessibility.h"
 #include "controls/ControlFont.h"
+#include "controls/Mirroring.h"
 #include "controls/PushButton.h"
 #include "controls/TextLabel.h"
 
@@ -33,6 +34,7 @@ Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
         label->setWordWrap(true);
     setAttribute(Qt::WA_DeleteOnClose);
     setCornerRadius(kRadius);
+    setOver(PanelOver::Window);
     setMovableByWindowBackground(true);
     setWindowTitle(message);
     setAccessibleDescription(information);
@@ -67,7 +69,10 @@ void Alert::addButton(const QString &title, const std::function<void()> &chosen)
 
 void Alert::layOut()
 {
-    const int textWidth = kWidth - 2 * kMargin;
+    int buttonsWidth = -kButtonGap;
+    for (const PushButton *button : m_buttons)
+        buttonsWidth += std::max(kButtonWidth, button->sizeHint().width()) + kButtonGap;
+    const int textWidth = std::max(kWidth - 2 * kMargin, buttonsWidth);
     int y = kMargin;
     for (QLabel *label : {m_message, m_information}) {
         const int height = label->heightForWidth(textWidth);
@@ -75,13 +80,13 @@ void Alert::layOut()
         y += height + kTextGap;
     }
     y += kButtonsGap - kTextGap;
-    int right = kWidth - kMargin;
+    int right = kMargin + textWidth;
+    resize(right + kMargin, y + kButtonHeight + kMargin);
     for (PushButton *button : m_buttons) {
         const int width = std::max(kButtonWidth, button->sizeHint().width());
-        button->setGeometry(right - width, y, width, kButtonHeight);
+        place(button, {right - width, y, width, kButtonHeight});
         right -= width + kButtonGap;
     }
-    resize(kWidth, y + kButtonHeight + kMargin);
 }
 
 void Alert::present()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/OverlayScroller.h"
 
+#include "controls/Mirroring.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAlpha.h"
 #include "controls/ViewAppearance.h"
@@ -56,8 +57,8 @@ void OverlayScroller::flash()
     }
     m_fade.stop();
     setAlphaValue(this, 1.0);
-    setGeometry(m_area->width() - kWidth, kEndMargin, kWidth,
-                std::max(0, m_area->height() - 2 * kEndMargin));
+    place(this, {m_area->width() - kWidth, kEndMargin, kWidth,
+                 std::max(0, m_area->height() - 2 * kEndMargin)});
     show();
     raise();
     update();

@@ -79,7 +79,8 @@ void PopUpMenu::popUpWithTitleAt(QAction *action, const QPoint &position)
 {
     sizeHint(); // lays the items out
     const QRectF item = actionGeometry(action);
-    popup(position - QPointF(item.left() + kTitleInset, item.center().y()).toPoint());
+    const double left = isRightToLeft() ? item.right() - kTitleInset : item.left() + kTitleInset;
+    popup(position - QPointF(left, item.center().y()).toPoint());
     setActiveAction(action);
 }
 
@@ -95,7 +96,7 @@ void PopUpMenu::paintEvent(QPaintEvent *)
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(rect(), Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    drawPanel(painter, this, kRadius, rect());
+    drawPanel(painter, this, PanelOver::Window, kRadius, rect());
     for (const QAction *action : actions())
         drawItem(painter, *action, actionGeometry(const_cast<QAction *>(action)));
 }
@@ -104,7 +105,7 @@ void PopUpMenu::drawItem(QPainter &painter, const QAction &action, const QRectF 
 {
     const platform::Appearance &appearance = appearanceOf(this);
     if (action.isSeparator()) {
-        const QRectF line(item.left() + kCheckLeft, item.center().y(),
+        const QRectF line(item.left() + kCheckLeft, std::floor(item.center().y()),
                           item.width() - 2.0 * kCheckLeft, 1.0);
         painter.fillRect(line, withAlpha(appearance.labelColor(), kSeparatorAlpha));
         return;
@@ -116,13 +117,18 @@ void PopUpMenu::drawItem(QPainter &painter, const QAction &action, const QRectF 
         fillRounded(painter, item, kItemRadius, emphasis.fill);
     painter.setPen(ink);
     painter.setFont(font());
-    painter.drawText(item.adjusted(kTitleInset, 0.0, 0.0, 0.0),
+    const bool mirrored = isRightToLeft();
+    painter.drawText(mirrored ? item.adjusted(0.0, 0.0, -kTitleInset, 0.0)
+                              : item.adjusted(kTitleInset, 0.0, 0.0, 0.0),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, action.text());
     if (!action.isChecked())
         return;
-    const QPointF corner(item.left() + kCheckLeft, item.center().y());
+    constexpr double kCheckWidth = 8.5;
+    const QPointF corner(mirrored ? item.right() - kCheckLeft - kCheckWidth
+                                  : item.left() + kCheckLeft,
+                         item.center().y());
     painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPolyline(QPolygonF{corner + QPointF(0.0, 0.5), corner + QPointF(3.0, 3.5),
-                                   corner + QPointF(8.5, -3.5)});
+                                   corner + QPointF(kCheckWidth, -3.5)});
 }

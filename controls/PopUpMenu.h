@@ -12,8 +12,8 @@ public:
     /// Deletes itself when it closes, or is deleted with \p parent.
     explicit PopUpMenu(QWidget *parent);
 
-    /// Opens the menu with the title of \p action at \p position, in global coordinates: the left
-    /// end of the title's horizontal centre line.
+    /// Opens the menu with the title of \p action at \p position, in global coordinates: the
+    /// beginning of the title's horizontal centre line.
     void popUpWithTitleAt(QAction *action, const QPoint &position);
 
 protected:

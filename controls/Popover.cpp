@@ -215,7 +215,7 @@ void Popover::contextMenuEvent(QContextMenuEvent *event)
 void Popover::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    drawPanel(painter, this, kRadius, event->rect());
+    drawPanel(painter, this, PanelOver::Window, kRadius, event->rect());
 }
 
 void Popover::reportOnce()

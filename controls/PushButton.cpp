@@ -6,6 +6,7 @@
 #include "controls/FocusRing.h"
 #include "controls/RoundedShape.h"
 #include "controls/TamselInputFill.h"
+#include "controls/TextLabel.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -84,11 +85,14 @@ void PushButton::drawContents(QPainter &painter) const
     const double symbolWidth = m_symbol.isNull() ? 0.0 : m_symbol.size().width() + kSymbolGap;
     const double left = std::round((width() - titleWidth - symbolWidth) / 2.0);
     const double line = lineHeight(font());
-    const QRectF title(left + symbolWidth, (height() - line) / 2.0, titleWidth + 1.0, line);
+    const bool mirrored = isRightToLeft();
+    const double top = (height() - line) / 2.0 - baselineShift(text(), font());
+    const QRectF title(mirrored ? left : left + symbolWidth, top, titleWidth + 1.0, line);
 
     painter.setFont(font());
     painter.setPen(displayInk());
     painter.drawText(title, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, text());
-    const QRectF symbol(left, 0.0, symbolWidth - kSymbolGap, height());
+    const QRectF symbol(mirrored ? left + titleWidth + kSymbolGap : left, 0.0,
+                        symbolWidth - kSymbolGap, height());
     m_symbol.draw(painter, symbol, displayInk());
 }

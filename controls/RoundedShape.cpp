@@ -43,22 +43,27 @@ void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QBr
     painter.drawRoundedRect(rect, radius, radius);
 }
 
-void drawPanel(QPainter &painter, const QWidget *panel, double radius, const QRect &area)
+void drawPanel(QPainter &painter, const QWidget *panel, PanelOver over, double radius,
+               const QRect &area)
 {
     const platform::Appearance &appearance = appearanceOf(panel);
+    const bool isOverWindow = over == PanelOver::Window;
+    const QColor ground =
+        isOverWindow ? appearance.panelColor() : appearance.windowBackgroundColor();
     const int inset = kEdgeWidth + static_cast<int>(std::ceil(kArcReach * radius));
     if (panel->rect().adjusted(inset, inset, -inset, -inset).contains(area)) {
-        painter.fillRect(area, appearance.windowBackgroundColor());
+        painter.fillRect(area, ground);
         return;
     }
     const QRectF whole = panel->rect();
-    const QColor edge = withAlpha(appearance.labelColor(), kEdgeAlpha);
+    const QColor edge =
+        isOverWindow ? appearance.edgeColor() : withAlpha(appearance.labelColor(), kEdgeAlpha);
     if (!platform::blendsWindows()) {
         // The corner pixels that the window mask keeps take the colour of the edge.
-        painter.fillRect(whole, appearance.windowBackgroundColor());
+        painter.fillRect(whole, ground);
         painter.fillRect(whole, edge);
     }
-    fillRounded(painter, whole, radius, appearance.windowBackgroundColor());
+    fillRounded(painter, whole, radius, ground);
     painter.setPen(QPen(edge, kEdgeWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(whole.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);

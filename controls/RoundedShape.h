@@ -18,7 +18,13 @@ QRegion roundedShape(const QSize &size, double radius);
 /// Fills \p rect with corners of \p radius. Leaves \p painter with antialiasing on and no pen.
 void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QBrush &brush);
 
-/// Draws the background of the floating window \p panel: the window colour with a faint edge, which
-/// separates it from a window of the same colour below. \p area is what must be drawn; more may be
-/// drawn.
-void drawPanel(QPainter &painter, const QWidget *panel, double radius, const QRect &area);
+/// What a floating panel lies on.
+enum class PanelOver {
+    Desktop,
+    Window, ///< one of ours, from which it lifts off by a ground of its own and a clear edge
+};
+
+/// Draws the background of the floating window \p panel with its edge. \p area is what must be
+/// drawn; more may be drawn.
+void drawPanel(QPainter &painter, const QWidget *panel, PanelOver over, double radius,
+               const QRect &area);

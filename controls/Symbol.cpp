@@ -75,5 +75,8 @@ void drawTinted(QPainter &painter, const platform::SvgImage &image, const QRectF
     maskPainter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     maskPainter.fillRect(mask.rect(), ink);
     maskPainter.end();
-    painter.drawImage(toDevice.inverted().mapRect(QRectF(device)), mask);
+    painter.save();
+    painter.setWorldTransform(toDevice.inverted(), true);
+    painter.drawImage(device.topLeft(), mask);
+    painter.restore();
 }

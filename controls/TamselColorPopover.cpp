@@ -74,15 +74,15 @@ void TamselColorPopover::loadView()
     auto *view = new QWidget;
     view->resize(kViewSize);
     m_view = view;
-    m_hueSlider = makeSlider(view, TamselGradientSlider::Hue, u"Hue"_s, kHueFrame);
+    m_hueSlider = makeSlider(view, TamselGradientSlider::Hue, tr("Hue"), kHueFrame);
     m_saturationSlider =
-        makeSlider(view, TamselGradientSlider::Saturation, u"Saturation"_s, kSaturationFrame);
+        makeSlider(view, TamselGradientSlider::Saturation, tr("Saturation"), kSaturationFrame);
     m_brightnessSlider =
-        makeSlider(view, TamselGradientSlider::Brightness, u"Brightness"_s, kBrightnessFrame);
+        makeSlider(view, TamselGradientSlider::Brightness, tr("Brightness"), kBrightnessFrame);
     for (auto *slider : {m_hueSlider, m_saturationSlider, m_brightnessSlider})
         connect(slider, &TamselGradientSlider::edited, this, &TamselColorPopover::changed);
 
-    auto *panelButton = new PushButton(u"Color Picker"_s, view);
+    auto *panelButton = new PushButton(tr("Color Picker"), view);
     panelButton->setGeometry(kPanelButtonFrame);
     panelButton->setSymbol(Symbol::named(u"eyedropper"_s, kSymbolSize));
     panelButton->setRadius(kPanelButtonRadius);

@@ -28,11 +28,12 @@ constexpr double kButtonRadius = 4.0;
 struct ModeSymbol
 {
     QStringView name;
-    QStringView description;
+    const char *description; ///< to be translated
     double pointSize;
 };
-constexpr std::array<ModeSymbol, 2> kSymbols{{{u"sun.max.fill", u"Preview day colors", 14.0},
-                                              {u"moon.fill", u"Preview night colors", 12.0}}};
+constexpr std::array<ModeSymbol, 2> kSymbols{
+    {{u"sun.max.fill", QT_TRANSLATE_NOOP("TamselModeControl", "Preview day colors"), 14.0},
+     {u"moon.fill", QT_TRANSLATE_NOOP("TamselModeControl", "Preview night colors"), 12.0}}};
 
 class ModeButton final : public QAbstractButton
 {
@@ -44,7 +45,7 @@ public:
         setAccessibleRole(this, QAccessible::RadioButton);
         setCheckable(true);
         setFocusPolicy(Qt::TabFocus);
-        setAccessibleName(symbol.description.toString());
+        setAccessibleName(TamselModeControl::tr(symbol.description));
         new FocusRing(this, [this] {
             return FocusRing::Outline{QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0), kButtonRadius,
                                       m_control->ink()};
@@ -77,11 +78,12 @@ TamselModeControl::TamselModeControl(const platform::Clocks &clocks, QWidget *pa
       })
 {
     setAccessibleRole(this, QAccessible::Grouping);
-    setAccessibleName(u"Preview palette"_s);
+    setAccessibleName(tr("Preview palette"));
     for (const ModeSymbol &symbol : kSymbols) {
         const int segment = static_cast<int>(m_buttons.size());
         auto *button = new ModeButton(symbol, this);
-        button->setGeometry(kFirstButton.translated(kFirstButton.width() * segment, 0));
+        const int position = isRightToLeft() ? Night - segment : segment;
+        button->setGeometry(kFirstButton.translated(kFirstButton.width() * position, 0));
         connect(button, &QAbstractButton::clicked, this, [this, segment] { selectMode(segment); });
         m_buttons.append(button);
     }

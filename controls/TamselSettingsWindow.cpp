@@ -2,8 +2,8 @@
 #include "controls/TamselSettingsWindow.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/ControlFont.h"
 #include "controls/PushButton.h"
-#include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWindow>
 
 TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
@@ -19,7 +20,12 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     setAccessibleRole(this, QAccessible::Dialog);
     setAttribute(Qt::WA_TranslucentBackground);
     takeModality();
-    followAppearance(this, [this] { setPalette(appearanceOf(this).palette()); });
+    followAppearance(this, [this] {
+        const QPalette colors = appearanceOf(this).palette();
+        setPalette(colors);
+        QToolTip::setPalette(colors);
+    });
+    QToolTip::setFont(controlFont());
 }
 
 void TamselSettingsWindow::setCornerRadius(double radius)
@@ -104,5 +110,5 @@ void TamselSettingsWindow::paintEvent(QPaintEvent *event)
     if (m_cornerRadius <= 0.0)
         return;
     QPainter painter(this);
-    drawPanel(painter, this, m_cornerRadius, event->rect());
+    drawPanel(painter, this, m_over, m_cornerRadius, event->rect());
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/RoundedShape.h"
+
 #include <QPoint>
 #include <QWidget>
 
@@ -20,6 +22,9 @@ public:
 
     /// Corner radius of the background in points. At 0, the default, no background is drawn.
     void setCornerRadius(double radius);
+
+    /// What the window lies on, the desktop by default.
+    void setOver(PanelOver over) { m_over = over; }
 
     /// Whether dragging the background moves the window.
     void setMovableByWindowBackground(bool movable) { m_movable = movable; }
@@ -47,6 +52,7 @@ private:
     void takeShape();
 
     double m_cornerRadius = 0.0;
+    PanelOver m_over = PanelOver::Desktop;
     bool m_movable = false;
     /// For desktops that cannot move a window: where the pointer drags it, in window coordinates.
     std::optional<QPoint> m_grip;

@@ -4,6 +4,7 @@
 #include "controls/ControlAccessibility.h"
 #include "controls/ControlFont.h"
 #include "controls/RoundedShape.h"
+#include "controls/TextLabel.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -34,13 +35,13 @@ void TamselTimeMenu::alignAtRowCenter(double y)
     const double titleWidth = QFontMetricsF(font()).horizontalAdvance(text());
     const double width = titled ? std::ceil(titleWidth) + kTitleSurround : kSymbolSide;
     const double height = titled ? kTitledHeight : kSymbolSide;
-    const double right = x() + this->width();
-    setGeometry(QRectF(right - width, y - height / 2.0, width, height).toRect());
+    const double left = isRightToLeft() ? x() : x() + this->width() - width;
+    setGeometry(QRectF(left, y - height / 2.0, width, height).toRect());
 }
 
 int TamselTimeMenu::titleEnd() const
 {
-    return width() - kTitleRightInset;
+    return isRightToLeft() ? kTitleRightInset : width() - kTitleRightInset;
 }
 
 double TamselTimeMenu::outlineRadius() const
@@ -56,8 +57,9 @@ bool TamselTimeMenu::isExpanded() const
 void TamselTimeMenu::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QRectF icon(width() - kSymbolSide, (height() - kSymbolSide) / 2.0, kSymbolSide,
-                      kSymbolSide);
+    const bool mirrored = isRightToLeft();
+    const QRectF icon(mirrored ? 0.0 : width() - kSymbolSide, (height() - kSymbolSide) / 2.0,
+                      kSymbolSide, kSymbolSide);
     if (isExpanded())
         fillRounded(painter, rect(), kExpandedRadius, displayFill());
     else
@@ -65,9 +67,11 @@ void TamselTimeMenu::paintEvent(QPaintEvent *)
     if (!text().isEmpty()) {
         const double line = lineHeight(font());
         painter.setPen(hoverInk().isValid() ? hoverInk() : appearanceOf(this).controlTextColor());
-        painter.drawText(QRectF(0.0, (height() - line) / 2.0, titleEnd(), line),
-                         Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignTop | Qt::TextSingleLine,
-                         text());
+        const double top = (height() - line) / 2.0 - baselineShift(text(), font());
+        const double left = mirrored ? titleEnd() : 0.0;
+        const double right = mirrored ? width() : titleEnd();
+        painter.drawText(QRectF(left, top, right - left, line),
+                         Qt::AlignRight | Qt::AlignTop | Qt::TextSingleLine, text());
     }
     drawSymbolInRect(painter, icon);
 }

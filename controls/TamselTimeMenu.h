@@ -12,12 +12,12 @@ class TamselTimeMenu : public TamselSymbolButton
 public:
     explicit TamselTimeMenu(QWidget *parent = nullptr);
 
-    /// Sizes the menu for its title, keeps its right edge, and centres it vertically at \p y in the
-    /// parent's coordinates.
+    /// Sizes the menu for its title, keeps the edge at which its symbol is, and centres it
+    /// vertically at \p y in the parent's coordinates.
     void alignAtRowCenter(double y);
 
-    /// Where the title ends, in the menu's coordinates. Without a title it is where one would end
-    /// before the symbol, outside the menu.
+    /// Where the title ends before the symbol, in the menu's coordinates. Without a title it is
+    /// where one would end, outside the menu.
     int titleEnd() const;
 
 protected:

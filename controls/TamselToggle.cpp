@@ -3,6 +3,7 @@
 
 #include "controls/ControlAccessibility.h"
 #include "controls/FocusRing.h"
+#include "controls/Mirroring.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
@@ -68,5 +69,6 @@ void TamselToggle::paintEvent(QPaintEvent *)
     const double side = height() - 2.0 * kKnobInset;
     const double travel = width() - side - 2.0 * kKnobInset;
     const QRectF knob(kKnobInset + m_knobPosition * travel, kKnobInset, side, side);
+    mirrorFor(this, painter);
     fillRounded(painter, knob, side / 2.0, Qt::white);
 }

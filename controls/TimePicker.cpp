@@ -63,6 +63,8 @@ QString typedText(const QKeyEvent &event)
 TimePicker::TimePicker(QWidget *parent) : QTimeEdit(parent)
 {
     setAccessibleRole(this, QAccessible::SpinBox);
+    // In the other direction the toolkit would write the minutes first.
+    setLayoutDirection(Qt::LeftToRight);
     setFrame(false);
     setFocusPolicy(Qt::StrongFocus); // QTimeEdit also takes the focus by the wheel
     setButtonSymbols(QAbstractSpinBox::NoButtons);

@@ -8,6 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace host {
 
+using platform::Console;
+
 namespace {
 
 constexpr int kLargestSide = 16384; // in device pixels
@@ -24,8 +26,8 @@ struct Operands
 struct Option
 {
     QString name;
-    QString description;
-    QString valueName = {}; ///< null for a switch
+    const char *description; ///< to be translated
+    QString valueName = {};  ///< null for a switch
     /// The mode that the option asks for.
     std::optional<Mode> mode = {};
     Operands operands = {};
@@ -35,41 +37,69 @@ const QList<Option> &allOptions()
 {
     static const QList<Option> options{
         {u"root"_s,
-         u"Draw into the window that XSCREENSAVER_WINDOW names, or the root window."_s,
+         QT_TRANSLATE_NOOP(
+             "Console", "Draw into the window that XSCREENSAVER_WINDOW names, or the root window."),
          {},
          Mode::HostWindow},
-        {u"window-id"_s, u"Draw into the window ID as a settings thumbnail."_s, u"ID"_s,
+        {u"window-id"_s,
+         QT_TRANSLATE_NOOP("Console", "Draw into the window ID as a settings thumbnail."), u"ID"_s,
          Mode::HostWindow},
-        {u"window"_s, u"Show the clock in an ordinary window."_s, {}, Mode::Window},
-        {u"size"_s, u"Size of the window or picture in points."_s, u"WxH"_s},
-        {u"snapshot"_s, u"Write one frame to FILE as a PNG; needs no display."_s, u"FILE"_s,
-         Mode::Snapshot},
-        {u"scale"_s, u"Device pixels per point of the picture."_s, u"N"_s},
-        {u"at"_s, u"Local time of the picture, as 2026-03-14T22:08:30.5."_s, u"TIME"_s},
-        {u"preview"_s, u"Draw the picture as a settings thumbnail."_s},
+        {u"window"_s,
+         QT_TRANSLATE_NOOP("Console", "Show the clock in an ordinary window."),
+         {},
+         Mode::Window},
+        {u"size"_s, QT_TRANSLATE_NOOP("Console", "Size of the window or picture in points."),
+         u"WxH"_s},
+        {u"snapshot"_s,
+         QT_TRANSLATE_NOOP("Console", "Write one frame to FILE as a PNG; needs no display."),
+         u"FILE"_s, Mode::Snapshot},
+        {u"scale"_s, QT_TRANSLATE_NOOP("Console", "Device pixels per point of the picture."),
+         u"N"_s},
+        {u"at"_s,
+         QT_TRANSLATE_NOOP("Console", "Local time of the picture, as 2026-03-14T22:08:30.5."),
+         u"TIME"_s},
+        {u"preview"_s, QT_TRANSLATE_NOOP("Console", "Draw the picture as a settings thumbnail.")},
         {u"idle"_s,
-         u"Wait, and show the clock when the user is idle for [MINUTES], else for 4."_s,
+         QT_TRANSLATE_NOOP(
+             "Console",
+             "Wait, and show the clock when the user is idle for [MINUTES], else for 4."),
          {},
          Mode::Idle,
          {0, 1}},
-        {u"idle-at-login"_s, u"Let each session start with that waiting, \"on\" or \"off\"."_s,
+        {u"idle-at-login"_s,
+         QT_TRANSLATE_NOOP("Console",
+                           "Let each session start with that waiting, \"on\" or \"off\"."),
          u"on|off"_s, Mode::IdleAtLogin},
         {u"register-xscreensaver"_s,
-         u"Enter the clock in the list of savers in ~/.xscreensaver."_s,
+         QT_TRANSLATE_NOOP("Console", "Enter the clock in the list of savers in ~/.xscreensaver."),
          {},
          Mode::Register},
-        {u"unregister-xscreensaver"_s, u"Take the clock out of that list."_s, {}, Mode::Unregister},
+        {u"unregister-xscreensaver"_s,
+         QT_TRANSLATE_NOOP("Console", "Take the clock out of that list."),
+         {},
+         Mode::Unregister},
         {u"configure"_s,
-         u"Show the options; ends with 0 after OK, with 3 after Cancel."_s,
+         QT_TRANSLATE_NOOP("Console",
+                           "Show the options; ends with 0 after OK, with 3 after Cancel."),
          {},
          Mode::Configure},
-        {u"get"_s, u"Print the setting [KEY], or all with their keys."_s, {}, Mode::Get, {0, 1}},
-        {u"set"_s, u"Store a setting: KEY VALUE."_s, {}, Mode::Set, {2, 2}},
-        {u"sheet-snapshot"_s, u"Write the options sheet to FILE as a PNG; needs no display."_s,
+        {u"get"_s,
+         QT_TRANSLATE_NOOP("Console", "Print the setting [KEY], or all with their keys."),
+         {},
+         Mode::Get,
+         {0, 1}},
+        {u"set"_s,
+         QT_TRANSLATE_NOOP("Console", "Store a setting: KEY VALUE."),
+         {},
+         Mode::Set,
+         {2, 2}},
+        {u"sheet-snapshot"_s,
+         QT_TRANSLATE_NOOP("Console",
+                           "Write the options sheet to FILE as a PNG; needs no display."),
          u"FILE"_s, Mode::SheetSnapshot},
-        {u"dark"_s, u"Draw the options sheet in its dark appearance."_s},
-        {u"help"_s, u"Print this help."_s, {}, Mode::Help},
-        {u"version"_s, u"Print the version."_s, {}, Mode::Version},
+        {u"dark"_s, QT_TRANSLATE_NOOP("Console", "Draw the options sheet in its dark appearance.")},
+        {u"help"_s, QT_TRANSLATE_NOOP("Console", "Print this help."), {}, Mode::Help},
+        {u"version"_s, QT_TRANSLATE_NOOP("Console", "Print the version."), {}, Mode::Version},
     };
     return options;
 }
@@ -78,7 +108,7 @@ void addOptions(QCommandLineParser &parser)
 {
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const Option &option : allOptions())
-        parser.addOption({option.name, option.description, option.valueName});
+        parser.addOption({option.name, Console::tr(option.description), option.valueName});
 }
 
 std::optional<quint32> windowIdFrom(const QString &text)
@@ -135,7 +165,7 @@ void takeText(const QString &text, const QString &name, Read read, Target &targe
     if (const auto value = read(text))
         target = *value;
     else
-        error = u"bad value for --%1: '%2'"_s.arg(name, text);
+        error = Console::tr("bad value for --%1: '%2'").arg(name, text);
 }
 
 /// The same for the value of an option that may be given.
@@ -155,8 +185,9 @@ QString missingCompanion(const QCommandLineParser &parser, const QStringList &de
     if (std::ranges::any_of(wanted, isSet))
         return {};
     const auto alone = std::ranges::find_if(dependent, isSet);
-    return alone == dependent.end() ? QString()
-                                    : u"--%1 needs --%2"_s.arg(*alone, wanted.join(" or --"_L1));
+    return alone == dependent.end()
+               ? QString()
+               : Console::tr("--%1 needs --%2").arg(*alone, wanted.join(Console::tr(" or --")));
 }
 
 /// An error text when two options ask for different modes, else null.
@@ -167,7 +198,7 @@ QString conflict(const QCommandLineParser &parser)
         if (!option.mode || !parser.isSet(option.name))
             continue;
         if (first && first->mode != option.mode)
-            return u"--%1 and --%2 exclude each other"_s.arg(first->name, option.name);
+            return Console::tr("--%1 and --%2 exclude each other").arg(first->name, option.name);
         first = &option;
     }
     return {};
@@ -208,8 +239,8 @@ QString operandsFault(const QCommandLineParser &parser)
     const Option *option = modeOption(parser);
     const Operands wanted = option ? option->operands : Operands();
     if (given.size() > wanted.most)
-        return u"unexpected argument '%1'"_s.arg(given[wanted.most]);
-    return given.size() < wanted.least ? u"--%1 needs KEY and VALUE"_s.arg(option->name)
+        return Console::tr("unexpected argument '%1'").arg(given[wanted.most]);
+    return given.size() < wanted.least ? Console::tr("--%1 needs KEY and VALUE").arg(option->name)
                                        : QString();
 }
 
@@ -217,7 +248,7 @@ QString operandsFault(const QCommandLineParser &parser)
 QString oneLine(QString text)
 {
     text.replace(u'\n', u' ');
-    while (text.endsWith(u'.'))
+    while (text.endsWith(u'.') || text.endsWith(u'。'))
         text.chop(1);
     return text.isEmpty() ? text : text.at(0).toLower() + text.mid(1);
 }
@@ -273,8 +304,8 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments,
     options.settingText = operands.value(1);
     const double longSide = std::max(options.size.width(), options.size.height());
     if (error.isEmpty() && longSide * options.scale > kLargestSide)
-        error =
-            u"a picture of that --size and --scale is larger than %1 pixels"_s.arg(kLargestSide);
+        error = Console::tr("a picture of that --size and --scale is larger than %1 pixels")
+                    .arg(kLargestSide);
     if (!error.isEmpty())
         return UsageError{error};
 
@@ -291,8 +322,9 @@ QString helpText()
     QCommandLineParser parser;
     addOptions(parser);
     parser.setApplicationDescription(
-        u"One large, flat wall clock that fills an idle screen. Without an option it covers every\n"
-        "screen and ends on a key, a button or a movement of the pointer."_s);
+        Console::tr("One large, flat wall clock that fills an idle screen. Without an option it "
+                    "covers every\nscreen and ends on a key, a button or a movement of the "
+                    "pointer."));
     return parser.helpText();
 }
 

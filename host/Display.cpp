@@ -9,8 +9,6 @@
 #include <cstdlib>
 #include <optional>
 
-using namespace Qt::StringLiterals;
-
 namespace host {
 
 namespace {
@@ -73,8 +71,10 @@ bool xWindowExists(const platform::DisplayConnection &x, quint32 id)
 
 int complainWithoutDisplay()
 {
-    return platform::complain(
-        u"no display: neither a Wayland compositor nor an X server answers"_s);
+    return platform::complain([] {
+        return platform::Console::tr(
+            "no display: neither a Wayland compositor nor an X server answers");
+    });
 }
 
 } // namespace host

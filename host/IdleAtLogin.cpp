@@ -2,6 +2,7 @@
 #include "host/IdleAtLogin.h"
 
 #include "platform/Bundle.h"
+#include "platform/ExitStatus.h"
 #include "platform/FileReplacement.h"
 
 #include <QFile>
@@ -11,6 +12,8 @@
 using namespace Qt::StringLiterals;
 
 namespace host {
+
+using platform::Console;
 
 namespace {
 
@@ -48,12 +51,14 @@ QString startWaitingAtLogin(bool wanted)
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/autostart"_L1;
     const QString path = folder + "/org.tamsel.clock.idle.desktop"_L1;
     if (!wanted)
-        return !QFileInfo::exists(path) || QFile::remove(path) ? QString()
-                                                               : u"cannot remove %1"_s.arg(path);
+        return !QFileInfo::exists(path) || QFile::remove(path)
+                   ? QString()
+                   : Console::tr("cannot remove %1").arg(path);
     platform::makePrivateFolder(folder);
     platform::FileReplacement replacement(path);
-    return replacement.write(entry()) && replacement.commit() ? QString()
-                                                              : u"cannot write %1"_s.arg(path);
+    return replacement.write(entry()) && replacement.commit()
+               ? QString()
+               : Console::tr("cannot write %1").arg(path);
 }
 
 } // namespace host

@@ -22,6 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace host {
 
+using platform::Console;
+
 namespace {
 
 constexpr double kSecondsPerMinute = 60.0;
@@ -59,9 +61,9 @@ int waitForIdleUser(double minutes, int argc, char **argv)
     const QString lockPath = idleLockPath();
     const platform::FileLock only(lockPath, std::chrono::milliseconds(0));
     if (only.isTaken())
-        return platform::complain(u"already waiting in this session"_s);
+        return platform::complain([] { return Console::tr("already waiting in this session"); });
     if (!only.isHeld())
-        return platform::complain(u"cannot lock %1"_s.arg(lockPath));
+        return platform::complain([&] { return Console::tr("cannot lock %1").arg(lockPath); });
 
     const platform::Clocks &clocks = platform::systemClocks();
     const double seconds = minutes * kSecondsPerMinute;
@@ -69,8 +71,8 @@ int waitForIdleUser(double minutes, int argc, char **argv)
     QObject::connect(&display, &DisplayLifeline::ended, &application,
                      [] { QCoreApplication::exit(platform::kSuccess); });
     QObject::connect(&service, &IdleService::helpless, &application, [] {
-        QCoreApplication::exit(
-            platform::complain(u"nothing in this session tells when the user is idle"_s));
+        QCoreApplication::exit(platform::complain(
+            [] { return Console::tr("nothing in this session tells when the user is idle"); }));
     });
     QMetaObject::invokeMethod(&service, &IdleService::start, Qt::QueuedConnection);
     return QCoreApplication::exec();

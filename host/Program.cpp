@@ -20,6 +20,7 @@
 #include "platform/LoginSession.h"
 #include "platform/SingleWindow.h"
 #include "platform/Toolkit.h"
+#include "platform/Translations.h"
 #include "saver/TamselScheduledSaverView.h"
 
 #include <QApplication>
@@ -30,6 +31,7 @@ using namespace Qt::StringLiterals;
 namespace host {
 
 using platform::complain;
+using platform::Console;
 using platform::kCancelled;
 using platform::kSuccess;
 
@@ -78,22 +80,26 @@ private:
 
 int failWithoutWindow(quint32 window)
 {
-    return complain(u"there is no window 0x%1"_s.arg(window, 0, 16));
+    return complain([&] { return Console::tr("there is no window 0x%1").arg(window, 0, 16); });
 }
 
 int failWithoutResources(const Application &application)
 {
-    return complain(u"the clock's resources are missing: %1"_s.arg(
-        application.desktop().bundle.resourcesPath()));
+    return complain([&] {
+        return Console::tr("the clock's resources are missing: %1")
+            .arg(application.desktop().bundle.resourcesPath());
+    });
 }
 
 int savePicture(const QImage &picture, const Options &options)
 {
     if (picture.isNull())
-        return complain(u"not enough memory for the picture"_s);
+        return complain([] { return Console::tr("not enough memory for the picture"); });
     const QString fault = writePicture(picture, options.pictureFile);
-    return fault.isNull() ? kSuccess
-                          : complain(u"cannot write %1: %2"_s.arg(options.pictureFile, fault));
+    if (fault.isNull())
+        return kSuccess;
+    return complain(
+        [&] { return Console::tr("cannot write %1: %2").arg(options.pictureFile, fault); });
 }
 
 int runSnapshot(const Options &options, const Application &application)
@@ -106,6 +112,7 @@ int runSnapshot(const Options &options, const Application &application)
 int runSheetSnapshot(const Options &options, const Application &application)
 {
     using Scheme = platform::Appearance::Scheme;
+    platform::useLanguage();
     platform::Appearance::shared().setForcedScheme(options.dark ? Scheme::Dark : Scheme::Light);
     const auto view = application.makeView(false);
     return savePicture(pictureOfSheet(*view, options.scale), options);
@@ -113,6 +120,7 @@ int runSheetSnapshot(const Options &options, const Application &application)
 
 int runConfigure(const Application &application)
 {
+    platform::useLanguage();
     const platform::SingleWindow single(application.desktop(), u"configuration"_s);
     if (!single.isOnlyOne()) {
         single.bringOtherToFront();
@@ -153,7 +161,7 @@ int inHostWindow(const Options &options, int argc, char **argv)
 {
     auto connection = platform::connectToXServer();
     if (!connection)
-        return complain(u"no X display can be reached"_s);
+        return complain([] { return Console::tr("no X display can be reached"); });
     const quint32 window = options.hostWindow ? *options.hostWindow : xRootWindow(connection);
     if (!xWindowExists(connection, window))
         return failWithoutWindow(window);
@@ -194,6 +202,7 @@ template <typename Change>
 int withoutWindows(Change change, int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    platform::useLanguage();
     const QString fault = change();
     return fault.isNull() ? kSuccess : complain(fault);
 }
@@ -211,6 +220,7 @@ int run(const Options &options, int argc, char **argv)
     switch (options.mode) {
     case Mode::Help: {
         const QCoreApplication application(argc, argv);
+        platform::useLanguage();
         return platform::print(helpText());
     }
     case Mode::Version:

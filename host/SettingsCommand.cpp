@@ -9,9 +9,9 @@
 
 #include <QCoreApplication>
 
-using namespace Qt::StringLiterals;
-
 namespace host {
+
+using platform::Console;
 
 namespace {
 
@@ -20,7 +20,8 @@ constexpr std::chrono::seconds kLongestWait(2);
 
 int complainOfName(const QString &name)
 {
-    return platform::complain(u"there is no setting '%1'"_s.arg(name), platform::kWrongUsage);
+    return platform::complain([&] { return Console::tr("there is no setting '%1'").arg(name); },
+                              platform::kWrongUsage);
 }
 
 } // namespace
@@ -51,8 +52,9 @@ int changeSetting(const QString &name, const QString &text, int argc, char **arg
         return complainOfName(name);
     const auto value = settingFromText(name, text);
     if (!value) {
-        return platform::complain(u"bad value for %1: '%2'"_s.arg(name, text),
-                                  platform::kWrongUsage);
+        return platform::complain(
+            [&] { return Console::tr("bad value for %1: '%2'").arg(name, text); },
+            platform::kWrongUsage);
     }
     platform::DistributedNotifications notifications;
     platform::Desktop desktop;
@@ -64,7 +66,7 @@ int changeSetting(const QString &name, const QString &text, int argc, char **arg
         storeSetting(preferences, name, *value);
         outcome = preferences.endSave();
     }
-    return outcome ? platform::kSuccess : platform::complain(outcome.text());
+    return outcome ? platform::kSuccess : platform::complain([&] { return outcome.text(); });
 }
 
 } // namespace host

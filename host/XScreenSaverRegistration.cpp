@@ -18,6 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace host {
 
+using platform::Console;
+
 namespace {
 
 /// The command for the running program: its bare name if that is found in PATH.
@@ -37,7 +39,7 @@ QString replaceFile(const QString &path, const QByteArray &contents)
     const QFileInfo old(path);
     const bool existed = old.exists();
     const QFile::Permissions permissions = old.permissions();
-    QString fault = u"cannot write %1"_s.arg(path);
+    QString fault = Console::tr("cannot write %1").arg(path);
     if (contents.isEmpty())
         return !existed || QFile::remove(path) ? QString() : fault;
     platform::FileReplacement replacement(path);
@@ -59,13 +61,13 @@ QString registerWithXScreenSaver(Registration wanted)
     const auto text =
         QFileInfo::exists(path) ? platform::readSmallFile(path) : std::optional(QByteArray());
     if (!text)
-        return u"cannot read %1"_s.arg(listed);
+        return Console::tr("cannot read %1").arg(listed);
     QByteArray changed;
     if (wanted == Registration::Listed) {
         const QByteArray program = ownProgram();
         if (program.isEmpty()) {
-            return u"XScreenSaver cannot run a program of that name: %1"_s.arg(
-                QCoreApplication::applicationFilePath());
+            return Console::tr("XScreenSaver cannot run a program of that name: %1")
+                .arg(QCoreApplication::applicationFilePath());
         }
         changed = withClockListed(*text, program);
     } else {

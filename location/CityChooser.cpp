@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -18,22 +19,27 @@ namespace location {
 
 namespace {
 
-constexpr int kRowsShown = 6;
+constexpr int kRowsShown = 7;
 constexpr int kRowHeight = 26;
 
 } // namespace
 
 CityChooser::CityChooser(const ZoneCities &cities, QWidget *parent)
-    : QWidget(parent), m_cities(cities), m_field(new QLineEdit(this)), m_list(new QListWidget(this))
+    : QWidget(parent), m_cities(cities), m_field(new QLineEdit(this)),
+      m_list(new QListWidget(this)), m_nothingFound(new QLabel(tr("No city found"), m_list))
 {
-    m_field->setPlaceholderText(u"Search for a city or country"_s);
-    m_field->setAccessibleName(u"Search for a city or country"_s);
+    m_field->setPlaceholderText(tr("Search for a city or country"));
+    m_field->setAccessibleName(tr("Search for a city or country"));
     m_field->setClearButtonEnabled(true);
     m_field->setMinimumHeight(kControlHeight);
     m_field->installEventFilter(this);
-    m_list->setAccessibleName(u"Cities"_s);
+    m_list->setAccessibleName(tr("Cities"));
     m_list->setUniformItemSizes(true);
-    m_list->setMinimumHeight(kRowsShown * kRowHeight);
+    m_list->setFixedHeight(kRowsShown * kRowHeight + 2 * m_list->frameWidth()); // whole rows only
+    m_nothingFound->setAlignment(Qt::AlignCenter);
+    m_nothingFound->setForegroundRole(QPalette::PlaceholderText);
+    auto *centred = new QVBoxLayout(m_list);
+    centred->addWidget(m_nothingFound);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(kControlSpacing);
@@ -63,6 +69,9 @@ void CityChooser::search(const QString &query)
         item->setSizeHint({0, kRowHeight});
     }
     m_list->setCurrentRow(-1);
+    m_nothingFound->setVisible(m_found.isEmpty());
+    if (m_found.isEmpty())
+        announce(m_nothingFound);
 }
 
 void CityChooser::reportCurrent()

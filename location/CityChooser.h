@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 
@@ -39,6 +40,7 @@ private:
     QList<ZoneCity> m_found;
     QLineEdit *m_field;
     QListWidget *m_list;
+    QLabel *m_nothingFound;
 };
 
 } // namespace location

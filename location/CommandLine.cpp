@@ -9,6 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace location {
 
+using platform::Console;
+
 namespace {
 
 std::variant<Options, UsageError> setOptions(const QString &value)
@@ -16,7 +18,8 @@ std::variant<Options, UsageError> setOptions(const QString &value)
     if (const auto location = locationFrom(value))
         return Options{Mode::Set, *location};
     return UsageError{
-        u"'%1' is no LAT,LON in degrees, such as 60.17,24.94 or -33.87,151.21"_s.arg(value)};
+        Console::tr("'%1' is no LAT,LON in degrees, such as 60.17,24.94 or -33.87,151.21")
+            .arg(value)};
 }
 
 } // namespace
@@ -34,31 +37,31 @@ std::variant<Options, UsageError> parseCommandLine(const QStringList &arguments)
     if (option == "--set"_L1 && arguments.size() == 3)
         return setOptions(arguments[2]);
     if (option == "--set"_L1)
-        return UsageError{u"--set wants one LAT,LON"_s};
+        return UsageError{Console::tr("--set wants one LAT,LON")};
     if (arguments.size() > 2)
-        return UsageError{u"too many arguments; see --help"_s};
+        return UsageError{Console::tr("too many arguments; see --help")};
     if (arguments.size() < 2)
         return Options{};
     const auto mode = kModes.find(option);
     if (mode == kModes.end())
-        return UsageError{u"unknown option '%1'; see --help"_s.arg(option)};
+        return UsageError{Console::tr("unknown option '%1'; see --help").arg(option)};
     return Options{*mode};
 }
 
 QString helpText()
 {
-    return uR"(Usage: pelko-location [OPTION]
-Chooses the place whose sunrise and sunset the clock follows. The location stays on this computer.
-
-Without an option a window opens.
-  --set LAT,LON  Save a location in degrees, north and east positive: --set 60.17,24.94
-  --show         Print the saved location and today's sunrise and sunset.
-  --forget       Remove the saved location.
-  --help         Print this help.
-  --version      Print the version.
-
-Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong usage.
-)"_s;
+    return Console::tr(
+        "Usage: pelko-location [OPTION]\n"
+        "Chooses the place whose sunrise and sunset the clock follows. The location stays on this "
+        "computer.\n\n"
+        "Without an option a window opens.\n"
+        "  --set LAT,LON  Save a location in degrees, north and east positive: --set 60.17,24.94\n"
+        "  --show         Print the saved location and today's sunrise and sunset.\n"
+        "  --forget       Remove the saved location.\n"
+        "  --help         Print this help.\n"
+        "  --version      Print the version.\n\n"
+        "Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong "
+        "usage.\n");
 }
 
 } // namespace location

@@ -35,8 +35,10 @@ QString faultOf(const QLineEdit *field, Axis axis)
     if (field->text().trimmed().isEmpty() || degreesFrom(field->text(), axis))
         return {};
     return axis == Axis::Latitude
-               ? u"A latitude is a number of degrees from −90 to 90, such as 60.17 or 33.87 S."_s
-               : u"A longitude is a number of degrees from −180 to 180, such as 24.94 or 70.5 W."_s;
+               ? CoordinateFields::tr(
+                     "A latitude is a number of degrees from −90 to 90, such as 60.17 or 33.87 S.")
+               : CoordinateFields::tr("A longitude is a number of degrees from −180 to 180, such "
+                                      "as 24.94 or 70.5 W.");
 }
 
 /// Marks \p field as faulty, or as faultless when \p fault is null.
@@ -56,8 +58,8 @@ CoordinateFields::CoordinateFields(QWidget *parent) : QWidget(parent), m_fault(n
     layout->setContentsMargins({});
     layout->setHorizontalSpacing(kControlSpacing);
     layout->setVerticalSpacing(kControlSpacing / 2);
-    m_latitude = addField(layout, 0, u"L&atitude"_s, u"60.17"_s);
-    m_longitude = addField(layout, 1, u"L&ongitude"_s, u"24.94"_s);
+    m_latitude = addField(layout, 0, tr("L&atitude"), u"60.17"_s);
+    m_longitude = addField(layout, 1, tr("L&ongitude"), u"24.94"_s);
     m_fault->setWordWrap(true);
     m_fault->hide();
     layout->addWidget(m_fault, 2, 0, 1, 2);

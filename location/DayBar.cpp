@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "location/DayBar.h"
 
+#include "controls/Mirroring.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
@@ -47,11 +48,13 @@ QPainterPath litParts(const QRectF &bar, QTime sunrise, QTime sunset)
 void drawLabels(QPainter &painter, const QRectF &bar)
 {
     const QLocale locale = QLocale::system();
+    const bool mirrored = painter.layoutDirection() == Qt::RightToLeft;
     const QFontMetricsF metrics(painter.font());
     for (int hour = 0; hour <= 24; hour += kHoursBetweenLabels) {
         const QString text = locale.toString(hour);
         const double width = metrics.horizontalAdvance(text);
-        const double x = bar.left() + bar.width() * hour / 24.0 - width * hour / 24.0;
+        const double part = (mirrored ? 24 - hour : hour) / 24.0;
+        const double x = bar.left() + (bar.width() - width) * part;
         painter.drawText(QPointF(x, bar.bottom() + kLabelGap + metrics.ascent()), text);
     }
 }
@@ -81,12 +84,15 @@ void DayBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.save();
+    mirrorFor(this, painter);
     const QRectF bar(0.0, 0.0, width(), kBarHeight);
     QPainterPath track;
     track.addRoundedRect(bar, kBarHeight / 2.0, kBarHeight / 2.0);
     painter.fillPath(track, withAlpha(palette().color(QPalette::WindowText), kNightOpacity));
     if (m_sunrise && m_sunset)
         painter.fillPath(track & litParts(bar, *m_sunrise, *m_sunset), kDaylight);
+    painter.restore();
     painter.setPen(platform::Appearance::shared().secondaryLabelColor());
     drawLabels(painter, bar);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "location/LocationWindow.h"
 
+#include "controls/Alert.h"
 #include "controls/ControlFont.h"
 #include "controls/OverlayScrollArea.h"
 #include "location/CityChooser.h"
@@ -20,6 +21,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace location {
@@ -29,6 +32,11 @@ namespace {
 constexpr int kWidth = 440;
 constexpr double kTitleSize = 20.0;
 constexpr std::chrono::milliseconds kNoWaiting(0);
+
+/// Edges in the colours %1 and, with the focus, %2.
+const QString kFieldStyle = u"QLineEdit, QListWidget { border: 1px solid %1; border-radius: 4px; }"
+                            "QLineEdit { padding: 0 6px; }"
+                            "QLineEdit:focus, QListWidget:focus { border-color: %2; }"_s;
 
 } // namespace
 
@@ -82,16 +90,18 @@ QWidget *LocationWindow::makeContent()
     layout->addWidget(makeIntroduction());
     layout->addWidget(m_card);
     layout->addWidget(m_finder);
-    layout->addWidget(m_chooser, 1);
+    layout->addWidget(m_chooser);
     layout->addWidget(m_coordinates);
+    layout->addStretch();
     return content;
 }
 
 /// Enlarges the window for a message as far as the screen allows.
 void LocationWindow::growToContent()
 {
-    const int needed =
-        m_area->widget()->heightForWidth(width()) + m_saveBar->heightForWidth(width());
+    // The bar has no height for a width while it says nothing.
+    const int bar = std::max(m_saveBar->heightForWidth(width()), m_saveBar->sizeHint().height());
+    const int needed = m_area->widget()->heightForWidth(width()) + bar;
     const QRect frame =
         platform::frameOnScreen(geometry(), needed, screen()->availableGeometry()).toRect();
     if (frame.height() > height())
@@ -103,7 +113,9 @@ void LocationWindow::showEvent(QShowEvent *event)
 {
     const QPoint before = pos();
     QDialog::showEvent(event);
-    if (pos() == before)
+    const bool isPlaced = pos() == before;
+    growToContent();
+    if (isPlaced)
         return;
     QRect frame = geometry();
     frame.moveCenter(screen()->availableGeometry().center());
@@ -120,10 +132,10 @@ bool LocationWindow::eventFilter(QObject *watched, QEvent *event)
 QWidget *LocationWindow::makeIntroduction()
 {
     auto *introduction = new QWidget(this);
-    auto *title = new QLabel(u"Where does your sun rise?"_s);
+    auto *title = new QLabel(tr("Where does your sun rise?"));
     title->setFont(platform::systemFont(kTitleSize, QFont::DemiBold));
-    auto *text = new QLabel(u"The clock needs your location to change to its night colours at "
-                            u"sunset and back at sunrise. It stays on this computer."_s);
+    auto *text = new QLabel(tr("The clock needs your location to change to its night colours at "
+                               "sunset and back at sunrise. It stays on this computer."));
     text->setWordWrap(true);
     auto *layout = new QVBoxLayout(introduction);
     layout->setContentsMargins({});
@@ -135,10 +147,16 @@ QWidget *LocationWindow::makeIntroduction()
 
 void LocationWindow::connectParts()
 {
-    connect(m_finder, &ServiceFinder::found, this, &LocationWindow::chooseFound);
+    connect(m_finder, &ServiceFinder::found, this, [this](const SolarLocation &location) {
+        chooseFound(location);
+        m_isOwnChoice = true;
+        if (m_choice != m_saved)
+            m_saveBar->tell(tr("Found, but not saved yet."));
+    });
     connect(m_chooser, &CityChooser::chosen, this, [this](const ZoneCity &city) {
         m_finder->cancel();
         chooseCity(city);
+        m_isOwnChoice = true;
         m_area->reveal(m_chooser); // the arrow keys move in the list from the field above it
     });
     connect(m_chooser, &CityChooser::confirmed, m_saveBar->saveButton(),
@@ -148,6 +166,7 @@ void LocationWindow::connectParts()
                 m_finder->cancel();
                 m_chooser->setCity(std::nullopt);
                 choose(location);
+                m_isOwnChoice = true;
             });
     connect(m_saveBar->forgetButton(), &QPushButton::clicked, this, &LocationWindow::forget);
     connect(m_saveBar->closeButton(), &QPushButton::clicked, this, &LocationWindow::reject);
@@ -162,7 +181,7 @@ void LocationWindow::suggest(const QString &systemZone)
         m_saveBar->tell({});
     } else if (const auto city = m_cities.ofZone(systemZone)) {
         chooseCity(*city);
-        m_saveBar->tell(u"Suggested by your time zone; nothing is saved yet."_s);
+        m_saveBar->tell(tr("Suggested by your time zone; nothing is saved yet."));
     } else {
         choose(std::nullopt);
     }
@@ -204,19 +223,39 @@ void LocationWindow::save()
     if (!m_choice)
         return;
     write([this, location = *m_choice] { return m_store.save(location, kNoWaiting); },
-          u"Saved. Clocks that are running follow at once."_s);
+          tr("Saved. Clocks that are running follow at once."));
+}
+
+void LocationWindow::reject()
+{
+    if (!m_isOwnChoice || !m_choice || m_choice == m_store.load()) {
+        QDialog::reject();
+        return;
+    }
+    auto *question =
+        new Alert(tr("Save this place?"), tr("The place that you chose is not saved yet."), this);
+    question->addButton(tr("Save"), [this] {
+        m_endsWhenSaved = true;
+        save();
+    });
+    question->addButton(tr("Don't save"), [this] { QDialog::reject(); });
+    question->addButton(tr("Cancel"));
+    question->present();
 }
 
 void LocationWindow::forget()
 {
     write([this] { return m_store.forget(kNoWaiting); },
-          u"Forgotten. A clock that is running keeps its sun times until it ends."_s);
+          tr("Forgotten. A clock that is running keeps its sun times until it ends."));
 }
 
 void LocationWindow::write(const platform::PatientWrite::Attempt &attempt, const QString &done)
 {
     m_write.start(attempt, [this, done](const platform::StoreOutcome &outcome) {
-        if (outcome)
+        const bool ends = std::exchange(m_endsWhenSaved, false);
+        if (outcome && ends)
+            QDialog::reject();
+        else if (outcome)
             m_saveBar->tell(done);
         else
             m_saveBar->tell(outcome.text() + u'.', SaveBar::Tone::Fault);
@@ -239,16 +278,20 @@ void LocationWindow::followStore()
     if (m_saved == known)
         return;
     if (!m_saved)
-        m_saveBar->tell(u"Another program forgot the saved location."_s);
+        m_saveBar->tell(tr("Another program forgot the saved location."));
     else if (m_saved == m_choice)
-        m_saveBar->tell(u"Another program saved this place."_s);
+        m_saveBar->tell(tr("Another program saved this place."));
     else
-        m_saveBar->tell(u"Another program saved another place."_s);
+        m_saveBar->tell(tr("Another program saved another place."));
 }
 
 void LocationWindow::followAppearance()
 {
-    setPalette(platform::Appearance::shared().palette());
+    const platform::Appearance &appearance = platform::Appearance::shared();
+    setPalette(appearance.palette());
+    // The toolkit's own edges are hardly seen in dark.
+    setStyleSheet(
+        kFieldStyle.arg(appearance.edgeColor().name(), appearance.controlAccentColor().name()));
     m_coordinates->followAppearance();
     m_saveBar->followAppearance();
 }

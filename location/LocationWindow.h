@@ -37,6 +37,9 @@ public:
     /// The place that Save would save.
     const std::optional<SolarLocation> &choice() const { return m_choice; }
 
+    /// Ends the window; first asks what to do with a place that the user chose and did not save.
+    void reject() override;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
@@ -74,6 +77,9 @@ private:
     std::optional<SolarLocation> m_choice;
     /// The saved place when it was last read.
     std::optional<SolarLocation> m_saved;
+    /// The choice is the user's, neither a suggestion nor what was saved.
+    bool m_isOwnChoice = false;
+    bool m_endsWhenSaved = false;
     PlaceCard *m_card;
     ServiceFinder *m_finder;
     CityChooser *m_chooser;

@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -28,18 +29,21 @@ constexpr double kCardOpacity = 0.05;
 QString sunText(const std::optional<Place> &place)
 {
     if (!place)
-        return u"Choose a place to see its sunrise and sunset."_s;
+        return PlaceCard::tr("Choose a place to see its sunrise and sunset.");
     if (!place->sunrise || !place->sunset)
-        return u"The sun does not rise or set there today, so it cannot begin or end a night."_s;
-    return u"Today: sunrise %1, sunset %2%3"_s.arg(
-        platform::shortTimeText(*place->sunrise), platform::shortTimeText(*place->sunset),
-        place->hasOtherTime ? u" by this computer's clock"_s : QString());
+        return PlaceCard::tr(
+            "The sun does not rise or set there today, so it cannot begin or end a night.");
+    const QString text =
+        place->hasOtherTime ? PlaceCard::tr("Today: sunrise %1, sunset %2 by this computer's clock")
+                            : PlaceCard::tr("Today: sunrise %1, sunset %2");
+    return text.arg(platform::shortTimeText(*place->sunrise),
+                    platform::shortTimeText(*place->sunset));
 }
 
 QString nameText(const std::optional<Place> &place)
 {
     if (!place)
-        return u"No place chosen"_s;
+        return PlaceCard::tr("No place chosen");
     return place->name.isNull() ? coordinatesText(place->location) : place->name;
 }
 
@@ -51,6 +55,10 @@ PlaceCard::PlaceCard(QWidget *parent)
 {
     m_name->setFont(platform::systemFont(kNameSize, QFont::DemiBold));
     m_coordinates->setForegroundRole(QPalette::PlaceholderText);
+    // A name in Latin letters, too, begins at the edge at which the card is read.
+    for (QLabel *label : {m_name, m_coordinates})
+        label->setAlignment(
+            QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter));
     m_sun->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -61,7 +69,7 @@ PlaceCard::PlaceCard(QWidget *parent)
     layout->addWidget(m_sun);
     layout->addSpacing(kSpacing);
     layout->addWidget(m_bar);
-    setAccessibleName(u"Chosen place"_s);
+    setAccessibleName(tr("Chosen place"));
     setPlace(std::nullopt);
 }
 
@@ -70,6 +78,7 @@ void PlaceCard::setPlace(const std::optional<Place> &place)
     m_name->setText(nameText(place));
     m_coordinates->setText(place && !place->name.isNull() ? coordinatesText(place->location)
                                                           : QString());
+    m_coordinates->setVisible(!m_coordinates->text().isEmpty());
     m_sun->setText(sunText(place));
     m_bar->setDaylight(place ? place->sunrise : std::nullopt, place ? place->sunset : std::nullopt);
     setAccessibleDescription(

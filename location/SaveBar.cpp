@@ -13,10 +13,11 @@ using namespace Qt::StringLiterals;
 namespace location {
 
 SaveBar::SaveBar(QWidget *parent)
-    : QWidget(parent), m_message(new QLabel), m_forget(new QPushButton(u"Fo&rget location"_s)),
-      m_close(new QPushButton(u"&Close"_s)), m_save(new QPushButton(u"&Save"_s))
+    : QWidget(parent), m_message(new QLabel), m_forget(new QPushButton(tr("Fo&rget location"))),
+      m_close(new QPushButton(tr("&Close"))), m_save(new QPushButton(tr("&Save")))
 {
     m_message->setWordWrap(true);
+    m_message->setMinimumHeight(fontMetrics().lineSpacing());
     m_forget->setAutoDefault(false);
     m_close->setAutoDefault(false);
     m_save->setDefault(true);

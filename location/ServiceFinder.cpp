@@ -19,13 +19,16 @@ namespace {
 
 constexpr int kProgressHeight = 4;
 
-const QString kFindText = u"&Find my location"_s;
+QString findText()
+{
+    return ServiceFinder::tr("&Find my location");
+}
 
 } // namespace
 
 ServiceFinder::ServiceFinder(const platform::Clocks &clocks, QWidget *parent)
     : QWidget(parent), m_clocks(clocks), m_service(QString(kLocationDesktopId)),
-      m_button(new QPushButton(kFindText, this)), m_progress(new QProgressBar(this)),
+      m_button(new QPushButton(findText(), this)), m_progress(new QProgressBar(this)),
       m_message(new QLabel(this))
 {
     using platform::LocationService;
@@ -34,7 +37,7 @@ ServiceFinder::ServiceFinder(const platform::Clocks &clocks, QWidget *parent)
     m_progress->setRange(0, 0);
     m_progress->setTextVisible(false);
     m_progress->setFixedHeight(kProgressHeight);
-    m_progress->setAccessibleName(u"Finding your location"_s);
+    m_progress->setAccessibleName(tr("Finding your location"));
     m_progress->hide();
     m_message->setWordWrap(true);
     m_message->hide();
@@ -46,18 +49,20 @@ ServiceFinder::ServiceFinder(const platform::Clocks &clocks, QWidget *parent)
 
     connect(m_button, &QPushButton::clicked, this, &ServiceFinder::toggle);
     connect(&m_service, &LocationService::updated, this, &ServiceFinder::consider);
-    connect(&m_service, &LocationService::authorizationChanged, this,
-            [this](platform::LocationAuthorization authorization) {
-                if (authorization == platform::LocationAuthorization::Restricted)
-                    end(u"The desktop does not give locations to programs now. Switch its location "
-                        u"service on and try again, or choose a city."_s);
-                else
-                    m_message->setText(u"Finding your location… You can choose a city instead."_s);
-            });
+    connect(
+        &m_service, &LocationService::authorizationChanged, this,
+        [this](platform::LocationAuthorization authorization) {
+            if (authorization == platform::LocationAuthorization::Restricted)
+                end(tr("The desktop does not give locations to programs now. Switch its location "
+                       "service on and try again, or choose a city."));
+            else
+                m_message->setText(tr("Finding your location… You can choose a city instead."));
+        });
     connect(&m_service, &LocationService::failed, this, [this](platform::LocationError error) {
         end(error == platform::LocationError::Denied
-                ? u"Access to your location was refused. Allow it and try again, or choose a city."_s
-                : u"No location service answered. Try again, or choose a city."_s);
+                ? tr("Access to your location was refused. Allow it and try again, or choose a "
+                     "city.")
+                : tr("No location service answered. Try again, or choose a city."));
     });
 }
 
@@ -71,9 +76,9 @@ void ServiceFinder::toggle()
 
 void ServiceFinder::begin()
 {
-    m_button->setText(u"Stop &finding"_s);
+    m_button->setText(tr("Stop &finding"));
     m_progress->setVisible(!platform::Appearance::shared().reducedMotion());
-    m_message->setText(u"Asking for your consent… You can choose a city instead."_s);
+    m_message->setText(tr("Asking for your consent… You can choose a city instead."));
     m_message->show();
     m_service.startUpdating();
 }
@@ -86,7 +91,7 @@ void ServiceFinder::cancel()
 
 void ServiceFinder::end(const QString &text)
 {
-    m_button->setText(kFindText);
+    m_button->setText(findText());
     m_progress->hide();
     m_message->setText(text);
     m_message->setVisible(!text.isEmpty());

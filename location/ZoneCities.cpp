@@ -160,7 +160,7 @@ QString ZoneCities::placeName(const SolarLocation &location) const
     const auto city = nearestTo(location);
     if (!city || distance(location, city->location) > kNear)
         return {};
-    return city->location == location ? city->fullName() : u"Near %1"_s.arg(city->fullName());
+    return city->location == location ? city->fullName() : tr("Near %1").arg(city->fullName());
 }
 
 } // namespace location

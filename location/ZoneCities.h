@@ -3,6 +3,7 @@
 
 #include "night/SolarLocation.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QHash>
 #include <QList>
@@ -31,6 +32,8 @@ struct ZoneCity
 /// service.
 class ZoneCities
 {
+    Q_DECLARE_TR_FUNCTIONS(ZoneCities)
+
 public:
     /// From the contents of zone.tab, iso3166.tab (countries by code) and tzdata.zi (other names of
     /// zones). Malformed lines are skipped.

@@ -10,12 +10,14 @@
 #include "platform/ShortTime.h"
 #include "platform/SingleWindow.h"
 #include "platform/Toolkit.h"
+#include "platform/Translations.h"
 
 #include <QApplication>
 #include <QTimeZone>
 
 using namespace Qt::StringLiterals;
 using location::Mode;
+using platform::Console;
 
 namespace {
 
@@ -32,10 +34,11 @@ QString sunLine(const QString &name, const std::optional<QTime> &time)
     return u"%1 %2\n"_s.arg(name, time ? platform::shortTimeText(*time) : u"not today"_s);
 }
 
+/// In the words that the manual lists, whatever the user's language, because scripts read it.
 int show(const platform::Desktop &desktop, const std::optional<SolarLocation> &saved)
 {
     if (!saved)
-        return platform::complain(u"no location is saved"_s);
+        return platform::complain([] { return Console::tr("no location is saved"); });
     TamselSolarTimes sun(desktop);
     const location::Place place =
         placeAt(*saved, location::ZoneCities::ofSystem(), sun, desktop.clocks->now());
@@ -49,7 +52,7 @@ int show(const platform::Desktop &desktop, const std::optional<SolarLocation> &s
 
 int reportOutcome(const platform::StoreOutcome &outcome)
 {
-    return outcome ? platform::kSuccess : platform::complain(outcome.text());
+    return outcome ? platform::kSuccess : platform::complain([&] { return outcome.text(); });
 }
 
 int runWithoutWindow(const location::Options &options, int argc, char **argv)
@@ -73,11 +76,13 @@ int runWindow(int argc, char **argv)
 {
     auto display = platform::reachableDisplay();
     if (!display)
-        return platform::complain(
-            u"no display can be reached; --set saves a location without one"_s);
+        return platform::complain([] {
+            return Console::tr("no display can be reached; --set saves a location without one");
+        });
     const auto application =
         platform::makeApplication(argc, argv, display->qtPlatform, platform::Interaction::Working);
     display.reset();
+    platform::useLanguage();
     QApplication::setApplicationDisplayName(u"Pelko Location"_s);
     QGuiApplication::setDesktopFileName(QString(kLocationDesktopId));
     platform::DistributedNotifications notifications;
@@ -99,14 +104,20 @@ int main(int argc, char **argv)
 {
     QCoreApplication::setApplicationName(u"pelko-location"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(TAMSEL_VERSION));
-    const auto parsed = location::parseCommandLine(platform::argumentsFrom(argc, argv));
-    if (const auto *error = std::get_if<location::UsageError>(&parsed))
-        return platform::complain(error->text, platform::kWrongUsage);
+    const auto parse = [&] {
+        return location::parseCommandLine(platform::argumentsFrom(argc, argv));
+    };
+    const auto parsed = parse();
+    // Once more, now in the user's language.
+    if (std::holds_alternative<location::UsageError>(parsed))
+        return platform::complain([&] { return std::get<location::UsageError>(parse()).text; },
+                                  platform::kWrongUsage);
     const auto &options = *std::get_if<location::Options>(&parsed);
     // Keeps Qt from reading options of its own, such as "-display".
     int programNameOnly = 1;
     switch (options.mode) {
     case Mode::Help:
+        platform::useLanguage();
         return platform::print(location::helpText());
     case Mode::Version:
         return platform::printVersion();

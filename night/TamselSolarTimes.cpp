@@ -33,7 +33,7 @@ bool isUsableFix(const platform::LocationFix &fix, const QDateTime &now)
 
 TamselSolarTimes::TamselSolarTimes(const platform::Desktop &desktop, QObject *parent)
     : QObject(parent), m_clocks(*desktop.clocks), m_bundle(desktop.bundle), m_store(desktop),
-      m_status(u"Sun times need location permission."_s)
+      m_status(tr("Sun times need location permission."))
 {
 }
 
@@ -54,7 +54,7 @@ void TamselSolarTimes::reloadSavedLocation()
     if (!saved || saved == m_location)
         return;
     setLocation(saved);
-    m_status = u"Sun times use your Mac's saved location, calculated locally."_s;
+    m_status = tr("Sun times use your Mac's saved location, calculated locally.");
 }
 
 void TamselSolarTimes::requestLocation()
@@ -70,7 +70,7 @@ void TamselSolarTimes::requestLocation()
         connect(m_manager.get(), &LocationService::failed, this,
                 &TamselSolarTimes::locationManagerDidFailWithError);
     }
-    m_status = u"Waiting for your Mac's location..."_s;
+    m_status = tr("Waiting for your Mac's location...");
     m_manager->startUpdating();
     if (updated)
         updated();
@@ -82,7 +82,7 @@ void TamselSolarTimes::locationManagerDidChangeAuthorization(
     if (authorization != platform::LocationAuthorization::Restricted)
         return;
     setLocation(std::nullopt);
-    endRequest(u"Location unavailable. Allow access or use custom times."_s);
+    endRequest(tr("Location unavailable. Allow access or use custom times."));
 }
 
 void TamselSolarTimes::locationManagerDidUpdateLocations(const QList<platform::LocationFix> &fixes)
@@ -93,17 +93,17 @@ void TamselSolarTimes::locationManagerDidUpdateLocations(const QList<platform::L
     setLocation(SolarLocation{fix.latitude, fix.longitude});
     if (m_persistent && !m_store.save(*m_location)) {
         setLocation(std::nullopt);
-        endRequest(u"Could not save location. Retry or use custom times."_s);
+        endRequest(tr("Could not save location. Retry or use custom times."));
         return;
     }
-    endRequest(u"Sun times use your Mac's location, calculated locally."_s);
+    endRequest(tr("Sun times use your Mac's location, calculated locally."));
 }
 
 void TamselSolarTimes::locationManagerDidFailWithError(platform::LocationError error)
 {
     endRequest(error == platform::LocationError::Denied
-                   ? u"Location denied. Allow access or use custom times."_s
-                   : u"Location unavailable. Retry or use custom times."_s);
+                   ? tr("Location denied. Allow access or use custom times.")
+                   : tr("Location unavailable. Retry or use custom times."));
 }
 
 void TamselSolarTimes::endRequest(const QString &status)

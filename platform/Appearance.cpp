@@ -19,6 +19,8 @@ using namespace Qt::StringLiterals;
 struct SchemeColors
 {
     QRgb windowBackground;
+    QRgb panel;
+    QRgb edge;
     QRgb label;
     QRgb secondaryLabel;
     QRgb red;
@@ -30,10 +32,10 @@ struct SchemeColors
     QRgb button;
 };
 
-constexpr SchemeColors kLight{0xfffafafa, 0xff1f1f1f, 0xff636366, 0xffc9251c,
-                              0xff0b62d6, 0xffffffff, 0xffe8e8e8};
-constexpr SchemeColors kDark{0xff1e1e1e, 0xfff2f2f2, 0xffa1a1a6, 0xffff6b61,
-                             0xff2f7ff0, 0xff1e1e1e, 0xff303030};
+constexpr SchemeColors kLight{0xfffafafa, 0xffffffff, 0xff8c8c8c, 0xff1f1f1f, 0xff636366,
+                              0xffc9251c, 0xff0b62d6, 0xffffffff, 0xffe8e8e8};
+constexpr SchemeColors kDark{0xff1e1e1e, 0xff2b2b2b, 0xff888888, 0xfff2f2f2, 0xffa1a1a6,
+                             0xffff6b61, 0xff2f7ff0, 0xff1e1e1e, 0xff303030};
 
 const SchemeColors &colorsOf(const Appearance &appearance)
 {
@@ -127,6 +129,16 @@ QColor Appearance::windowBackgroundColor() const
     return QColor::fromRgb(colorsOf(*this).windowBackground);
 }
 
+QColor Appearance::panelColor() const
+{
+    return QColor::fromRgb(colorsOf(*this).panel);
+}
+
+QColor Appearance::edgeColor() const
+{
+    return QColor::fromRgb(colorsOf(*this).edge);
+}
+
 QPalette Appearance::palette() const
 {
     const SchemeColors &colors = colorsOf(*this);
@@ -139,7 +151,7 @@ QPalette Appearance::palette() const
     palette.setColor(QPalette::PlaceholderText, secondaryLabelColor());
     palette.setColor(QPalette::Base, QColor::fromRgb(colors.base));
     palette.setColor(QPalette::AlternateBase, windowBackgroundColor());
-    palette.setColor(QPalette::ToolTipBase, QColor::fromRgb(colors.base));
+    palette.setColor(QPalette::ToolTipBase, QColor::fromRgb(colors.button));
     const QColor accent = controlAccentColor();
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::HighlightedText, qGray(accent.rgb()) < 160 ? Qt::white : Qt::black);

@@ -44,6 +44,10 @@ public:
     /// The user's accent colour.
     QColor controlAccentColor() const;
     QColor windowBackgroundColor() const;
+    /// Of a panel that lies over a window; the contrasts above hold there, too.
+    QColor panelColor() const;
+    /// Of an edge that can be seen: a contrast of 3 : 1 against the two before.
+    QColor edgeColor() const;
     /// The same colours for Qt's own widgets. To be set on our windows, not on the application,
     /// whose palette is an input of this class.
     QPalette palette() const;

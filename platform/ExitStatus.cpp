@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ExitStatus.h"
 
-#include <QCoreApplication>
+#include "platform/Translations.h"
 
 #include <cstdio>
 
@@ -34,6 +34,12 @@ int complain(const QString &text, int status)
     const QString line = u"%1: %2\n"_s.arg(QCoreApplication::applicationName(), text);
     std::fputs(line.toLocal8Bit().constData(), stderr);
     return status;
+}
+
+int complain(const std::function<QString()> &text, int status)
+{
+    useLanguage();
+    return complain(text(), status);
 }
 
 } // namespace platform

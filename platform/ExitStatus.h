@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
 
 namespace platform {
 
@@ -18,6 +21,12 @@ struct UsageError
     QString text;
 };
 
+/// The texts of our command lines.
+struct Console
+{
+    Q_DECLARE_TR_FUNCTIONS(Console)
+};
+
 QStringList argumentsFrom(int argc, const char *const *argv);
 
 /// Prints \p text to stdout; returns kSuccess.
@@ -28,5 +37,8 @@ int printVersion();
 
 /// Prints "application name: \p text" as one line to stderr; returns \p status.
 int complain(const QString &text, int status = kCouldNotRun);
+
+/// The same in the user's language, which is chosen before \p text is asked for its text.
+int complain(const std::function<QString()> &text, int status = kCouldNotRun);
 
 } // namespace platform

@@ -3,8 +3,6 @@
 
 #include <cerrno>
 
-using namespace Qt::StringLiterals;
-
 namespace platform {
 
 namespace {
@@ -40,24 +38,24 @@ QString reasonOf(StoreFault fault)
 {
     switch (fault) {
     case StoreFault::Locked:
-        return u"another program is writing it"_s;
+        return StoreOutcome::tr("another program is writing it");
     case StoreFault::NoLocks:
-        return u"its file system refuses locks"_s;
+        return StoreOutcome::tr("its file system refuses locks");
     case StoreFault::NotPermitted:
-        return u"you have no permission"_s;
+        return StoreOutcome::tr("you have no permission");
     case StoreFault::ReadOnlyDisk:
-        return u"the disk is read-only"_s;
+        return StoreOutcome::tr("the disk is read-only");
     case StoreFault::DiskFull:
-        return u"the disk is full"_s;
+        return StoreOutcome::tr("the disk is full");
     case StoreFault::NotAFile:
-        return u"something else stands in its place"_s;
+        return StoreOutcome::tr("something else stands in its place");
     case StoreFault::NotKeepable:
-        return u"some of what it holds would be lost"_s;
+        return StoreOutcome::tr("some of what it holds would be lost");
     case StoreFault::None:
     case StoreFault::Other:
         break;
     }
-    return u"the system reports an error"_s;
+    return StoreOutcome::tr("the system reports an error");
 }
 
 } // namespace
@@ -65,8 +63,8 @@ QString reasonOf(StoreFault fault)
 QString StoreOutcome::text() const
 {
     if (path.isNull())
-        return u"the home folder is not known"_s;
-    return u"%1 cannot be changed: %2"_s.arg(path, reasonOf(fault));
+        return tr("the home folder is not known");
+    return tr("%1 cannot be changed: %2").arg(path, reasonOf(fault));
 }
 
 StoreOutcome outcomeOf(int error, const QString &path)

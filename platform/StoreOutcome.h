@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace platform {
@@ -25,6 +26,9 @@ enum class StoreFault {
 /// How a write of a stored file ended. True when the file was changed as asked.
 struct StoreOutcome
 {
+    Q_DECLARE_TR_FUNCTIONS(StoreOutcome)
+
+public:
     StoreFault fault = StoreFault::None;
     /// The file that failed; null when the user's home folder is unknown.
     QString path;

@@ -5,6 +5,7 @@
 #include "platform/ExitStatus.h"
 #include "platform/Memory.h"
 #include "platform/MessageBus.h"
+#include "platform/Translations.h"
 
 #include <QAccessible>
 #include <QDBusConnection>
@@ -108,9 +109,11 @@ void endIfFatal(QtMsgType type, const QMessageLogContext &, const QString &text)
 /// first. Wayland and X have one at all times, if need be one that stands in for a real one.
 void endWithoutScreen()
 {
-    if (QGuiApplication::screens().isEmpty())
-        qFatal("no display: the platform '%s' has no screen",
-               qUtf8Printable(QGuiApplication::platformName()));
+    if (!QGuiApplication::screens().isEmpty())
+        return;
+    useLanguage();
+    qFatal("%s", qUtf8Printable(Console::tr("no display: the platform '%1' has no screen")
+                                    .arg(QGuiApplication::platformName())));
 }
 
 std::unique_ptr<QApplication> makeForInteraction(int &argc, char **argv, Interaction interaction)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
+#include <QPoint>
 #include <QRect>
 
 class QWidget;
@@ -16,5 +18,11 @@ QRect placementBounds(const QWidget *view);
 /// least 70 less than the height of \p screen (its available part). The top edge stays unless the
 /// window would extend below the screen.
 QRectF frameOnScreen(const QRectF &frame, double contentHeight, const QRectF &screen);
+
+/// Where a window of \p size opens so that it hides least, in the coordinates of the rest: beside
+/// \p window, inside \p bounds. Where there is no room for that, the parts \p kept of the window
+/// stay free, the first before the next. To the right where all places are alike.
+QPoint placeBeside(const QRect &window, const QList<QRect> &kept, const QSize &size,
+                   const QRect &bounds);
 
 } // namespace platform

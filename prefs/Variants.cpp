@@ -1,7 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "prefs/Variants.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+struct VariantText
+{
+    Q_DECLARE_TR_FUNCTIONS(Variants)
+};
+
+} // namespace
 
 const QStringList &availableVariants()
 {
@@ -15,13 +26,13 @@ const QStringList &popupVariants()
     return variants;
 }
 
-const QHash<QString, QString> &variantLabels()
+QHash<QString, QString> variantLabels()
 {
-    static const QHash<QString, QString> labels{
-        {u"orange"_s, u"Orange"_s}, {u"blue"_s, u"Blue"_s},        {u"cream"_s, u"Cream"_s},
-        {u"nero"_s, u"Nero"_s},     {kRandomVariant, u"Random"_s}, {u"custom"_s, u"Custom"_s},
+    return {
+        {u"orange"_s, VariantText::tr("Orange")},    {u"blue"_s, VariantText::tr("Blue")},
+        {u"cream"_s, VariantText::tr("Cream")},      {u"nero"_s, VariantText::tr("Nero")},
+        {kRandomVariant, VariantText::tr("Random")}, {u"custom"_s, VariantText::tr("Custom")},
     };
-    return labels;
 }
 
 const QHash<QString, QColor> &backgroundColors()

@@ -13,7 +13,8 @@ inline const QString kRandomVariant = QStringLiteral("random");
 const QStringList &availableVariants();
 /// The variants that the options sheet may store as the selected one.
 const QStringList &popupVariants();
-const QHash<QString, QString> &variantLabels();
+/// In the user's language.
+QHash<QString, QString> variantLabels();
 /// The background of each variant with artwork of its own.
 const QHash<QString, QColor> &backgroundColors();
 /// The marks' colour in the artwork of \p variant; black for a variant without artwork.

@@ -69,7 +69,7 @@ void TamselClockSaverView::animateOneFrame()
     const double ratio = devicePixelRatioF();
     ClockFrame next = frameAt(clocks().now(), ratio);
     // After a change of density the surface is empty, but no paint event asks for the whole view.
-    if (m_shownRatio != ratio)
+    if (m_staleBuffers.drop(*window()) || m_shownRatio != ratio)
         update();
     else
         update(pointsCovering(frameDamage(m_shown, next, ratio), ratio));

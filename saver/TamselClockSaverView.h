@@ -6,6 +6,7 @@
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 #include "platform/ScreenSaverView.h"
+#include "platform/StaleBuffers.h"
 #include "prefs/SaverPreferences.h"
 #include "prefs/Variants.h"
 #include "saver/PaletteOnScreen.h"
@@ -43,7 +44,7 @@ public:
     // Forwarders, documented at their owners. Variants and Artwork:
     static const QStringList &availableVariants() { return ::availableVariants(); }
     static const QStringList &popupVariants() { return ::popupVariants(); }
-    static const QHash<QString, QString> &variantLabels() { return ::variantLabels(); }
+    static QHash<QString, QString> variantLabels() { return ::variantLabels(); }
     static const QHash<QString, QColor> &backgroundColors() { return ::backgroundColors(); }
     platform::SvgImage imageForVariant(const QString &variant, const QString &name) const
     {
@@ -124,6 +125,7 @@ private:
     double m_shownRatio = 0.0;
     /// Draw it, through Qt or for the presenter.
     FramePainter m_painter;
+    platform::StaleBuffers m_staleBuffers;
     FrameSurfaces m_surfaces;
     /// Points of the presented window to put anew with the next frame.
     QRegion m_exposed;

@@ -6,14 +6,17 @@
 #include "controls/TamselSettingsWindow.h"
 #include "controls/TamselSwatchButton.h"
 #include "platform/HexColor.h"
+#include "platform/WindowPlacement.h"
 #include "settings/ColorPanel.h"
 #include "settings/SettingsSheet.h"
 #include "settings/SheetRules.h"
+#include "settings/TamselClockPreviewView.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFocusEvent>
 #include <QPointer>
+#include <QScreen>
 #include <QTimeEdit>
 #include <QWindow>
 
@@ -31,10 +34,19 @@ bool isTextInput(const QWidget *control)
     return qobject_cast<const QLineEdit *>(control) || qobject_cast<const QTimeEdit *>(control);
 }
 
-/// Shows \p panel on top and keeps it above \p sheet.
-void bringToFront(QColorDialog &panel, const QWidget *sheet)
+QRect globalFrame(const QWidget &view)
+{
+    return {view.mapToGlobal(QPoint()), view.size()};
+}
+
+/// Shows \p panel on top and keeps it above \p sheet: where the desktop lets windows choose their
+/// places beside it, away from its parts \p kept, in global coordinates.
+void bringToFront(QColorDialog &panel, const QWidget *sheet, const QList<QRect> &kept)
 {
     panel.winId(); // makes the native window
+    if (!panel.isVisible())
+        panel.move(platform::placeBeside(globalFrame(*sheet), kept, panel.sizeHint(),
+                                         sheet->screen()->availableGeometry()));
     panel.windowHandle()->setTransientParent(sheet->windowHandle());
     panel.show();
     panel.raise();
@@ -150,7 +162,9 @@ void ColorEditing::openFullColorPanel()
     disconnect(m_panelCloseObserver);
     m_panelCloseObserver =
         connect(&panel, &QDialog::finished, this, &ColorEditing::closeColorPanel);
-    bringToFront(panel, m_sheet.configurationSheet);
+    bringToFront(panel, m_sheet.configurationSheet,
+                 {globalFrame(*buttonForColorKey(m_activeColorPanelKey)),
+                  globalFrame(*m_sheet.customPreviewView)});
 }
 
 void ColorEditing::closeColorPanel()

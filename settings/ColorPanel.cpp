@@ -5,6 +5,7 @@
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "settings/OptionsSheet.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -40,7 +41,7 @@ QColorDialog &sharedColorPanel()
         auto *dialog = new QColorDialog;
         dialog->setOptions(QColorDialog::DontUseNativeDialog | QColorDialog::NoButtons);
         dialog->setModal(false);
-        dialog->setWindowTitle(QStringLiteral("Colors"));
+        dialog->setWindowTitle(OptionsSheet::tr("Colors"));
         dialog->setFont(controlFont());
         followAppearance(dialog, [dialog] { dialog->setPalette(paletteOf(dialog)); });
         panel() = dialog;

@@ -142,6 +142,7 @@ void OptionsSheet::resetSettingsDraft()
     validateSchedule();
     if (m_timeRows)
         m_timeRows->setTimeModes(night);
+    s.variantRadioButtons.value(selectedVariantFromRadioButtons())->setFocus();
 }
 
 QString OptionsSheet::selectedVariantFromRadioButtons() const
@@ -215,10 +216,10 @@ bool OptionsSheet::validateSchedule()
     s.saveButton->setEnabled(valid);
     if (!valid)
         m_saving.cancel();
-    s.nightToPicker->setToolTip(valid ? QString() : u"Choose a different end time."_s);
+    s.nightToPicker->setToolTip(valid ? QString() : tr("Choose a different end time."));
     s.nightToPicker->setRefused(!valid);
     s.nightToPicker->setAccessibleDescription(
-        valid ? QString() : u"Night mode start and end times must be different."_s);
+        valid ? QString() : tr("Night mode start and end times must be different."));
     return valid;
 }
 
@@ -289,9 +290,9 @@ QVariantMap OptionsSheet::nightDraft() const
 void OptionsSheet::endSave(const platform::StoreOutcome &outcome)
 {
     if (!outcome) {
-        auto *alert = new Alert(u"Could not save the options"_s, outcome.text() + u'.',
+        auto *alert = new Alert(tr("Could not save the options"), outcome.text() + u'.',
                                 m_sheet.configurationSheet);
-        alert->addButton(u"OK"_s);
+        alert->addButton(tr("OK"));
         alert->present();
         return;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetBuilder.h"
 
+#include "controls/ControlFont.h"
+#include "controls/Mirroring.h"
 #include "controls/OverlayScrollArea.h"
 #include "controls/PushButton.h"
 #include "controls/TamselHexField.h"
@@ -14,13 +16,17 @@
 #include "controls/TimePicker.h"
 #include "platform/Desktop.h"
 #include "prefs/Variants.h"
+#include "settings/OptionsSheet.h"
 #include "settings/SettingsSheet.h"
 #include "settings/SheetLayout.h"
 #include "settings/SheetParts.h"
 #include "settings/SheetRules.h"
 #include "settings/TamselClockPreviewView.h"
 
+#include <QButtonGroup>
 #include <QLabel>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +37,6 @@ constexpr QRect kModeControlFrame(10, 162, 50, 24);
 
 constexpr QRect kTitleFrame(kTitleInset, 13, 240, 18);
 constexpr QRect kThemeTitleFrame(kTitleInset, 13, 80, 18);
-constexpr QRect kThemeNameFrame(104, 13, 70, 18);
 constexpr QRect kFirstVariantFrame(182, 7, 28, 28);
 constexpr int kVariantPitch = 32;
 constexpr QRect kToggleFrame(298, 13, 36, 16);
@@ -50,13 +55,14 @@ constexpr int kTimeRowsTop = 96;
 constexpr QRect kTimeLabelFrame(kTitleInset, 109, 100, 18);
 constexpr QRect kTimePickerFrame(230, 104, 104, 28);
 
-/// In the action bar; the buttons are a little higher than it.
-constexpr QRect kCancelFrame(174, -2, 80, 28);
-constexpr QRect kSaveFrame(264, -2, 80, 28);
-
 /// The order of the variant swatches.
 constexpr QLatin1StringView kSwatchVariants[] = {"cream"_L1, "orange"_L1, "blue"_L1, "nero"_L1,
                                                  "custom"_L1};
+
+double textWidth(const QString &text)
+{
+    return QFontMetricsF(controlFont()).horizontalAdvance(text);
+}
 
 TamselSettingsView *transparentView(const QRect &frame, QWidget *parent)
 {
@@ -89,18 +95,22 @@ void addPreview(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget 
 
     auto *mode = new TamselModeControl(*desktop.clocks, preview);
     sheet.previewMode = mode;
+    // As the clock itself, its picture is the same in every direction.
     mode->setGeometry(kModeControlFrame);
 }
 
 void addVariantSwatches(SettingsSheet &sheet)
 {
+    // Arrow keys move the focus in it, and the choice with it.
+    auto *choice = new QButtonGroup(sheet.themeGroup);
     QRect frame = kFirstVariantFrame;
     for (const QLatin1StringView name : kSwatchVariants) {
         const QString variant = name;
         auto *swatch = new TamselSwatchButton(sheet.themeGroup);
         swatch->setObjectName(variant);
-        swatch->setGeometry(frame);
+        place(swatch, frame);
         swatch->setCheckable(true);
+        choice->addButton(swatch);
         swatch->setRainbow(variant == "custom"_L1);
         swatch->setSwatchColor(backgroundColors().value(variant));
         swatch->setAccessibleName(variantLabels().value(variant));
@@ -110,29 +120,43 @@ void addVariantSwatches(SettingsSheet &sheet)
     }
 }
 
-/// How assistive technology names what edits the colour \p key: \p format's palette and part.
-QString colorControlName(const QString &format, const QString &key)
+/// How assistive technology names what edits a colour of the draft.
+struct ColorNames
 {
-    const bool mark = key == kMarkColorKey || key == kNightMarkColorKey;
-    return format.arg(isNightColorKey(key) ? u"Night"_s : u"Day"_s,
-                      mark ? u"primary"_s : u"background"_s);
+    QString field;
+    QString swatch;
+};
+
+ColorNames colorNames(const QString &key)
+{
+    if (key == kMarkColorKey)
+        return {OptionsSheet::tr("Day primary hex color"), OptionsSheet::tr("Day primary color")};
+    if (key == kBaseColorKey)
+        return {OptionsSheet::tr("Day background hex color"),
+                OptionsSheet::tr("Day background color")};
+    if (key == kNightMarkColorKey)
+        return {OptionsSheet::tr("Night primary hex color"),
+                OptionsSheet::tr("Night primary color")};
+    return {OptionsSheet::tr("Night background hex color"),
+            OptionsSheet::tr("Night background color")};
 }
 
 void addColorControls(const QString &key, QPoint offset, SettingsSheet &sheet, QWidget *rows)
 {
     const ColorControls &controls = *colorControlsOf(key);
+    const ColorNames names = colorNames(key);
     auto *field = new TamselHexField(rows);
     field->setObjectName(key);
-    field->setGeometry(kHexFieldFrame.translated(offset));
-    field->setAccessibleName(colorControlName(u"%1 %2 hex color"_s, key));
+    place(field, kHexFieldFrame.translated(offset));
+    field->setAccessibleName(names.field);
     sheet.*controls.field = field;
 
     auto *swatch = new TamselSwatchButton(rows);
     swatch->setObjectName(key);
-    swatch->setGeometry(kSwatchFrame.translated(offset));
+    place(swatch, kSwatchFrame.translated(offset));
     swatch->setSwatchColor(Qt::black);
     swatch->setUsesPickerSelection(true);
-    swatch->setAccessibleName(colorControlName(u"%1 %2 color"_s, key));
+    swatch->setAccessibleName(names.swatch);
     sheet.*controls.button = swatch;
 }
 
@@ -141,16 +165,17 @@ TamselSymbolButton *swapButton(bool night, const platform::Bundle &bundle, QWidg
     auto *connector = new ConnectorView(
         platform::SvgImage::fromFile(bundle.pathForResource(u"swap-connector"_s, u"svg"_s)), rows);
     connector->setObjectName(u"swapConnector"_s);
-    connector->setGeometry(kConnectorFrame);
+    place(connector, kConnectorFrame);
 
     auto *swap = new TamselSymbolButton(rows);
     swap->setObjectName(night ? u"night"_s : u"day"_s);
-    swap->setGeometry(kSwapFrame);
+    place(swap, kSwapFrame);
     swap->setRadius(kSwapRadius);
     swap->setImage(
         Symbol::named(u"arrow.up.arrow.down"_s, kSwapSymbolSize, QFont::DemiBold, bundle));
-    swap->setAccessibleName(u"Swap colors"_s);
-    swap->setToolTip(night ? u"Swap night colors"_s : u"Swap day colors"_s);
+    swap->setAccessibleName(OptionsSheet::tr("Swap colors"));
+    swap->setToolTip(night ? OptionsSheet::tr("Swap night colors")
+                           : OptionsSheet::tr("Swap day colors"));
     return swap;
 }
 
@@ -160,8 +185,9 @@ TamselSettingsView *colorControlsNight(bool night, SettingsSheet &sheet,
     auto *rows = transparentView(night ? kNightRowsFrame : kDayRowsFrame, group);
     addSettingsDividerAt(0, rows);
     const QPoint next(0, kRowPitch);
-    QLabel *markLabel = labelWithString(u"Primary"_s, kColorLabelFrame, rows);
-    QLabel *baseLabel = labelWithString(u"Background"_s, kColorLabelFrame.translated(next), rows);
+    QLabel *markLabel = labelWithString(OptionsSheet::tr("Primary"), kColorLabelFrame, rows);
+    QLabel *baseLabel =
+        labelWithString(OptionsSheet::tr("Background"), kColorLabelFrame.translated(next), rows);
     addColorControls(night ? kNightMarkColorKey : kMarkColorKey, QPoint(), sheet, rows);
     addColorControls(night ? kNightBaseColorKey : kBaseColorKey, next, sheet, rows);
     if (!night) {
@@ -175,8 +201,10 @@ TamselSettingsView *colorControlsNight(bool night, SettingsSheet &sheet,
 void addThemeGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget *document)
 {
     sheet.themeGroup = settingsGroupIn(document);
-    labelWithString(u"Theme"_s, kThemeTitleFrame, sheet.themeGroup);
-    sheet.themeName = labelWithString({}, kThemeNameFrame, sheet.themeGroup);
+    const QLabel *title =
+        labelWithString(OptionsSheet::tr("Theme"), kThemeTitleFrame, sheet.themeGroup);
+    const QRect name = themeNameFrame(textWidth(title->text()));
+    sheet.themeName = labelWithString(OptionsSheet::tr("Theme"), name, sheet.themeGroup);
     sheet.themeName->setAlignment(Qt::AlignRight | Qt::AlignTop);
     sheet.themeName->setForegroundRole(QPalette::PlaceholderText);
     addVariantSwatches(sheet);
@@ -186,14 +214,14 @@ void addThemeGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidg
 TamselToggle *addToggle(const QString &name, const platform::Clocks &clocks, QWidget *group)
 {
     auto *toggle = new TamselToggle(clocks, group);
-    toggle->setGeometry(kToggleFrame);
+    place(toggle, kToggleFrame);
     toggle->setAccessibleName(name);
     return toggle;
 }
 
 void addCalendarGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget *document)
 {
-    const QString title = u"Monthly calendar"_s;
+    const QString title = OptionsSheet::tr("Monthly calendar");
     sheet.calendarGroup = settingsGroupIn(document);
     labelWithString(title, kTitleFrame, sheet.calendarGroup);
     sheet.calendarCheckbox = addToggle(title, *desktop.clocks, sheet.calendarGroup);
@@ -205,33 +233,36 @@ TimePicker *addTimeRow(int row, const QString &title, const QString &name, QWidg
     addSettingsDividerAt(kTimeRowsTop + offset.y(), rows);
     labelWithString(title, kTimeLabelFrame.translated(offset), rows);
     auto *picker = new TimePicker(rows);
-    picker->setGeometry(kTimePickerFrame.translated(offset));
+    place(picker, kTimePickerFrame.translated(offset));
     picker->setAccessibleName(name);
     return picker;
 }
 
 void addNightGroup(SettingsSheet &sheet, const platform::Desktop &desktop, QWidget *document)
 {
-    const QString title = u"Night Mode"_s;
+    const QString title = OptionsSheet::tr("Night Mode");
     sheet.nightGroup = settingsGroupIn(document);
     labelWithString(title, kTitleFrame, sheet.nightGroup);
     sheet.nightSwitch = addToggle(title, *desktop.clocks, sheet.nightGroup);
     sheet.nightControls = colorControlsNight(true, sheet, desktop, sheet.nightGroup);
-    sheet.nightFromPicker =
-        addTimeRow(0, u"From"_s, u"Night mode starts at"_s, sheet.nightControls);
-    sheet.nightToPicker = addTimeRow(1, u"To"_s, u"Night mode ends at"_s, sheet.nightControls);
+    sheet.nightFromPicker = addTimeRow(
+        0, OptionsSheet::tr("From"), OptionsSheet::tr("Night mode starts at"), sheet.nightControls);
+    sheet.nightToPicker = addTimeRow(1, OptionsSheet::tr("To"),
+                                     OptionsSheet::tr("Night mode ends at"), sheet.nightControls);
 }
 
 void addActions(SettingsSheet &sheet, QWidget *document)
 {
     const SheetLayout layout = sheetLayout(kCollapsedHeight, kCollapsedHeight);
     sheet.settingsActions = transparentView(layout.settingsActions.toRect(), document);
-    sheet.cancelButton = new PushButton(u"Cancel"_s, sheet.settingsActions);
-    sheet.cancelButton->setGeometry(kCancelFrame);
+    sheet.cancelButton = new PushButton(OptionsSheet::tr("Cancel"), sheet.settingsActions);
 
-    sheet.saveButton = new PushButton(u"OK"_s, sheet.settingsActions);
-    sheet.saveButton->setGeometry(kSaveFrame);
+    sheet.saveButton = new PushButton(OptionsSheet::tr("OK"), sheet.settingsActions);
     sheet.saveButton->setProminent(true);
+    const int width =
+        std::max(sheet.cancelButton->sizeHint().width(), sheet.saveButton->sizeHint().width());
+    place(sheet.cancelButton, actionFrame(1, width));
+    place(sheet.saveButton, actionFrame(0, width));
 }
 
 } // namespace

@@ -3,6 +3,9 @@
 
 #include "platform/WindowPlacement.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 constexpr double kGroupsTop = 252.0;
@@ -10,6 +13,13 @@ constexpr double kGroupGap = 10.0;
 constexpr double kActionsGap = 32.0;
 constexpr double kActionsHeight = 24.0;
 constexpr double kBottomMargin = 28.0;
+
+constexpr QRect kThemeNameFrame(104, 13, 70, 18);
+/// Between a title and what follows it.
+constexpr int kTitleGap = 8;
+
+constexpr QRect kLastActionFrame(264, -2, 80, 28);
+constexpr int kActionGap = 10;
 
 } // namespace
 
@@ -28,6 +38,20 @@ SheetLayout sheetLayout(double dayHeight, double nightHeight)
     layout.settingsActions = place(kActionsHeight, kBottomMargin);
     layout.contentHeight = y;
     return layout;
+}
+
+QRect themeNameFrame(double titleWidth)
+{
+    QRect frame = kThemeNameFrame;
+    frame.setLeft(kTitleInset + int(std::ceil(titleWidth)) + kTitleGap);
+    return frame;
+}
+
+QRect actionFrame(int fromEnd, int width)
+{
+    QRect frame = kLastActionFrame;
+    frame.setLeft(std::min(frame.left(), frame.right() + 1 - width));
+    return frame.translated(-fromEnd * (frame.width() + kActionGap), 0);
 }
 
 QRectF sheetFrame(const QRectF &frame, double contentHeight, const QRectF &screen)

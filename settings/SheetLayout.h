@@ -32,6 +32,14 @@ struct SheetLayout
 /// The layout for a theme group and a night group of these heights.
 SheetLayout sheetLayout(double dayHeight, double nightHeight);
 
+/// Where the theme's name stands in its row, right-aligned beside the swatches, after a title that
+/// is \p titleWidth wide.
+QRect themeNameFrame(double titleWidth);
+
+/// Where the button number \p fromEnd (0 is the last) stands in the action bar, when the widest
+/// button needs \p width for its title: all are equally wide, and a little higher than the bar.
+QRect actionFrame(int fromEnd, int width);
+
 /// The frame of a sheet that stands at \p frame and shall show \p contentHeight, as far as \p
 /// screen (the part of it that windows may cover) allows; see platform::frameOnScreen().
 QRectF sheetFrame(const QRectF &frame, double contentHeight, const QRectF &screen);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SheetParts.h"
 
+#include "controls/Mirroring.h"
 #include "controls/Symbol.h"
 #include "controls/TamselInputFill.h"
 #include "controls/TamselSeparator.h"
@@ -46,5 +47,6 @@ ConnectorView::ConnectorView(platform::SvgImage image, QWidget *parent)
 void ConnectorView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    mirrorFor(this, painter);
     drawTinted(painter, m_image, rect(), TamselInputFill(this));
 }

@@ -85,7 +85,7 @@ TamselClockPreviewView::TamselClockPreviewView(const platform::Clocks &clocks, Q
 {
     // Before setAccessibleName(), which creates the accessible object that is used from then on.
     installPreviewAccessibility();
-    setAccessibleName(QStringLiteral("Clock preview"));
+    setAccessibleName(tr("Clock preview"));
 }
 
 void TamselClockPreviewView::setCornerRadius(double radius)

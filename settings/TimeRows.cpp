@@ -3,6 +3,7 @@
 
 #include "controls/Alert.h"
 #include "controls/ControlFont.h"
+#include "controls/Mirroring.h"
 #include "controls/PopUpMenu.h"
 #include "controls/PushButton.h"
 #include "controls/TamselSettingsView.h"
@@ -20,6 +21,7 @@
 #include "platform/ShortTime.h"
 #include "prefs/NightSettings.h"
 #include "settings/ColorEditing.h"
+#include "settings/OptionsSheet.h"
 #include "settings/SettingsSheet.h"
 #include "settings/SheetLayout.h"
 
@@ -44,12 +46,13 @@ QString solarMode(int row)
 
 QString solarTitle(int row)
 {
-    return row == 0 ? u"Sunset"_s : u"Sunrise"_s;
+    return row == 0 ? TimeRows::tr("Sunset") : TimeRows::tr("Sunrise");
 }
 
 QString rowDescription(int row)
 {
-    return row == 0 ? u"Night mode start setting"_s : u"Night mode end setting"_s;
+    return row == 0 ? TimeRows::tr("Night mode start setting")
+                    : TimeRows::tr("Night mode end setting");
 }
 
 QStringList modesOf(const QVariantMap &night)
@@ -82,7 +85,7 @@ void TimeRows::addTimeRow(int row)
     const QPoint offset(0, kRowPitch * row);
     QWidget *rows = m_sheet.nightControls;
     auto *input = new TamselTimeInput(rows);
-    input->setGeometry(kInputFrame.translated(offset));
+    place(input, kInputFrame.translated(offset));
     input->setPicker(pickerOf(m_sheet, row));
     input->alignPicker();
     input->show();
@@ -91,7 +94,7 @@ void TimeRows::addTimeRow(int row)
     auto *menu = new TamselTimeMenu(rows);
     menu->setImage(Symbol::named(u"chevron.up.chevron.down"_s, kChevronSize, QFont::DemiBold,
                                  m_desktop.bundle));
-    menu->setGeometry(kMenuFrame.translated(offset));
+    place(menu, kMenuFrame.translated(offset));
     menu->setRadius(kMenuRadius);
     menu->setFont(controlFont());
     followAppearance(menu, [menu] { menu->setInk(appearanceOf(menu).controlTextColor()); });
@@ -139,7 +142,7 @@ QString TimeRows::timeRowToolTip(int row)
     TamselSolarTimes &sun = *m_schedule.solarTimes();
     if (const auto event = sun.eventOnDate(m_timeModes.at(row), m_desktop.clocks->now()))
         return platform::shortTimeText(event->time());
-    return sun.location() ? u"No solar event today at this location. Choose a custom time."_s
+    return sun.location() ? tr("No solar event today at this location. Choose a custom time.")
                           : sun.status();
 }
 
@@ -150,7 +153,7 @@ void TimeRows::showTimeMenu(TamselTimeMenu *sender)
     m_openMenu = menu;
     QAction *chosen = nullptr;
     for (const auto &[title, mode] : {std::pair(solarTitle(row), solarMode(row)),
-                                      std::pair(u"Custom time"_s, kNightCustomMode)}) {
+                                      std::pair(tr("Custom time"), kNightCustomMode)}) {
         QAction *action =
             menu->addAction(title, this, [this, mode = mode, row] { selectTimeMode(mode, row); });
         action->setCheckable(true);
@@ -161,13 +164,14 @@ void TimeRows::showTimeMenu(TamselTimeMenu *sender)
     const TamselSolarTimes &sun = *m_schedule.solarTimes();
     if (sun.persistent()) {
         menu->addSeparator();
-        menu->addAction(sun.location() ? u"Update Mac location..."_s : u"Use Mac location..."_s,
+        menu->addAction(sun.location() ? tr("Update Mac location...") : tr("Use Mac location..."),
                         this, [this] { requestSolarLocation(); });
     }
     // The menu opens with its checked title over the button's title or, on a button without a
-    // title, left of the chevron.
+    // title, before the chevron.
     const int width = QFontMetrics(menu->font()).horizontalAdvance(chosen->text());
-    const QPoint title(sender->titleEnd() - width, sender->height() / 2);
+    const int beginning = sender->titleEnd() + (sender->isRightToLeft() ? width : -width);
+    const QPoint title(beginning, sender->height() / 2);
     menu->popUpWithTitleAt(chosen, sender->mapToGlobal(title));
 }
 
@@ -188,9 +192,9 @@ void TimeRows::requestSolarLocation() const
     companion.setProgram(m_desktop.bundle.helperPath(u"Pelko Location.app"_s));
     if (companion.startDetached() || !m_sheet.configurationSheet)
         return;
-    auto *alert = new Alert(u"Could not open location setup"_s, companion.errorString(),
+    auto *alert = new Alert(tr("Could not open location setup"), companion.errorString(),
                             m_sheet.configurationSheet);
-    alert->addButton(u"OK"_s);
+    alert->addButton(OptionsSheet::tr("OK"));
     alert->present();
 }
 
@@ -199,12 +203,12 @@ bool TimeRows::askForMissingLocation() const
     const TamselSolarTimes &sun = *m_schedule.solarTimes();
     if (!sun.persistent() || !m_sheet.nightSwitch->isChecked() || !followSun() || sun.location())
         return false;
-    auto *alert = new Alert(u"Sunrise and sunset need your Mac's location"_s,
-                            u"Allow location access in the Pelko Location app, or choose Custom "
-                            "time in the From and To menus. The location stays on this Mac."_s,
+    auto *alert = new Alert(tr("Sunrise and sunset need your Mac's location"),
+                            tr("Allow location access in the Pelko Location app, or choose Custom "
+                               "time in the From and To menus. The location stays on this Mac."),
                             m_sheet.configurationSheet);
-    alert->addButton(u"Use Mac location"_s, [this] { requestSolarLocation(); });
-    alert->addButton(u"Cancel"_s);
+    alert->addButton(tr("Use Mac location"), [this] { requestSolarLocation(); });
+    alert->addButton(OptionsSheet::tr("Cancel"));
     alert->present();
     return true;
 }

@@ -1,4 +1,5 @@
 tamsel_script_test(project_include_directions project/include_directions.py ARGS ${CMAKE_SOURCE_DIR})
+tamsel_script_test(project_translations project/translations.py ARGS ${CMAKE_SOURCE_DIR})
 tamsel_script_test(project_wording project/wording.py ARGS ${CMAKE_SOURCE_DIR})
 tamsel_script_test(project_installed_files project/installed_files.py ARGS ${CMAKE_BINARY_DIR})
 

@@ -19,17 +19,11 @@ private Q_SLOTS:
         const QDate march(2026, 3, 5);
         QTest::newRow("en_US") << march << u"March 26"_s << u"M T W T F S S"_s << u"31"_s;
         QTest::newRow("de_DE") << march << u"März 26"_s << u"M D M D F S S"_s << u"31"_s;
-        QTest::newRow("fi_FI") << march << u"maaliskuu 26"_s << u"M T K T P L S"_s << u"31"_s;
-        QTest::newRow("cs_CZ") << march << u"březen 26"_s << u"P Ú S Č P S N"_s << u"31"_s;
         QTest::newRow("tr_TR") << march << u"Mart 26"_s << u"P S Ç P C C P"_s << u"31"_s;
         QTest::newRow("ar_EG") << march << u"مارس ٢٦"_s << u"ا ا ا ا ا ا ا"_s << u"٣١"_s;
         QTest::newRow("fa_IR") << march << u"مارس ۲۶"_s << u"د س چ پ ج ش ی"_s << u"۳۱"_s;
-        QTest::newRow("ja_JP") << march << u"3月 26"_s << u"月 火 水 木 金 土 日"_s << u"31"_s;
         QTest::newRow("hi_IN") << march << u"मार्च 26"_s << u"सो मं बु गु शु श र"_s << u"31"_s;
         QTest::newRow("my_MM") << march << u"မတ် ၂၆"_s << u"တ အ ဗု ကြ သေ စ တ"_s << u"၃၁"_s;
-        QTest::newRow("km_KH") << march << u"មីនា 26"_s << u"ច អ ពុ ព្ សុ សៅ អា"_s << u"31"_s;
-        QTest::newRow("si_LK") << march << u"මාර්තු 26"_s
-                               << u"ස අ බ බ්‍ සි සෙ ඉ"_s << u"31"_s;
         QTest::newRow("zh_CN") << march << u"三月 26"_s << u"星 星 星 星 星 星 星"_s << u"31"_s;
         QTest::addRow("en_GB") << QDate(2009, 2, 1) << u"February 09"_s << u"M T W T F S S"_s
                                << u"28"_s;
@@ -49,22 +43,17 @@ private Q_SLOTS:
         QCOMPARE(texts.days.first().size(), 1);
     }
 
-    void weekdayLabels_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("label");
-        QTest::addRow("tr: dotted capital") << u"izin"_s << u"İ"_s;
-        QTest::addRow("tr: dotless i") << u"ırmak"_s << u"I"_s;
-        QTest::addRow("en: i") << u"idle"_s << u"I"_s;
-        QTest::addRow("en: combining accent") << u"e\u0301tude"_s << u"E\u0301"_s;
-        QTest::addRow("en: beyond 16 bits") << u"\U00010428x"_s << u"\U00010400"_s;
-        QTest::addRow("en: no name") << QString() << QString();
-    }
     void weekdayLabels()
     {
-        QFETCH(QString, name);
-        const QLocale locale(QString::fromLatin1(QTest::currentDataTag()).left(2));
-        QTEST(weekdayLabel(name, locale), "label");
+        const std::tuple<const char *, QString, QString> cases[] = {
+            {"tr", u"izin"_s, u"İ"_s},
+            {"tr", u"ırmak"_s, u"I"_s},
+            {"en", u"idle"_s, u"I"_s},
+            {"en", u"e\u0301tude"_s, u"E\u0301"_s},
+            {"en", u"\U00010428x"_s, u"\U00010400"_s}, // beyond 16 bits
+            {"en", QString(), QString()}};
+        for (const auto &[language, name, label] : cases)
+            QCOMPARE(weekdayLabel(name, QLocale(QString::fromLatin1(language))), label);
     }
 };
 

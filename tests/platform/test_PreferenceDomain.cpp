@@ -83,49 +83,29 @@ private:
     std::array<__user_cap_data_struct, 2> m_saved = {};
 };
 
-/// A process that cannot open anything.
-class WithoutDescriptors
+/// What the process may use of something, for as long as it lives.
+class Limit
 {
 public:
-    WithoutDescriptors()
+    Limit(__rlimit_resource_t resource, rlim_t most) : m_resource(resource)
     {
-        ::getrlimit(RLIMIT_NOFILE, &m_saved);
-        const rlimit none = {0, m_saved.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &none);
+        ::getrlimit(resource, &m_saved);
+        const rlimit limit = {most, m_saved.rlim_max};
+        ::setrlimit(resource, &limit);
     }
-    ~WithoutDescriptors() { ::setrlimit(RLIMIT_NOFILE, &m_saved); }
-    Q_DISABLE_COPY_MOVE(WithoutDescriptors)
+    ~Limit() { ::setrlimit(m_resource, &m_saved); }
+    Q_DISABLE_COPY_MOVE(Limit)
 
 private:
+    __rlimit_resource_t m_resource;
     rlimit m_saved = {};
-};
-
-/// A disk that is full after \p bytes more in any one file.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_saved);
-        const rlimit limit = {bytes, m_saved.rlim_max};
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_saved);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_saved = {};
-    void (*m_handler)(int) = nullptr;
 };
 
 /// What locking and flushing fail with; 0 for not at all.
 int g_lockError = 0;
 int g_flushError = 0;
+/// The names of what was flushed.
+QStringList g_flushed;
 
 } // namespace
 
@@ -148,6 +128,8 @@ extern "C" int fcntl(int descriptor, int command, ...)
 extern "C" int fsync(int descriptor)
 {
     static const auto real = reinterpret_cast<decltype(&fsync)>(dlsym(RTLD_NEXT, "fsync"));
+    const QString link = u"/proc/self/fd/%1"_s.arg(descriptor);
+    g_flushed.append(QFileInfo(QFile::symLinkTarget(link)).fileName());
     errno = g_flushError;
     return g_flushError ? -1 : real(descriptor);
 }
@@ -157,24 +139,296 @@ class TestPreferenceDomain : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkdir(folder()));
+    }
 
-    void startsFromNothing();
-    void keepsOtherKeys();
-    void noticesEveryChange();
-    void looksWithoutReading();
-    void readsAgainAfterShortage();
-    void survivesDamage_data();
-    void survivesDamage();
-    void keepsTheLastDamagedFiles();
-    void leavesWhatIsNoFile_data();
-    void leavesWhatIsNoFile();
-    void followsLinks();
-    void keepsWhatItCouldNotGiveBack();
-    void faultsAreToldAndChangeNothing_data();
-    void faultsAreToldAndChangeNothing();
-    void clearsUpAfterKilledWriter();
+    void initTestCase() { std::signal(SIGXFSZ, SIG_IGN); } // a file that grows too large
+    void cleanup() { m_dir.reset(); }
+
+    void startsFromNothing()
+    {
+        const QString deep = m_dir->filePath(u"a/b/c.plist"_s);
+        const PreferenceDomain store(deep);
+        QVERIFY(!store.value(kKey).isValid());
+        ::umask(0);
+        g_flushed.clear();
+        QVERIFY(store.setValue(kKey, u"blue"_s));
+        ::umask(022);
+        // The bytes before the name stands for them, and then the name.
+        QCOMPARE(g_flushed, QStringList({u".c.plist.new"_s, u"b"_s}));
+        QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
+        QCOMPARE(modeOf(deep), mode_t(0600));
+        QCOMPARE(modeOf(m_dir->filePath(u"a/b"_s)), mode_t(0700));
+        QCOMPARE(modeOf(m_dir->filePath(u"a"_s)), mode_t(0700));
+        QVERIFY(bytesOf(deep).startsWith("<?xml"));
+    }
+
+    void keepsOtherKeys()
+    {
+        const QVariantMap others{
+            {u"data"_s, QByteArray("\0\xff", 2)},
+            {u"nested"_s, QVariantMap{{u"list"_s, QVariantList{true, u"ä"_s}}}}};
+        put(path(), platform::PropertyList::toBinary(others));
+        QVERIFY(domain().setValue(kKey, u"blue"_s));
+        QVERIFY(domain().setValue(u"CalendarEnabled"_s, true));
+        QVERIFY(domain().setValue(kKey, QVariant()));
+        QVariantMap expected = others;
+        expected.insert(u"CalendarEnabled"_s, true);
+        QCOMPARE(domain().contents(), expected);
+    }
+
+    /// Also a change of the same length within one tick of the file system's clock, in place or by
+    /// a file that was given the number of the one before last.
+    void noticesEveryChange()
+    {
+        const PreferenceDomain store = domain();
+        for (int i = 0; i < 200; ++i) {
+            const QString text = u"variant %1"_s.arg(i % 10);
+            QByteArray bytes = kBlueFile;
+            bytes.replace("blue", text.toLatin1());
+            const QString target = i % 3 == 0 ? path() : m_dir->filePath(u"other"_s);
+            put(target, bytes);
+            if (target != path())
+                QCOMPARE(::rename(qPrintable(target), qPrintable(path())), 0);
+            QCOMPARE(store.value(kKey), QVariant(text));
+        }
+        QVERIFY(QFile::remove(path()));
+        QVERIFY(!store.value(kKey).isValid());
+    }
+
+    void looksWithoutReading()
+    {
+        put(path(), kBlueFile);
+        const PreferenceDomain store = domain();
+        const quint64 first = store.generation();
+        QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
+        QCOMPARE(store.generation(), first);
+        QVERIFY(PreferenceDomain(m_dir->filePath(u"other"_s)).generation() != first);
+
+        pastFreshness();
+        QCOMPARE(store.generation(), first);
+        {
+            const Limit blind(RLIMIT_NOFILE, 0);
+            QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
+            QCOMPARE(store.generation(), first);
+        }
+
+        QVERIFY(store.setValue(kKey, u"cream"_s));
+        QVERIFY(store.generation() != first);
+    }
+
+    /// A process short of descriptors must not take that for an empty store for ever.
+    void readsAgainAfterShortage()
+    {
+        put(path(), kBlueFile);
+        pastFreshness();
+        {
+            const Limit blind(RLIMIT_NOFILE, 0);
+            QVERIFY(!domain().value(kKey).isValid());
+            QVERIFY(!domain().setValue(kKey, u"cream"_s));
+        }
+        QCOMPARE(domain().value(kKey), QVariant(u"blue"_s));
+    }
+
+    void survivesDamage_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<qint64>("size");
+        const auto row = [](const char *name, const QByteArray &bytes) {
+            QTest::newRow(name) << bytes << qint64(bytes.size());
+        };
+        row("zero bytes", "");
+        row("cut short", kBlueFile.first(kBlueFile.size() / 2));
+        row("root is an array",
+            "<plist version=\"1.0\"><array><integer>1</integer></array></plist>");
+        QTest::newRow("just over the limit, else sound")
+            << kBlueFile.chopped(8) + QByteArray(platform::kSmallFileLimit, ' ') + "</plist>"
+            << qint64(kBlueFile.size() + platform::kSmallFileLimit);
+        QTest::newRow("1 GiB with holes") << kBlueFile << qint64(1024) * 1024 * 1024;
+    }
+
+    void survivesDamage()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(qint64, size);
+        put(path(), bytes);
+        QVERIFY(QFile::resize(path(), size));
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(domain().contents(), QVariantMap());
+        QVERIFY(timer.elapsed() < 1000);
+
+        QVERIFY(domain().setValue(kKey, u"cream"_s));
+        QCOMPARE(domain().value(kKey), QVariant(u"cream"_s));
+        QFile kept(path() + u".damaged"_s);
+        QCOMPARE(kept.size(), size);
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.read(bytes.size()), bytes);
+    }
+
+    /// Also when they belong to somebody else, of whose files the kernel lets nobody make links,
+    /// and where more copies were kept once.
+    void keepsTheLastDamagedFiles()
+    {
+        constexpr uid_t kSomebodyElse = 65534;
+        const bool isRoot = ::geteuid() == 0;
+        for (const int number : {7, 100})
+            put(path() + u".damaged-%1"_s.arg(number), QByteArray::number(number));
+        put(path() + u".damaged-note"_s, "not ours");
+        for (int version = 1; version <= 3; ++version) {
+            put(path(), "version " + QByteArray::number(version));
+            QCOMPARE(::chmod(qPrintable(path()), 0644), 0);
+            if (isRoot)
+                QCOMPARE(::chown(qPrintable(path()), kSomebodyElse, kSomebodyElse), 0);
+            const WithoutPrivileges user;
+            QVERIFY(domain().setValue(kKey, u"blue"_s));
+        }
+        const QByteArrayList kept{"100", "version 1", "version 2", "version 3"};
+        for (int i = 0; i < kept.size(); ++i)
+            QCOMPARE(bytesOf(path() + (i == 0 ? u".damaged"_s : u".damaged-%1"_s.arg(i + 1))),
+                     kept[i]);
+        QCOMPARE(namesIn(folder()).filter(u".damaged"_s).size(), kept.size() + 1);
+    }
+
+    void leavesWhatIsNoFile_data()
+    {
+        QTest::addColumn<QString>("kind");
+        for (const char *kind : {"fifo", "folder", "loop", "device", "folder is a file"})
+            QTest::newRow(kind) << QString::fromLatin1(kind);
+    }
+
+    void leavesWhatIsNoFile()
+    {
+        QFETCH(QString, kind);
+        const QByteArray name = QFile::encodeName(path());
+        QString store = path();
+        if (kind == u"fifo")
+            QCOMPARE(::mkfifo(name.constData(), 0600), 0);
+        else if (kind == u"folder")
+            QVERIFY(QDir().mkdir(path()));
+        else if (kind == u"loop")
+            QCOMPARE(::symlink("store.plist", name.constData()), 0);
+        else if (kind == u"device")
+            QCOMPARE(::symlink("/dev/zero", name.constData()), 0);
+        else
+            put(path(), kBlueFile);
+        if (kind == u"folder is a file")
+            store += u"/below.plist"_s;
+        struct stat before = {};
+        QCOMPARE(::lstat(name.constData(), &before), 0);
+
+        const PreferenceDomain damaged(store);
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(damaged.contents(), QVariantMap());
+        QVERIFY(!damaged.setValue(kKey, u"blue"_s));
+        QVERIFY(timer.elapsed() < 1000);
+        QCOMPARE(namesIn(folder()), QStringList(u"store.plist"_s));
+        QVERIFY(!QFile::exists(u"/dev/.zero.lock"_s));
+        struct stat after = {};
+        QCOMPARE(::lstat(name.constData(), &after), 0);
+        QCOMPARE(after.st_ino, before.st_ino);
+        QCOMPARE(after.st_mode, before.st_mode);
+    }
+
+    /// Configuration is often kept elsewhere and linked from where programs look for it.
+    void followsLinks()
+    {
+        const QString elsewhere = m_dir->filePath(u"elsewhere"_s);
+        QVERIFY(QDir().mkdir(elsewhere));
+        QCOMPARE(::symlink("../elsewhere/middle", qPrintable(path())), 0);
+        QCOMPARE(::symlink("kept.plist", qPrintable(elsewhere + u"/middle"_s)), 0);
+
+        QVERIFY(domain().setValue(kKey, u"blue"_s)); // the last link still leads nowhere
+        QVERIFY(domain().setValue(u"CalendarEnabled"_s, true));
+        QVERIFY(QFileInfo(path()).isSymbolicLink());
+        QVERIFY(!QFileInfo(elsewhere + u"/kept.plist"_s).isSymbolicLink());
+        QCOMPARE(PreferenceDomain(elsewhere + u"/kept.plist"_s).value(kKey), QVariant(u"blue"_s));
+        QCOMPARE(domain().contents().size(), 2);
+    }
+
+    void keepsWhatItCouldNotGiveBack()
+    {
+        const QByteArray foreign = QByteArray(kBlueFile).replace(
+            "</dict>", "<key>a</key><integer>18446744073709551616</integer></dict>");
+        put(path(), foreign);
+        QCOMPARE(domain().setValue(kKey, u"cream"_s).fault, StoreFault::NotKeepable);
+        QCOMPARE(bytesOf(path()), foreign);
+        QCOMPARE(domain().value(kKey), QVariant(u"blue"_s));
+    }
+
+    void faultsAreToldAndChangeNothing_data()
+    {
+        QTest::addColumn<StoreFault>("fault");
+        QTest::addColumn<std::function<void()>>("prepare");
+        QTest::addColumn<QVariant>("value");
+        const auto row = [](const char *name, StoreFault fault,
+                            const std::function<void()> &prepare,
+                            const QVariant &value = u"cream"_s) {
+            QTest::newRow(name) << fault << prepare << value;
+        };
+        const auto closeFile = [this](const QString &name, mode_t mode) {
+            return [=, this] { QCOMPARE(::chmod(qPrintable(m_dir->filePath(name)), mode), 0); };
+        };
+        row("no permission for the folder", StoreFault::NotPermitted, closeFile(u"sub"_s, 0500));
+        row("unreadable", StoreFault::NotPermitted, closeFile(u"sub/store.plist"_s, 0));
+        row("no permission for the lock", StoreFault::NotPermitted,
+            closeFile(u"sub/.store.plist.lock"_s, 0400));
+        row("stuck writer", StoreFault::Locked, [this] {
+            m_stuck = std::make_unique<platform::FileLock>(folder() + u"/.store.plist.lock"_s, 0ms);
+        });
+        row("no locks", StoreFault::NoLocks, [] { g_lockError = ENOLCK; });
+        row("full disk", StoreFault::DiskFull,
+            [this] { m_disk = std::make_unique<Limit>(RLIMIT_FSIZE, 50); });
+        row("full when flushed", StoreFault::DiskFull, [] { g_flushError = ENOSPC; });
+        row(
+            "no property list", StoreFault::NotKeepable, [] {}, QTime(1, 2));
+        row(
+            "too large", StoreFault::NotKeepable, [] {},
+            QByteArray(platform::kSmallFileLimit, 'x'));
+    }
+
+    void faultsAreToldAndChangeNothing()
+    {
+        QFETCH(StoreFault, fault);
+        QFETCH(std::function<void()>, prepare);
+        QFETCH(QVariant, value);
+        QVERIFY(domain().setValue(kKey, u"blue"_s));
+        const QByteArray before = bytesOf(path());
+        prepare();
+        QElapsedTimer timer;
+        timer.start();
+        {
+            const WithoutPrivileges user;
+            const platform::StoreOutcome outcome = domain().setValue(kKey, value);
+            QCOMPARE(outcome.fault, fault);
+            QVERIFY(outcome.path.startsWith(folder()));
+        }
+        QVERIFY(timer.elapsed() < 1800);
+        m_stuck.reset();
+        m_disk.reset();
+        g_lockError = g_flushError = 0;
+        ::chmod(qPrintable(folder()), 0700);
+        ::chmod(qPrintable(path()), 0600);
+        ::chmod(qPrintable(folder() + u"/.store.plist.lock"_s), 0600);
+        QCOMPARE(bytesOf(path()), before);
+        QCOMPARE(namesIn(folder()), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
+        QVERIFY(domain().setValue(kKey, u"cream"_s));
+        QCOMPARE(domain().value(kKey), QVariant(u"cream"_s));
+    }
+
+    void clearsUpAfterKilledWriter()
+    {
+        put(path(), kBlueFile);
+        put(folder() + u"/.store.plist.new"_s, "half a fi");
+        QCOMPARE(domain().value(kKey), QVariant(u"blue"_s));
+        QVERIFY(domain().setValue(u"CalendarEnabled"_s, true));
+        QCOMPARE(namesIn(folder()), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
+        QCOMPARE(domain().contents().size(), 2);
+    }
 
 private:
     QString path() const { return m_dir->filePath(u"sub/store.plist"_s); }
@@ -183,316 +437,8 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<platform::FileLock> m_stuck;
-    std::unique_ptr<FullDisk> m_disk;
+    std::unique_ptr<Limit> m_disk;
 };
-
-void TestPreferenceDomain::init()
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir().mkdir(folder()));
-}
-
-void TestPreferenceDomain::cleanup()
-{
-    m_dir.reset();
-}
-
-void TestPreferenceDomain::startsFromNothing()
-{
-    const QString deep = m_dir->filePath(u"a/b/c.plist"_s);
-    const PreferenceDomain store(deep);
-    QVERIFY(!store.value(kKey).isValid());
-    ::umask(0);
-    QVERIFY(store.setValue(kKey, u"blue"_s));
-    ::umask(022);
-    QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
-    QCOMPARE(modeOf(deep), mode_t(0600));
-    QCOMPARE(modeOf(m_dir->filePath(u"a/b"_s)), mode_t(0700));
-    QCOMPARE(modeOf(m_dir->filePath(u"a"_s)), mode_t(0700));
-    QVERIFY(bytesOf(deep).startsWith("<?xml"));
-}
-
-void TestPreferenceDomain::keepsOtherKeys()
-{
-    const QVariantMap others{
-        {u"date"_s, QDateTime(QDate(4001, 1, 1), QTime(0, 0), Qt::UTC)},
-        {u"data"_s, QByteArray("\0\xff", 2)},
-        {u"real"_s, 60.17},
-        {u"large"_s, std::numeric_limits<qulonglong>::max()},
-        {u"nested"_s, QVariantMap{{u"list"_s, QVariantList{true, qlonglong(-1), u"ä"_s}}}}};
-    put(path(), platform::PropertyList::toBinary(others));
-    QVERIFY(domain().setValue(kKey, u"blue"_s));
-    QVERIFY(domain().setValue(u"CalendarEnabled"_s, true));
-    QVERIFY(domain().setValue(kKey, QVariant()));
-    QVariantMap expected = others;
-    expected.insert(u"CalendarEnabled"_s, true);
-    QCOMPARE(domain().contents(), expected);
-    QCOMPARE(domain().value(u"CalendarEnabled"_s).typeId(), int(QMetaType::Bool));
-    QCOMPARE(platform::PropertyList::parse(bytesOf(path())), std::optional<QVariant>(expected));
-    QVERIFY(bytesOf(path()).startsWith("<?xml"));
-}
-
-void TestPreferenceDomain::keepsWhatItCouldNotGiveBack()
-{
-    for (const char *type :
-         {"integer>18446744073709551616</integer", "date>12024-02-29T00:00:00Z</date"}) {
-        const QByteArray foreign = QByteArray(kBlueFile).replace(
-            "</dict>", QByteArray("<key>a</key><") + type + "></dict>");
-        put(path(), foreign);
-        QCOMPARE(domain().setValue(kKey, u"cream"_s).fault, StoreFault::NotKeepable);
-        QCOMPARE(bytesOf(path()), foreign);
-        QCOMPARE(domain().value(kKey), QVariant(u"blue"_s));
-    }
-    // A dictionary whose key is an integer.
-    const QByteArray unreadable = QByteArray("bplist00\xD1\x01\x01\x10\x07\x08\x0B", 15) +
-                                  QByteArray(6, '\0') + "\x01\x01" + QByteArray(7, '\0') + '\x02' +
-                                  QByteArray(15, '\0') + '\x0D';
-    put(path(), unreadable);
-    QCOMPARE(domain().setValue(kKey, u"cream"_s).fault, StoreFault::NotKeepable);
-    QCOMPARE(bytesOf(path()), unreadable);
-    QCOMPARE(domain().contents(), QVariantMap());
-}
-
-/// Also a change of the same length within one tick of the file system's clock, in place or by a
-/// file that was given the number of the one before last.
-void TestPreferenceDomain::noticesEveryChange()
-{
-    const PreferenceDomain store = domain();
-    for (int i = 0; i < 200; ++i) {
-        const QString text = u"variant %1"_s.arg(i % 10);
-        QByteArray bytes = kBlueFile;
-        bytes.replace("blue", text.toLatin1());
-        const QString target = i % 3 == 0 ? path() : m_dir->filePath(u"other"_s);
-        put(target, bytes);
-        if (target != path())
-            QCOMPARE(::rename(qPrintable(target), qPrintable(path())), 0);
-        QCOMPARE(store.value(kKey), QVariant(text));
-    }
-    QVERIFY(QFile::remove(path()));
-    QVERIFY(!store.value(kKey).isValid());
-}
-
-void TestPreferenceDomain::looksWithoutReading()
-{
-    put(path(), kBlueFile);
-    const PreferenceDomain store = domain();
-    const quint64 first = store.generation();
-    QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
-    QCOMPARE(store.generation(), first);
-    QVERIFY(PreferenceDomain(m_dir->filePath(u"other"_s)).generation() != first);
-
-    pastFreshness();
-    QCOMPARE(store.generation(), first);
-    {
-        const WithoutDescriptors blind;
-        QCOMPARE(store.value(kKey), QVariant(u"blue"_s));
-        QCOMPARE(store.generation(), first);
-    }
-
-    QVERIFY(store.setValue(kKey, u"cream"_s));
-    QVERIFY(store.generation() != first);
-}
-
-/// A process short of descriptors must not take that for an empty store for ever.
-void TestPreferenceDomain::readsAgainAfterShortage()
-{
-    put(path(), kBlueFile);
-    pastFreshness();
-    {
-        const WithoutDescriptors blind;
-        QVERIFY(!domain().value(kKey).isValid());
-        QVERIFY(!domain().setValue(kKey, u"cream"_s));
-    }
-    QCOMPARE(domain().value(kKey), QVariant(u"blue"_s));
-}
-
-void TestPreferenceDomain::survivesDamage_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<qint64>("size");
-    const auto row = [](const char *name, const QByteArray &bytes) {
-        QTest::newRow(name) << bytes << qint64(bytes.size());
-    };
-    const QByteArray binary = platform::PropertyList::toBinary(QVariantMap{{kKey, u"blue"_s}});
-    row("zero bytes", "");
-    row("truncated", kBlueFile.first(kBlueFile.size() / 2));
-    row("zeros after a crash", QByteArray(kBlueFile.size(), '\0'));
-    row("broken trailer", binary.first(binary.size() - 1));
-    row("root is an array", "<plist version=\"1.0\"><array><integer>1</integer></array></plist>");
-    row("deeply nested", "<plist>" + QByteArray("<array>").repeated(60'000) +
-                             QByteArray("</array>").repeated(60'000) + "</plist>");
-    QTest::newRow("just over the limit, else sound")
-        << kBlueFile.chopped(8) + QByteArray(platform::kSmallFileLimit, ' ') + "</plist>"
-        << qint64(kBlueFile.size() + platform::kSmallFileLimit);
-    QTest::newRow("1 GiB with holes") << kBlueFile << qint64(1024) * 1024 * 1024;
-}
-
-void TestPreferenceDomain::survivesDamage()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(qint64, size);
-    put(path(), bytes);
-    QVERIFY(QFile::resize(path(), size));
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(domain().contents(), QVariantMap());
-    QVERIFY(timer.elapsed() < 1000);
-
-    QVERIFY(domain().setValue(kKey, u"cream"_s));
-    QCOMPARE(domain().value(kKey), QVariant(u"cream"_s));
-    QFile kept(path() + u".damaged"_s);
-    QCOMPARE(kept.size(), size);
-    QVERIFY(kept.open(QIODevice::ReadOnly));
-    QCOMPARE(kept.read(bytes.size()), bytes);
-}
-
-/// Also when they belong to somebody else, of whose files the kernel lets nobody make links, and
-/// where more copies were kept once.
-void TestPreferenceDomain::keepsTheLastDamagedFiles()
-{
-    constexpr uid_t kSomebodyElse = 65534;
-    const bool isRoot = ::geteuid() == 0;
-    for (const int number : {7, 100})
-        put(path() + u".damaged-%1"_s.arg(number), QByteArray::number(number));
-    put(path() + u".damaged-note"_s, "not ours");
-    for (int version = 1; version <= 3; ++version) {
-        put(path(), "version " + QByteArray::number(version));
-        QCOMPARE(::chmod(qPrintable(path()), 0644), 0);
-        QCOMPARE(::chmod(qPrintable(path()), 0644), 0);
-        if (isRoot)
-            QCOMPARE(::chown(qPrintable(path()), kSomebodyElse, kSomebodyElse), 0);
-        const WithoutPrivileges user;
-        QVERIFY(domain().setValue(kKey, u"blue"_s));
-    }
-    const QByteArrayList kept{"100", "version 1", "version 2", "version 3"};
-    for (int i = 0; i < kept.size(); ++i)
-        QCOMPARE(bytesOf(path() + (i == 0 ? u".damaged"_s : u".damaged-%1"_s.arg(i + 1))), kept[i]);
-    QCOMPARE(namesIn(folder()).filter(u".damaged"_s).size(), kept.size() + 1);
-}
-
-void TestPreferenceDomain::leavesWhatIsNoFile_data()
-{
-    QTest::addColumn<QString>("kind");
-    for (const char *kind : {"fifo", "folder", "loop", "device", "folder is a file"})
-        QTest::newRow(kind) << QString::fromLatin1(kind);
-}
-
-void TestPreferenceDomain::leavesWhatIsNoFile()
-{
-    QFETCH(QString, kind);
-    const QByteArray name = QFile::encodeName(path());
-    QString store = path();
-    if (kind == u"fifo")
-        QCOMPARE(::mkfifo(name.constData(), 0600), 0);
-    else if (kind == u"folder")
-        QVERIFY(QDir().mkdir(path()));
-    else if (kind == u"loop")
-        QCOMPARE(::symlink("store.plist", name.constData()), 0);
-    else if (kind == u"device")
-        QCOMPARE(::symlink("/dev/zero", name.constData()), 0);
-    else
-        put(path(), kBlueFile);
-    if (kind == u"folder is a file")
-        store += u"/below.plist"_s;
-    struct stat before = {};
-    QCOMPARE(::lstat(name.constData(), &before), 0);
-
-    const PreferenceDomain damaged(store);
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(damaged.contents(), QVariantMap());
-    QVERIFY(!damaged.setValue(kKey, u"blue"_s));
-    QVERIFY(timer.elapsed() < 1000);
-    QCOMPARE(namesIn(folder()), QStringList(u"store.plist"_s));
-    QVERIFY(!QFile::exists(u"/dev/.zero.lock"_s));
-    struct stat after = {};
-    QCOMPARE(::lstat(name.constData(), &after), 0);
-    QCOMPARE(after.st_ino, before.st_ino);
-    QCOMPARE(after.st_mode, before.st_mode);
-}
-
-/// Configuration is often kept elsewhere and linked from where programs look for it.
-void TestPreferenceDomain::followsLinks()
-{
-    const QString elsewhere = m_dir->filePath(u"elsewhere"_s);
-    QVERIFY(QDir().mkdir(elsewhere));
-    QCOMPARE(::symlink("../elsewhere/middle", qPrintable(path())), 0);
-    QCOMPARE(::symlink("kept.plist", qPrintable(elsewhere + u"/middle"_s)), 0);
-
-    QVERIFY(domain().setValue(kKey, u"blue"_s)); // the last link still leads nowhere
-    QVERIFY(domain().setValue(u"CalendarEnabled"_s, true));
-    QVERIFY(QFileInfo(path()).isSymbolicLink());
-    QVERIFY(!QFileInfo(elsewhere + u"/kept.plist"_s).isSymbolicLink());
-    QCOMPARE(PreferenceDomain(elsewhere + u"/kept.plist"_s).value(kKey), QVariant(u"blue"_s));
-    QCOMPARE(domain().contents().size(), 2);
-}
-
-void TestPreferenceDomain::faultsAreToldAndChangeNothing_data()
-{
-    QTest::addColumn<StoreFault>("fault");
-    QTest::addColumn<std::function<void()>>("prepare");
-    QTest::addColumn<QVariant>("value");
-    const auto row = [](const char *name, StoreFault fault, const std::function<void()> &prepare,
-                        const QVariant &value = u"cream"_s) {
-        QTest::newRow(name) << fault << prepare << value;
-    };
-    const auto closeFile = [this](const QString &name, mode_t mode) {
-        return [=, this] { QCOMPARE(::chmod(qPrintable(m_dir->filePath(name)), mode), 0); };
-    };
-    row("no permission for the folder", StoreFault::NotPermitted, closeFile(u"sub"_s, 0500));
-    row("unreadable", StoreFault::NotPermitted, closeFile(u"sub/store.plist"_s, 0));
-    row("no permission for the lock", StoreFault::NotPermitted,
-        closeFile(u"sub/.store.plist.lock"_s, 0400));
-    row("stuck writer", StoreFault::Locked, [this] {
-        m_stuck = std::make_unique<platform::FileLock>(folder() + u"/.store.plist.lock"_s, 0ms);
-    });
-    row("no locks", StoreFault::NoLocks, [] { g_lockError = ENOLCK; });
-    row("full disk", StoreFault::DiskFull, [this] { m_disk = std::make_unique<FullDisk>(50); });
-    row("full when flushed", StoreFault::DiskFull, [] { g_flushError = ENOSPC; });
-    row(
-        "no property list", StoreFault::NotKeepable, [] {}, QTime(1, 2));
-    row(
-        "too large", StoreFault::NotKeepable, [] {}, QByteArray(platform::kSmallFileLimit, 'x'));
-}
-
-void TestPreferenceDomain::faultsAreToldAndChangeNothing()
-{
-    QFETCH(StoreFault, fault);
-    QFETCH(std::function<void()>, prepare);
-    QFETCH(QVariant, value);
-    QVERIFY(domain().setValue(kKey, u"blue"_s));
-    const QByteArray before = bytesOf(path());
-    prepare();
-    QElapsedTimer timer;
-    timer.start();
-    {
-        const WithoutPrivileges user;
-        const platform::StoreOutcome outcome = domain().setValue(kKey, value);
-        QCOMPARE(outcome.fault, fault);
-        QVERIFY(outcome.path.startsWith(folder()));
-    }
-    QVERIFY(timer.elapsed() < 1800);
-    m_stuck.reset();
-    m_disk.reset();
-    g_lockError = g_flushError = 0;
-    ::chmod(qPrintable(folder()), 0700);
-    ::chmod(qPrintable(path()), 0600);
-    ::chmod(qPrintable(folder() + u"/.store.plist.lock"_s), 0600);
-    QCOMPARE(bytesOf(path()), before);
-    QCOMPARE(namesIn(folder()), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
-    QVERIFY(domain().setValue(kKey, u"cream"_s));
-    QCOMPARE(domain().value(kKey), QVariant(u"cream"_s));
-}
-
-void TestPreferenceDomain::clearsUpAfterKilledWriter()
-{
-    put(path(), kBlueFile);
-    put(folder() + u"/.store.plist.new"_s, "half a fi");
-    QCOMPARE(domain().value(kKey), QVariant(u"blue"_s));
-    QVERIFY(domain().setValue(u"CalendarEnabled"_s, true));
-    QCOMPARE(namesIn(folder()), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
-    QCOMPARE(domain().contents().size(), 2);
-}
 
 QTEST_GUILESS_MAIN(TestPreferenceDomain)
 #include "test_PreferenceDomain.moc"

@@ -1,32 +1,30 @@
 // SPDX-License-Identifier: MIT
-// Many processes that write one store at a time, and are killed while they do.
+// Many processes writing one store, and killed amid it.
 #include "platform/PreferenceDomain.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
 #include <array>
-#include <cstring>
-#include <fcntl.h>
-#include <memory>
+#include <atomic>
+#include <csignal>
 #include <random>
+#include <ranges>
+#include <sys/mman.h>
+#include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 using platform::PreferenceDomain;
 
 namespace {
 
-// This program runs itself again as writers and readers of one store.
-
 constexpr int kWriters = 8;
-constexpr int kReaders = 4;
-constexpr int kWrites = 500;
+constexpr int kRounds = 8;
 constexpr int kTries = 10;
 
 QString writerKey(int writer)
@@ -41,74 +39,21 @@ QVariantList stressValue(int number)
     return {qlonglong(number), text, text};
 }
 
-bool isWhole(const QVariant &value)
-{
-    const QVariantList list = value.toList();
-    return list.size() == 3 && list == stressValue(list.first().toInt());
-}
-
 /// Writes the numbers above \p first under its own key and reports each one once it is stored.
-int runWriter(const QString &path, int writer, int first, int writes)
+[[noreturn]] void runWriter(const QString &path, int writer, int first, std::atomic<int> &reported)
 {
     const PreferenceDomain domain(path);
-    for (int i = first + 1; i <= first + writes; ++i) {
+    int tries = 0;
+    for (int i = first + 1;;) {
         // On a busy disk the others may write for longer than a writer waits; a write that was
         // refused changed nothing and is made again.
-        int tries = 1;
-        while (!domain.setValue(writerKey(writer), stressValue(i))) {
-            if (++tries > kTries)
-                return 1;
+        if (domain.setValue(writerKey(writer), stressValue(i))) {
+            reported = i++;
+            tries = 0;
+        } else if (++tries > kTries) {
+            ::_exit(1);
         }
-        if (::write(STDOUT_FILENO, &i, sizeof i) != sizeof i)
-            return 2;
     }
-    return 0;
-}
-
-/// Reads until its input closes. Every value it sees is whole, and none goes or runs back.
-int runReader(const QString &path)
-{
-    const PreferenceDomain domain(path);
-    std::array<int, kWriters> last = {};
-    char end = 0;
-    ::fcntl(STDIN_FILENO, F_SETFL, O_NONBLOCK);
-    while (::read(STDIN_FILENO, &end, 1) != 0) {
-        const QVariantMap values = domain.contents();
-        for (int writer = 0; writer < kWriters; ++writer) {
-            const QVariant value = values.value(writerKey(writer));
-            const int number = value.isValid() ? value.toList().value(0).toInt() : 0;
-            if ((value.isValid() && !isWhole(value)) || number < last[size_t(writer)])
-                return 3;
-            last[size_t(writer)] = number;
-        }
-        QThread::usleep(500); // leave the processors to the writers
-    }
-    return 0;
-}
-
-std::unique_ptr<QProcess> startSelf(const QStringList &arguments)
-{
-    auto process = std::make_unique<QProcess>();
-    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process->start(QCoreApplication::applicationFilePath(), arguments);
-    return process;
-}
-
-std::unique_ptr<QProcess> startWriter(const QString &path, int writer, int first, int writes)
-{
-    return startSelf({u"--write"_s, path, QString::number(writer), QString::number(first),
-                      QString::number(writes)});
-}
-
-/// The last number that a writer reported.
-int lastReported(QProcess &writer)
-{
-    const QByteArray output = writer.readAllStandardOutput();
-    int number = 0;
-    const qsizetype whole = output.size() - output.size() % qsizetype(sizeof number);
-    if (whole > 0)
-        std::memcpy(&number, output.constData() + whole - sizeof number, sizeof number);
-    return number;
 }
 
 } // namespace
@@ -118,100 +63,65 @@ class TestPreferenceWriters : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_dir = std::make_unique<QTemporaryDir>(); }
-    void cleanup() { m_dir.reset(); }
-
-    void writersLoseNothing();
-    void killedWritersLoseNothingElse();
-
-private:
-    QString path() const { return m_dir->filePath(u"store.plist"_s); }
-    QStringList namesInFolder() const
+    /// Each one's successor goes on from what is stored.
+    void killedWritersLoseNothingElse()
     {
-        return QDir(m_dir->path())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        const QTemporaryDir dir;
+        const QString path = dir.filePath(u"store.plist"_s);
+        const PreferenceDomain domain(path);
+        auto *reported = static_cast<std::atomic<int> *>(
+            ::mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+        std::array<int, kWriters> seen = {};
+        // Every value is whole, and none goes or runs back.
+        const auto look = [&] {
+            const QVariantMap values = domain.contents();
+            for (int i = 0; i < kWriters; ++i) {
+                const QVariant value = values.value(writerKey(i));
+                const int number = value.toList().value(0).toInt();
+                if (number < seen[size_t(i)] || (value.isValid() && value != stressValue(number)))
+                    return false;
+                seen[size_t(i)] = number;
+            }
+            return true;
+        };
+        std::mt19937 random(20);
+        std::uniform_int_distribution<int> looks(1, 60);
+        for (int round = 0; round < kRounds; ++round) {
+            const std::array<int, kWriters> before = seen;
+            std::array<pid_t, kWriters> writers = {};
+            for (int i = 0; i < kWriters; ++i) {
+                writers[size_t(i)] = ::fork();
+                if (writers[size_t(i)] == 0)
+                    runWriter(path, i, seen[size_t(i)], reported[i]);
+            }
+            const auto isAtWork = [&](int i) { return reported[i] > before[size_t(i)]; };
+            QTRY_VERIFY_WITH_TIMEOUT(std::ranges::all_of(std::views::iota(0, kWriters), isAtWork),
+                                     30'000);
+            for (const pid_t writer : writers) {
+                for (int i = looks(random); i > 0; --i) {
+                    QVERIFY(look());
+                    QThread::usleep(500); // leave the processors to the writers
+                }
+                int status = 0;
+                ::kill(writer, SIGKILL);
+                ::waitpid(writer, &status, 0);
+                QVERIFY(WIFSIGNALED(status));
+            }
+            QVERIFY(look());
+            for (int i = 0; i < kWriters; ++i) {
+                // Killed between storing a number and reporting it, it is one ahead.
+                const int ahead = seen[size_t(i)] - reported[i];
+                QVERIFY(ahead == 0 || ahead == 1);
+            }
+        }
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(domain.setValue(u"SelectedVariant"_s, u"blue"_s));
+        QVERIFY(timer.elapsed() < 1000);
+        QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
     }
-
-    std::unique_ptr<QTemporaryDir> m_dir;
 };
 
-void TestPreferenceWriters::writersLoseNothing()
-{
-    std::vector<std::unique_ptr<QProcess>> readers;
-    for (int i = 0; i < kReaders; ++i)
-        readers.push_back(startSelf({u"--read"_s, path()}));
-    std::vector<std::unique_ptr<QProcess>> writers;
-    for (int i = 0; i < kWriters; ++i)
-        writers.push_back(startWriter(path(), i, 0, kWrites));
-    for (const auto &writer : writers) {
-        QVERIFY(writer->waitForFinished(60'000));
-        QCOMPARE(writer->exitCode(), 0);
-    }
-    for (const auto &reader : readers) {
-        reader->closeWriteChannel();
-        QVERIFY(reader->waitForFinished());
-        QCOMPARE(reader->exitCode(), 0);
-    }
-    const QVariantMap values = PreferenceDomain(path()).contents();
-    QCOMPARE(values.size(), kWriters);
-    for (int i = 0; i < kWriters; ++i)
-        QCOMPARE(values.value(writerKey(i)), QVariant(stressValue(kWrites)));
-    QCOMPARE(namesInFolder(), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
-}
-
-/// Kills all writers at random moments, round after round; each one's successor goes on from what
-/// is stored.
-void TestPreferenceWriters::killedWritersLoseNothingElse()
-{
-    constexpr int kRounds = 8;
-    constexpr int kEndless = 1'000'000;
-    std::mt19937 random(20);
-    std::uniform_int_distribution<int> pause(0, 60);
-    const auto reader = startSelf({u"--read"_s, path()});
-    std::array<int, kWriters> stored = {};
-    for (int round = 0; round < kRounds; ++round) {
-        std::vector<std::unique_ptr<QProcess>> writers;
-        for (int i = 0; i < kWriters; ++i)
-            writers.push_back(startWriter(path(), i, stored[size_t(i)], kEndless));
-        for (const auto &writer : writers)
-            QVERIFY(writer->waitForReadyRead());
-        for (const auto &writer : writers) {
-            QTest::qSleep(pause(random));
-            writer->kill();
-            QVERIFY(writer->waitForFinished());
-        }
-        const QVariantMap values = PreferenceDomain(path()).contents();
-        QCOMPARE(values.size(), kWriters);
-        for (int i = 0; i < kWriters; ++i) {
-            const QVariant value = values.value(writerKey(i));
-            QVERIFY(isWhole(value));
-            stored[size_t(i)] = value.toList().first().toInt();
-            // Killed between storing a number and reporting it, it may be one ahead.
-            const int ahead = stored[size_t(i)] - lastReported(*writers[size_t(i)]);
-            QVERIFY(ahead == 0 || ahead == 1);
-        }
-    }
-    reader->closeWriteChannel();
-    QVERIFY(reader->waitForFinished());
-    QCOMPARE(reader->exitCode(), 0);
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(PreferenceDomain(path()).setValue(u"SelectedVariant"_s, u"blue"_s));
-    QVERIFY(timer.elapsed() < 1000);
-    QCOMPARE(namesInFolder(), QStringList({u".store.plist.lock"_s, u"store.plist"_s}));
-}
-
-int main(int argc, char **argv)
-{
-    const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"--write")
-        return runWriter(arguments.value(2), arguments.value(3).toInt(), arguments.value(4).toInt(),
-                         arguments.value(5).toInt());
-    if (arguments.value(1) == u"--read")
-        return runReader(arguments.value(2));
-    TestPreferenceWriters test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TestPreferenceWriters)
 #include "test_PreferenceWriters.moc"

@@ -41,17 +41,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QColor>("background");
         QTest::addColumn<QColor>("mark");
-        QTest::newRow("blue") << u"blue"_s << u"blue"_s << QColor(0x00, 0x21, 0xd0)
-                              << QColor(Qt::white);
-        QTest::newRow("cream") << u"cream"_s << u"cream"_s << QColor(0xff, 0xf5, 0xe8)
-                               << QColor(Qt::black);
         QTest::newRow("nero") << u"nero"_s << u"nero"_s << QColor(Qt::black) << QColor(Qt::white);
         QTest::newRow("alias of nero")
             << u"black"_s << u"nero"_s << QColor(Qt::black) << QColor(Qt::white);
         QTest::newRow("unknown") << u"mauve"_s << u"orange"_s << QColor(0xff, 0x46, 0x00)
                                  << QColor(Qt::black);
-        QTest::newRow("the night is no variant")
-            << u"night"_s << u"orange"_s << QColor(0xff, 0x46, 0x00) << QColor(Qt::black);
         QTest::newRow("custom without colours")
             << u"custom"_s << u"custom"_s << QColor(0xff, 0x46, 0x00) << QColor(Qt::black);
     }
@@ -81,7 +75,9 @@ private Q_SLOTS:
         for (int start = 0; start < 200; ++start) {
             view->startAnimation();
             const QString picked = view->loadedPalette().activeVariant;
+            SaverFixture::set(f.stores.suite, kCalendarEnabledKey, start % 2 == 0);
             view->animateOneFrame();
+            QCOMPARE(view->appliedSettings().calendarEnabled, start % 2 == 0);
             QCOMPARE(view->loadedPalette().activeVariant, picked);
             ++picks[picked];
         }
@@ -105,24 +101,6 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(1, 1), QColor(0, 0, 255));
         QCOMPARE(picture.pixelColor(98, 26), QColor(0, 255, 0));
         QCOMPARE(view->paletteTransitionProgress(), 1.0); // no fade
-    }
-
-    void calendarSwitchKeepsThePalette()
-    {
-        const SaverFixture f;
-        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"random"_s);
-        const auto view = f.makeView();
-        const QString picked = view->loadedPalette().activeVariant;
-        for (int i = 0; i < 20; ++i) {
-            SaverFixture::set(f.stores.suite, kCalendarEnabledKey, i % 2 == 0);
-            view->animateOneFrame();
-            QCOMPARE(view->appliedSettings().calendarEnabled, i % 2 == 0);
-            QCOMPARE(view->loadedPalette().activeVariant, picked);
-        }
-        const QRectF solo = view->clockRect();
-        SaverFixture::set(f.stores.suite, kCalendarEnabledKey, true);
-        view->animateOneFrame();
-        QVERIFY(view->clockRect().width() < solo.width());
     }
 
     void nightFadesInExactly()
@@ -186,31 +164,23 @@ private Q_SLOTS:
         QCOMPARE(view->displayedBackgroundColor(), kOrange);
     }
 
-    void anotherChangeEndsAFade_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("value");
-        QVariantMap darker = kNight;
-        darker.insert(u"base"_s, u"#000001"_s);
-        QTest::newRow("night colours") << kNightSettingsKey << QVariant(darker);
-        QTest::newRow("variant") << kSelectedVariantKey << QVariant(u"blue"_s);
-    }
-
     void anotherChangeEndsAFade()
     {
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        SaverFixture f;
-        f.setNight(kNight);
-        const auto view = f.makeView();
-        f.setTime(22, 0);
-        view->animateOneFrame();
-        f.clocks.setMonotonicSeconds(1001.0);
-        QVERIFY(view->paletteTransitionProgress() < 1.0);
-        SaverFixture::set(f.stores.suite, key, value);
-        view->animateOneFrame();
-        QCOMPARE(view->paletteTransitionProgress(), 1.0);
-        QCOMPARE(view->loadedPalette().activeVariant, u"night"_s);
+        QVariantMap darker = kNight;
+        darker.insert(u"base"_s, u"#000001"_s);
+        for (const auto &[key, value] : {std::pair(kNightSettingsKey, QVariant(darker)),
+                                         {kSelectedVariantKey, QVariant(u"blue"_s)}}) {
+            SaverFixture f;
+            f.setNight(kNight);
+            const auto view = f.makeView();
+            f.setTime(22, 0);
+            view->animateOneFrame();
+            f.clocks.setMonotonicSeconds(1001.0);
+            QVERIFY(view->paletteTransitionProgress() < 1.0);
+            SaverFixture::set(f.stores.suite, key, value);
+            view->animateOneFrame();
+            QCOMPARE(view->paletteTransitionProgress(), 1.0);
+        }
     }
 
     void theNightHidesCustomColours()
@@ -225,75 +195,6 @@ private Q_SLOTS:
         QCOMPARE(view->paletteTransitionProgress(), 1.0);
         QVERIFY(!view->appliedSettings().lastStoredCustomBaseColor.isValid());
         QCOMPARE(view->displayedBackgroundColor(), QColor(0x10, 0x18, 0x20));
-    }
-
-    void storingWritesEverywhere()
-    {
-        const SaverFixture f;
-        const auto view = f.makeView();
-        const PreferenceStores &s = f.stores;
-        const auto everywhere = [&](QStringView key) {
-            QVariantList values;
-            for (const auto *store :
-                 {&s.suite, &s.saverDefaults, &s.shortNameDefaults, &s.standardDefaults})
-                values.append(store->value(key.toString()));
-            return values;
-        };
-        view->storeSelectedVariant(u"random"_s);
-        QCOMPARE(everywhere(kSelectedVariantKey), QVariantList(4, u"orange"_s));
-        view->storeSelectedVariant(u"black"_s);
-        QCOMPARE(view->storedSelectedVariant(), u"nero"_s);
-        view->storeCalendarEnabled(true);
-        QCOMPARE(everywhere(kCalendarEnabledKey), QVariantList(4, true));
-        view->storeColor(QColor(1, 2, 3, 4), kCustomBaseColorKey);
-        QCOMPARE(everywhere(kCustomBaseColorKey), QVariantList(4, u"#010203"_s));
-        view->storeNightSettings({{u"enabled"_s, true}, {u"from"_s, 5000LL}});
-        QCOMPARE(s.suite.value(kNightSettingsKey).toMap().value(u"from"_s).toInt(), 5000);
-        QVERIFY(s.saverDefaults.value(kNightSettingsKey).isValid());
-        QVERIFY(!s.shortNameDefaults.value(kNightSettingsKey).isValid());
-        QCOMPARE(view->storedNightSettings().value(u"from"_s).toInt(), 1439);
-    }
-
-    void damagedStoresShowTheDefaults_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("noise") << QByteArray("\xff\xfe<plist");
-        QTest::newRow("cut off") << QByteArray(
-            "<?xml version=\"1.0\"?><plist><dict><key>SelectedVariant</key>");
-        QTest::newRow("an array") << QByteArray(
-            "<plist version=\"1.0\"><array><string>blue</string></array></plist>");
-    }
-
-    void damagedStoresShowTheDefaults()
-    {
-        QFETCH(QByteArray, bytes);
-        const SaverFixture f;
-        SaverFixture::set(f.stores.suite, kSelectedVariantKey, u"blue"_s);
-        const auto view = f.makeView();
-        QCOMPARE(view->loadedPalette().activeVariant, u"blue"_s);
-        QFile file(f.stores.suite.path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
-        view->animateOneFrame();
-        QCOMPARE(view->loadedPalette().activeVariant, u"orange"_s);
-        view->storeSelectedVariant(u"cream"_s);
-        view->animateOneFrame();
-        QCOMPARE(view->loadedPalette().activeVariant, u"cream"_s);
-    }
-
-    void artworkThatIsMissingLeavesTheBackground()
-    {
-        const SaverFixture f;
-        platform::Desktop desktop = f.desktop();
-        desktop.bundle = platform::Bundle(f.folder.path());
-        TamselClockSaverView view(desktop, true);
-        view.resize(50, 50);
-        const QImage picture = SaverFixture::picture(view);
-        QImage plain(picture.size(), picture.format());
-        plain.fill(QColor(0xff, 0x46, 0x00));
-        QCOMPARE(picture, plain);
     }
 
     void drawsNothingBeyondAThinView()

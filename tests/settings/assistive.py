@@ -1,28 +1,41 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The whole options window as a screen reader finds it: what each control is, is called, says and tells as help, in the
-order in which the Tab key goes through them."""
+order in which the Tab key goes through them; in English or, with its catalogue, in another language."""
 import os
 import plistlib
 import sys
 import time
+import xml.etree.ElementTree as xml
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 from optionswindow import FOLDER, SUITE, OptionsWindow  # noqa: E402
 from screenreader import act, actions, click, has, middle, role_of, start_desktop, text_of, until, xdotool  # noqa: E402
 from xhost import check, wait_for  # noqa: E402
 
+PROGRAM, *CATALOGUE = sys.argv[1:]
+TEXTS = {message.find("source").text: message.find("translation").text
+         for file in CATALOGUE for message in xml.parse(file).iter("message")}
+
+
+def say(text):
+    return TEXTS.get(text, text)
+
+
 EQUAL_TIMES = "Night mode start and end times must be different."
 NO_PLACE = "Sun times need location permission."
 # role, name, help or description, text or whether it is checked
-EXPECTED = [
-    ("radio button", "Preview day colors", "", True),
-    ("radio button", "Preview night colors", "", False),
+THEMES = [
     ("radio button", "Cream", "#FFF5E8", False),
     ("radio button", "Orange", "#FF4600", False),
     ("radio button", "Blue", "#0021D0", False),
     ("radio button", "Nero", "#000000", False),
     ("radio button", "Custom", "Custom", True),
+]
+EXPECTED = [
+    ("radio button", "Preview day colors", "", True),
+    ("radio button", "Preview night colors", "", False),
+    *THEMES,
     ("text", "Day primary hex color", "", "#AABBCC"),
     ("push button", "Day primary color", "#AABBCC", None),
     ("text", "Day background hex color", "", "#112233"),
@@ -41,6 +54,7 @@ EXPECTED = [
     ("push button", "Night mode end setting", NO_PLACE, None),
     ("push button", "Cancel", "", None),
 ]
+EXPECTED = [(role, say(name), say(description), value) for role, name, description, value in EXPECTED]
 
 
 def described(node):
@@ -75,14 +89,27 @@ FOLDER.mkdir(parents=True)
 SUITE.write_bytes(plistlib.dumps({
     "SelectedVariant": "custom", "CustomBaseColor": "#112233", "CustomMarkColor": "#AABBCC",
     "NightSettings": {"enabled": True, "from": 1200, "to": 1200, "fromMode": "custom", "toMode": "custom"}}))
-window = OptionsWindow(sys.argv[1], start_desktop("900x720"))
+start_desktop("900x720")
+for file in CATALOGUE:
+    os.environ["LANGUAGE"] = xml.parse(file).getroot().get("language")
+window = OptionsWindow(PROGRAM, say)
 ok = window.control("push button", "OK")
 check(not has(ok, "ENABLED"), "OK is disabled with a night without length")
-in_reading_order = [described(n) for n in window.application.nodes()
-                    if has(n, "FOCUSABLE") and has(n, "SHOWING") and has(n, "ENABLED")]
+in_reading_order = [described(n) for n in window.application.nodes() if has(n, "SHOWING") and has(n, "ENABLED")
+                    and (has(n, "FOCUSABLE") or role_of(n) == "radio button")]
 expect(in_reading_order, EXPECTED, "reading order")
-expect(tab_order(), [control[:3] for control in EXPECTED], "tab order")
+# Of the themes only the chosen one, which has the focus first, is on the way; arrow keys choose another.
+chosen = EXPECTED.index(("radio button", say("Custom"), say("Custom"), True))
+on_the_way = EXPECTED[chosen:] + EXPECTED[:chosen - len(THEMES) + 1]
+expect(tab_order(), [control[:3] for control in on_the_way], "tab order")
+xdotool("key", "shift+Tab")
+is_mirrored = os.environ.get("LANGUAGE") == "ar"
+for key, theme in ("Right" if is_mirrored else "Left", "Nero"), ("Left" if is_mirrored else "Right", "Custom"):
+    xdotool("key", key)
+    wait_for(f"{theme} by an arrow key", lambda: has(window.control("radio button", theme), "CHECKED"))
 
+for title in ("Theme", "Custom", "Primary", "Background", "Monthly calendar", "Night Mode", "From", "To"):
+    window.control("label", title)
 roles = [role_of(node) for node in window.application.nodes()]
 check(roles.count("separator") == 4 and "ShowMenu" in actions(window.control("push button", "Night mode end setting")),
       "separators and menus are told")
@@ -105,6 +132,8 @@ check(swatch.get_description() == window.text("Day primary hex color") == "#BBCC
 
 # The wheel scrolls the sheet past a time that is not being edited.
 start = window.control("spin button", "Night mode starts at")
+xdotool("mousemove", *middle(window.control("label", "Theme")), "click", "--repeat", 9, 5)
+wait_for("the end of the sheet", lambda: middle(ok)[1] < 700)
 before = middle(start)
 xdotool("mousemove", *before, "click", 4)
 wait_for("a scrolled sheet", lambda: middle(start)[1] > before[1])
@@ -121,6 +150,6 @@ for role, name, present in (("check box", "Night Mode", "push button Night mode 
     check(act(window.control(role, name), "Toggle"), f"{name} is switched")
     gone_role, gone_name = " ".join(present.split()[:2]), " ".join(present.split()[2:])
     wait_for(f"the end of {present}", lambda: not window.shown(gone_role, gone_name))
-check(not window.application.find("radio button", "Preview night colors"), "nothing hidden in the preview is told")
+check(not window.application.find("radio button", say("Preview night colors")), "nothing hidden in the preview is told")
 check(act(ok, "Press"), "OK is pressed")
 window.expect_end(0)

@@ -1,36 +1,42 @@
 // SPDX-License-Identifier: MIT
+// Where the parts of the options sheet stand, how they get there, and that they can be read.
 #include "settings/SheetLayout.h"
 
+#include "controls/Emphasis.h"
+#include "controls/TamselInputFill.h"
+#include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
+#include "settings/SheetRules.h"
+#include "settings/SheetTransition.h"
+#include "tests/support/Contrast.h"
+#include "tests/support/ControlPicture.h"
+
 #include <QTest>
+
+using platform::Appearance;
+
+namespace {
+
+bool near(double a, double b)
+{
+    return qAbs(a - b) < 1e-6;
+}
+
+} // namespace
 
 class TestSheetLayout : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void groupsStandBelowEachOther_data()
-    {
-        QTest::addColumn<double>("day");
-        QTest::addColumn<double>("night");
-        QTest::addColumn<QList<double>>("tops"); // theme, calendar, night, actions, end
-        QTest::newRow("collapsed") << 42.0 << 42.0 << QList<double>{252, 304, 356, 430, 482};
-        QTest::newRow("custom") << 138.0 << 42.0 << QList<double>{252, 400, 452, 526, 578};
-        QTest::newRow("night") << 42.0 << 222.0 << QList<double>{252, 304, 356, 610, 662};
-        QTest::newRow("both") << 138.0 << 222.0 << QList<double>{252, 400, 452, 706, 758};
-        QTest::newRow("moving") << 60.5 << 42.0 << QList<double>{252, 322.5, 374.5, 448.5, 500.5};
-    }
-
     void groupsStandBelowEachOther()
     {
-        QFETCH(double, day);
-        QFETCH(double, night);
-        QFETCH(QList<double>, tops);
-        const SheetLayout layout = sheetLayout(day, night);
-        QCOMPARE(layout.themeGroup, QRectF(28, tops[0], 344, day));
-        QCOMPARE(layout.calendarGroup, QRectF(28, tops[1], 344, 42));
-        QCOMPARE(layout.nightGroup, QRectF(28, tops[2], 344, night));
-        QCOMPARE(layout.settingsActions, QRectF(28, tops[3], 344, 24));
-        QCOMPARE(layout.contentHeight, tops[4]);
+        const SheetLayout layout = sheetLayout(138.0, 60.5);
+        QCOMPARE(layout.themeGroup, QRectF(28, 252, 344, 138));
+        QCOMPARE(layout.calendarGroup, QRectF(28, 400, 344, 42));
+        QCOMPARE(layout.nightGroup, QRectF(28, 452, 344, 60.5));
+        QCOMPARE(layout.settingsActions, QRectF(28, 544.5, 344, 24));
+        QCOMPARE(layout.contentHeight, 596.5);
     }
 
     void theWindowKeepsToTheScreen_data()
@@ -43,8 +49,6 @@ private Q_SLOTS:
         const QRectF small(0, 30, 1024, 700);
         QTest::newRow("grows downwards")
             << QRectF(500, 100, 400, 482) << 758.0 << large << QRectF(500, 100, 400, 758);
-        QTest::newRow("shrinks upwards")
-            << QRectF(500, 100, 400, 758) << 482.0 << large << QRectF(500, 100, 400, 482);
         QTest::newRow("moves up at the lower edge")
             << QRectF(500, 600, 400, 482) << 662.0 << large << QRectF(500, 418, 400, 662);
         QTest::newRow("scrolls on a low screen")
@@ -58,7 +62,83 @@ private Q_SLOTS:
         QFETCH(QRectF, screen);
         QTEST(sheetFrame(frame, content, screen), "expected");
     }
+
+    /// Rows come after their group has grown, and go before it shrinks.
+    void groupsAndRowsTakeTurns_data()
+    {
+        QTest::addColumn<bool>(
+            "toNight"); // else to the colours of one's own; always from the other
+        QTest::addColumn<double>("time");
+        QTest::addColumn<QList<double>>("day"); // height and alpha, none while its rows are hidden
+        QTest::addColumn<QList<double>>("night");
+        const QList<double> none{42.0};
+        QTest::newRow("rows half gone") << false << 0.08 << none << QList<double>{222.0, 0.5};
+        QTest::newRow("half of both")
+            << true << 0.32 << QList<double>{90.0} << QList<double>{132.0};
+        QTest::newRow("just begun") << true << 0.24 << QList<double>{138.0 - 96.0 * 0.15625}
+                                    << QList<double>{42.0 + 180.0 * 0.15625};
+        QTest::newRow("rows half there") << true << 0.56 << none << QList<double>{222.0, 0.5};
+        QTest::newRow("done") << true << 60.0 << none << QList<double>{222.0, 1.0};
+    }
+
+    void groupsAndRowsTakeTurns()
+    {
+        QFETCH(bool, toNight);
+        QFETCH(double, time);
+        QFETCH(QList<double>, day);
+        QFETCH(QList<double>, night);
+        const SheetTransition transition(sheetAtRest(toNight, !toNight), false, toNight);
+        QVERIFY(transition.isNeeded() && near(transition.duration(), toNight ? 0.64 : 0.48));
+        const SheetState state = transition.at(time);
+        for (const auto &[rows, expected] : {std::pair(state.day, day), {state.night, night}}) {
+            QVERIFY(near(rows.groupHeight, expected.first()));
+            QCOMPARE(rows.hidden, expected.size() == 1);
+            QVERIFY(rows.hidden || near(rows.alpha, expected.last()));
+        }
+    }
+
+    void aNewChangeGoesOnFromTheStateReached()
+    {
+        QVERIFY(!SheetTransition(sheetAtRest(true, false), true, false).isNeeded());
+        for (const double interruptedAt : {0.05, 0.30, 0.48}) { // fading, shrinking, shrunk
+            const SheetState reached =
+                SheetTransition(sheetAtRest(false, true), false, false).at(interruptedAt);
+            const SheetTransition back(reached, false, true);
+            QCOMPARE(back.at(0.0), reached);
+            double height = reached.night.groupHeight;
+            for (int step = 0; step < 100; ++step) {
+                const double now = back.at(back.duration() * step / 100).night.groupHeight;
+                QVERIFY(now >= height);
+                height = now;
+            }
+            QCOMPARE(back.at(back.duration()), sheetAtRest(false, true));
+        }
+    }
+
+    void textCanBeRead()
+    {
+        QCOMPARE(inkForLuminance(0.5), QColor(Qt::white));
+        QCOMPARE(inkForLuminance(0.5000001), QColor(Qt::black));
+        QVERIFY(near(luminance(QColor(255, 0, 255)), 0.2126 + 0.0722));
+        for (const auto scheme : {Appearance::Scheme::Light, Appearance::Scheme::Dark}) {
+            const Appearance look(scheme);
+            QWidget view;
+            setAppearanceOf(&view, look);
+            const QColor inputFill = TamselInputFill(&view);
+            const QColor group =
+                composed(look.windowBackgroundColor(), withAlpha(look.labelColor(), 0.03));
+            const Emphasis emphasis = emphasisFrom(look.controlAccentColor());
+            const std::pair<QColor, QColor> inksOnGrounds[] = {
+                {look.labelColor(), group},
+                {look.secondaryLabelColor(), group},
+                {look.controlTextColor(), inputFill},
+                {look.systemRedColor(), inputFill}, // an end time that is refused
+                {emphasis.ink, emphasis.fill}};
+            for (const auto &[ink, on] : inksOnGrounds)
+                QVERIFY2(contrast(ink, on) >= 4.5, qPrintable(ink.name() + on.name()));
+        }
+    }
 };
 
-QTEST_APPLESS_MAIN(TestSheetLayout)
+QTEST_MAIN(TestSheetLayout)
 #include "test_SheetLayout.moc"

@@ -49,7 +49,8 @@ public:
         for (int look = 0; look < kLooks && difference > kEdgeTolerance; ++look) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
             const QImage screen = m_screen(*view).convertToFormat(QImage::Format_RGB32);
-            difference = pixels::largestDifference(screen, sampled(reference(), screen.size()));
+            const QImage reference = SaverFixture::picture(*view, view->devicePixelRatioF());
+            difference = pixels::largestDifference(screen, sampled(reference, screen.size()));
         }
         if (difference > kEdgeTolerance)
             qWarning("differs by %d of 255", difference);
@@ -124,16 +125,6 @@ private:
             }
         }
         return screen;
-    }
-
-    QImage reference() const
-    {
-        const double ratio = view->devicePixelRatioF();
-        QImage picture((QSizeF(view->size()) * ratio).toSize(), QImage::Format_RGB32);
-        picture.setDevicePixelRatio(ratio);
-        QPainter painter(&picture);
-        view->drawRect(painter, view->rect());
-        return picture;
     }
 
     Picture m_screen;

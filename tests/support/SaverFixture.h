@@ -50,9 +50,10 @@ struct SaverFixture
         clocks.setNow(QDateTime(QDate(2026, 3, 14), QTime(hour, minute)));
     }
 
-    static QImage picture(TamselClockSaverView &view)
+    static QImage picture(TamselClockSaverView &view, double ratio = 1.0)
     {
-        QImage image(view.size(), QImage::Format_RGB32);
+        QImage image((QSizeF(view.size()) * ratio).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
         QPainter painter(&image);
         view.drawRect(painter, view.rect());
         return image;

@@ -73,17 +73,5 @@ struct SheetFixture : SaverFixture
         QTest::keyClicks(field, text);
     }
 
-    /// What assistive technology calls \p control.
-    static QString nameOf(const QWidget *control)
-    {
-        const auto *button = qobject_cast<const PushButton *>(control);
-        return button ? button->text() : control->accessibleName();
-    }
-
     static void click(QWidget *control) { QTest::mouseClick(control, Qt::LeftButton); }
-
-    static void setTime(QTimeEdit *picker, int hour, int minute)
-    {
-        picker->setTime(QTime(hour, minute));
-    }
 };

@@ -59,7 +59,6 @@ ANSWERS = {
     "no-agent": refuse("'org.tamsel.PelkoLocation' disallowed, no agent for UID 1000"),
     "silent": "",
     "vanishing": exit_after(50),
-    "crashing": "import os; os._exit(1)",
 }
 
 

@@ -48,15 +48,17 @@ class Bells:
 
 
 class OptionsWindow:
-    def __init__(self, program, environment):
+    def __init__(self, program, say=str):
+        """The texts of the window are what say() makes of those of the sources."""
+        self.say = say
         self.host = Host()
-        self.process = subprocess.Popen([program, "--configure"], env=environment, stderr=subprocess.PIPE, text=True)
+        self.process = subprocess.Popen([program, "--configure"], stderr=subprocess.PIPE, text=True)
         self.application = Application("tamsel-clock", self.process)
         self.control("push button", "OK")
 
     def shown(self, role, name):
         """The control with that role and name, if it is on screen."""
-        node = self.application.find(role, name)
+        node = self.application.find(role, self.say(name))
         return node if node and has(node, "SHOWING") else None
 
     def control(self, role, name):

@@ -15,13 +15,13 @@ LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 
 
 def start_desktop(size):
-    """An X server and an accessibility bus; returns the environment for programs on it."""
+    """An X server and an accessibility bus for the programs that follow."""
     start_x_server("-screen", "0", f"{size}x24")
     bus = subprocess.Popen([LAUNCHER, "--launch-immediately"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     atexit.register(bus.wait)
     atexit.register(bus.terminate)
     subprocess.run(["gdbus", "wait", "--session", "--timeout=20", "org.a11y.Bus"], check=True)
-    return {**os.environ, "QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+    os.environ.update({"QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
 
 
 def xdotool(*arguments):

@@ -28,7 +28,7 @@ def check(condition, what):
 
 
 def launch_x_server(*arguments, resets=False):
-    """Starts Xvfb on a free display, points DISPLAY to it and returns its process."""
+    """Starts Xvfb on a free display, has programs show their windows there and returns its process."""
     read_end, write_end = os.pipe()
     server = subprocess.Popen(
         ["Xvfb", "-displayfd", str(write_end), *([] if resets else ["-noreset"]), "-nolisten", "tcp", *arguments],
@@ -39,6 +39,7 @@ def launch_x_server(*arguments, resets=False):
     atexit.register(server.wait)
     atexit.register(server.terminate)
     os.environ["DISPLAY"] = f":{number}"
+    os.environ.pop("QT_QPA_PLATFORM", None)
     return server
 
 
