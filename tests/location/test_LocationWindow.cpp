@@ -205,6 +205,7 @@ private Q_SLOTS:
                 (hasBus ? theirs.post(QString(kSolarLocationChanged)) : void(), save->isEnabled()));
             QVERIFY(says(*window, u"Another program saved another place"_s));
             QCOMPARE(window->choice(), kHelsinki);
+            m_desktop.notifications = nullptr;
         }
     }
 
