@@ -4,6 +4,7 @@
 #include "controls/Alert.h"
 #include "controls/ControlFont.h"
 #include "controls/OverlayScrollArea.h"
+#include "controls/ViewAppearance.h"
 #include "location/CityChooser.h"
 #include "location/CoordinateFields.h"
 #include "location/Look.h"
@@ -149,14 +150,12 @@ void LocationWindow::connectParts()
 {
     connect(m_finder, &ServiceFinder::found, this, [this](const SolarLocation &location) {
         chooseFound(location);
-        m_isOwnChoice = true;
         if (m_choice != m_saved)
             m_saveBar->tell(tr("Found, but not saved yet."));
     });
     connect(m_chooser, &CityChooser::chosen, this, [this](const ZoneCity &city) {
         m_finder->cancel();
         chooseCity(city);
-        m_isOwnChoice = true;
         m_area->reveal(m_chooser); // the arrow keys move in the list from the field above it
     });
     connect(m_chooser, &CityChooser::confirmed, m_saveBar->saveButton(),
@@ -166,7 +165,6 @@ void LocationWindow::connectParts()
                 m_finder->cancel();
                 m_chooser->setCity(std::nullopt);
                 choose(location);
-                m_isOwnChoice = true;
             });
     connect(m_saveBar->forgetButton(), &QPushButton::clicked, this, &LocationWindow::forget);
     connect(m_saveBar->closeButton(), &QPushButton::clicked, this, &LocationWindow::reject);
@@ -185,6 +183,7 @@ void LocationWindow::suggest(const QString &systemZone)
     } else {
         choose(std::nullopt);
     }
+    m_isOwnChoice = false;
 }
 
 void LocationWindow::chooseCity(const ZoneCity &city)
@@ -205,6 +204,7 @@ void LocationWindow::chooseFound(const SolarLocation &location)
 void LocationWindow::choose(const std::optional<SolarLocation> &location)
 {
     m_choice = location;
+    m_isOwnChoice = true;
     showPlace();
     m_saveBar->tell({});
     refreshButtons();
@@ -245,6 +245,7 @@ void LocationWindow::reject()
 
 void LocationWindow::forget()
 {
+    m_isOwnChoice = false;
     write([this] { return m_store.forget(kNoWaiting); },
           tr("Forgotten. A clock that is running keeps its sun times until it ends."));
 }
@@ -288,7 +289,7 @@ void LocationWindow::followStore()
 void LocationWindow::followAppearance()
 {
     const platform::Appearance &appearance = platform::Appearance::shared();
-    setPalette(appearance.palette());
+    applyPalette(this);
     // The toolkit's own edges are hardly seen in dark.
     setStyleSheet(
         kFieldStyle.arg(appearance.edgeColor().name(), appearance.controlAccentColor().name()));
