@@ -7,6 +7,7 @@
 #include "controls/ViewAppearance.h"
 #include "location/CityChooser.h"
 #include "location/CoordinateFields.h"
+#include "location/FieldStyle.h"
 #include "location/Look.h"
 #include "location/PlaceCard.h"
 #include "location/SaveBar.h"
@@ -18,6 +19,8 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -34,11 +37,6 @@ constexpr int kWidth = 440;
 constexpr double kTitleSize = 20.0;
 constexpr std::chrono::milliseconds kNoWaiting(0);
 
-/// Edges in the colours %1 and, with the focus, %2.
-const QString kFieldStyle = u"QLineEdit, QListWidget { border: 1px solid %1; border-radius: 4px; }"
-                            "QLineEdit { padding: 0 6px; }"
-                            "QLineEdit:focus, QListWidget:focus { border-color: %2; }"_s;
-
 } // namespace
 
 LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities cities,
@@ -52,6 +50,7 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
     setWindowTitle(u"Pelko Location"_s);
     setFont(controlFont());
     layOut();
+    styleFields();
     connectParts();
     connect(&platform::Appearance::shared(), &platform::Appearance::changed, this,
             &LocationWindow::followAppearance);
@@ -79,6 +78,15 @@ void LocationWindow::layOut()
     resize(platform::frameOnScreen(frame, height, screen()->availableGeometry()).toRect().size());
     content->installEventFilter(this);
     installEventFilter(this);
+}
+
+void LocationWindow::styleFields()
+{
+    auto *style = new FieldStyle;
+    style->setParent(this);
+    for (QWidget *field : findChildren<QWidget *>())
+        if (qobject_cast<QLineEdit *>(field) || qobject_cast<QListWidget *>(field))
+            field->setStyle(style);
 }
 
 /// All but the save bar, whose buttons stay in sight on a small screen.
@@ -288,11 +296,7 @@ void LocationWindow::followStore()
 
 void LocationWindow::followAppearance()
 {
-    const platform::Appearance &appearance = platform::Appearance::shared();
     applyPalette(this);
-    // The toolkit's own edges are hardly seen in dark.
-    setStyleSheet(
-        kFieldStyle.arg(appearance.edgeColor().name(), appearance.controlAccentColor().name()));
     m_coordinates->followAppearance();
     m_saveBar->followAppearance();
 }

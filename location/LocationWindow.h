@@ -49,6 +49,7 @@ protected:
 private:
     QWidget *makeIntroduction();
     void layOut();
+    void styleFields();
     QWidget *makeContent();
     void growToContent();
     void suggest(const QString &systemZone);
