@@ -23,8 +23,7 @@ void drawField(QPainter &painter, const QStyleOption &option, const QWidget *vie
     painter.save();
     fillRounded(painter, edge, kRadius,
                 isFocused ? appearance.controlAccentColor() : appearance.edgeColor());
-    fillRounded(painter, edge.adjusted(1.0, 1.0, -1.0, -1.0), kRadius - 1.0,
-                option.palette.base());
+    fillRounded(painter, edge.adjusted(1.0, 1.0, -1.0, -1.0), kRadius - 1.0, option.palette.base());
     painter.restore();
 }
 
