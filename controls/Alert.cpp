@@ -22,6 +22,11 @@ constexpr int kButtonGap = 10;
 constexpr int kButtonWidth = 80;
 constexpr int kButtonHeight = 24;
 
+int widthOf(const PushButton &button)
+{
+    return std::max(kButtonWidth, button.sizeHint().width());
+}
+
 } // namespace
 
 Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
@@ -71,7 +76,7 @@ void Alert::layOut()
 {
     int buttonsWidth = -kButtonGap;
     for (const PushButton *button : m_buttons)
-        buttonsWidth += std::max(kButtonWidth, button->sizeHint().width()) + kButtonGap;
+        buttonsWidth += widthOf(*button) + kButtonGap;
     const int textWidth = std::max(kWidth - 2 * kMargin, buttonsWidth);
     int y = kMargin;
     for (QLabel *label : {m_message, m_information}) {
@@ -83,7 +88,7 @@ void Alert::layOut()
     int right = kMargin + textWidth;
     resize(right + kMargin, y + kButtonHeight + kMargin);
     for (PushButton *button : m_buttons) {
-        const int width = std::max(kButtonWidth, button->sizeHint().width());
+        const int width = widthOf(*button);
         place(button, {right - width, y, width, kButtonHeight});
         right -= width + kButtonGap;
     }

@@ -2,16 +2,13 @@
 #include "controls/TamselSettingsWindow.h"
 
 #include "controls/ControlAccessibility.h"
-#include "controls/ControlFont.h"
 #include "controls/PushButton.h"
 #include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QToolTip>
 #include <QWindow>
 
 TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
@@ -20,12 +17,7 @@ TamselSettingsWindow::TamselSettingsWindow(QWidget *parent)
     setAccessibleRole(this, QAccessible::Dialog);
     setAttribute(Qt::WA_TranslucentBackground);
     takeModality();
-    followAppearance(this, [this] {
-        const QPalette colors = appearanceOf(this).palette();
-        setPalette(colors);
-        QToolTip::setPalette(colors);
-    });
-    QToolTip::setFont(controlFont());
+    followAppearance(this, [this] { applyPalette(this); });
 }
 
 void TamselSettingsWindow::setCornerRadius(double radius)

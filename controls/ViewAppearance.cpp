@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ViewAppearance.h"
 
+#include "controls/ControlFont.h"
 #include "platform/Appearance.h"
 
+#include <QToolTip>
 #include <QVariant>
 #include <QWidget>
 
@@ -30,6 +32,14 @@ void followAppearance(QWidget *view, const std::function<void()> &apply)
 {
     apply();
     QObject::connect(&appearanceOf(view), &platform::Appearance::changed, view, apply);
+}
+
+void applyPalette(QWidget *window)
+{
+    const QPalette colors = appearanceOf(window).palette();
+    window->setPalette(colors);
+    QToolTip::setPalette(colors);
+    QToolTip::setFont(controlFont());
 }
 
 void redrawWithAppearance(QWidget *view)

@@ -23,6 +23,9 @@ void setAppearanceOf(QWidget *view, const platform::Appearance &appearance);
 /// destroyed.
 void followAppearance(QWidget *view, const std::function<void()> &apply);
 
+/// Gives \p window the palette of its appearance, and tool tips that and our font.
+void applyPalette(QWidget *window);
+
 /// Repaints \p view whenever its appearance changes.
 void redrawWithAppearance(QWidget *view);
 

@@ -4,8 +4,10 @@
 #include "controls/Alert.h"
 #include "controls/ControlFont.h"
 #include "controls/OverlayScrollArea.h"
+#include "controls/ViewAppearance.h"
 #include "location/CityChooser.h"
 #include "location/CoordinateFields.h"
+#include "location/FieldStyle.h"
 #include "location/Look.h"
 #include "location/PlaceCard.h"
 #include "location/SaveBar.h"
@@ -17,6 +19,8 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -33,11 +37,6 @@ constexpr int kWidth = 440;
 constexpr double kTitleSize = 20.0;
 constexpr std::chrono::milliseconds kNoWaiting(0);
 
-/// Edges in the colours %1 and, with the focus, %2.
-const QString kFieldStyle = u"QLineEdit, QListWidget { border: 1px solid %1; border-radius: 4px; }"
-                            "QLineEdit { padding: 0 6px; }"
-                            "QLineEdit:focus, QListWidget:focus { border-color: %2; }"_s;
-
 } // namespace
 
 LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities cities,
@@ -51,6 +50,7 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
     setWindowTitle(u"Pelko Location"_s);
     setFont(controlFont());
     layOut();
+    styleFields();
     connectParts();
     connect(&platform::Appearance::shared(), &platform::Appearance::changed, this,
             &LocationWindow::followAppearance);
@@ -78,6 +78,15 @@ void LocationWindow::layOut()
     resize(platform::frameOnScreen(frame, height, screen()->availableGeometry()).toRect().size());
     content->installEventFilter(this);
     installEventFilter(this);
+}
+
+void LocationWindow::styleFields()
+{
+    auto *style = new FieldStyle;
+    style->setParent(this);
+    for (QWidget *field : findChildren<QWidget *>())
+        if (qobject_cast<QLineEdit *>(field) || qobject_cast<QListWidget *>(field))
+            field->setStyle(style);
 }
 
 /// All but the save bar, whose buttons stay in sight on a small screen.
@@ -149,14 +158,12 @@ void LocationWindow::connectParts()
 {
     connect(m_finder, &ServiceFinder::found, this, [this](const SolarLocation &location) {
         chooseFound(location);
-        m_isOwnChoice = true;
         if (m_choice != m_saved)
             m_saveBar->tell(tr("Found, but not saved yet."));
     });
     connect(m_chooser, &CityChooser::chosen, this, [this](const ZoneCity &city) {
         m_finder->cancel();
         chooseCity(city);
-        m_isOwnChoice = true;
         m_area->reveal(m_chooser); // the arrow keys move in the list from the field above it
     });
     connect(m_chooser, &CityChooser::confirmed, m_saveBar->saveButton(),
@@ -166,7 +173,6 @@ void LocationWindow::connectParts()
                 m_finder->cancel();
                 m_chooser->setCity(std::nullopt);
                 choose(location);
-                m_isOwnChoice = true;
             });
     connect(m_saveBar->forgetButton(), &QPushButton::clicked, this, &LocationWindow::forget);
     connect(m_saveBar->closeButton(), &QPushButton::clicked, this, &LocationWindow::reject);
@@ -185,6 +191,7 @@ void LocationWindow::suggest(const QString &systemZone)
     } else {
         choose(std::nullopt);
     }
+    m_isOwnChoice = false;
 }
 
 void LocationWindow::chooseCity(const ZoneCity &city)
@@ -205,6 +212,7 @@ void LocationWindow::chooseFound(const SolarLocation &location)
 void LocationWindow::choose(const std::optional<SolarLocation> &location)
 {
     m_choice = location;
+    m_isOwnChoice = true;
     showPlace();
     m_saveBar->tell({});
     refreshButtons();
@@ -245,6 +253,7 @@ void LocationWindow::reject()
 
 void LocationWindow::forget()
 {
+    m_isOwnChoice = false;
     write([this] { return m_store.forget(kNoWaiting); },
           tr("Forgotten. A clock that is running keeps its sun times until it ends."));
 }
@@ -287,11 +296,7 @@ void LocationWindow::followStore()
 
 void LocationWindow::followAppearance()
 {
-    const platform::Appearance &appearance = platform::Appearance::shared();
-    setPalette(appearance.palette());
-    // The toolkit's own edges are hardly seen in dark.
-    setStyleSheet(
-        kFieldStyle.arg(appearance.edgeColor().name(), appearance.controlAccentColor().name()));
+    applyPalette(this);
     m_coordinates->followAppearance();
     m_saveBar->followAppearance();
 }

@@ -49,6 +49,7 @@ protected:
 private:
     QWidget *makeIntroduction();
     void layOut();
+    void styleFields();
     QWidget *makeContent();
     void growToContent();
     void suggest(const QString &systemZone);
@@ -77,7 +78,7 @@ private:
     std::optional<SolarLocation> m_choice;
     /// The saved place when it was last read.
     std::optional<SolarLocation> m_saved;
-    /// The choice is the user's, neither a suggestion nor what was saved.
+    /// The choice is the user's, neither a suggestion nor one that was to be forgotten.
     bool m_isOwnChoice = false;
     bool m_endsWhenSaved = false;
     PlaceCard *m_card;

@@ -34,7 +34,7 @@ struct SchemeColors
 
 constexpr SchemeColors kLight{0xfffafafa, 0xffffffff, 0xff8c8c8c, 0xff1f1f1f, 0xff636366,
                               0xffc9251c, 0xff0b62d6, 0xffffffff, 0xffe8e8e8};
-constexpr SchemeColors kDark{0xff1e1e1e, 0xff2b2b2b, 0xff888888, 0xfff2f2f2, 0xffa1a1a6,
+constexpr SchemeColors kDark{0xff1e1e1e, 0xff232323, 0xff888888, 0xfff2f2f2, 0xffa1a1a6,
                              0xffff6b61, 0xff2f7ff0, 0xff1e1e1e, 0xff303030};
 
 const SchemeColors &colorsOf(const Appearance &appearance)

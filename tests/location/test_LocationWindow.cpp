@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The companion's window, used as a person would: by what its parts are called and by keys.
 #include "location/LocationWindow.h"
+
+#include "controls/Alert.h"
+#include "controls/PushButton.h"
 #include "location/ServiceFinder.h"
 #include "platform/Clocks.h"
 #include "platform/DistributedNotifications.h"
@@ -146,6 +149,25 @@ private Q_SLOTS:
         QCOMPARE(named<QListWidget>(*window, u"Cities"_s)->currentRow(), -1);
     }
 
+    void closingAsksForAChosenPlaceThatIsNotSaved()
+    {
+        const SolarLocationStore store(m_desktop);
+        open()->reject(); // a suggestion is nobody's choice
+        for (const auto &[answer, ends, saves] :
+             {std::tuple(u"Save"_s, true, true), std::tuple(u"Don't save"_s, true, false),
+              std::tuple(u"Cancel"_s, false, false)}) {
+            const auto window = open();
+            QTest::keyClicks(fieldLabelled(*window, u"Latitude"_s), u"1"_s);
+            window->reject();
+            const auto *question = window->findChild<Alert *>();
+            QVERIFY(question);
+            named<PushButton>(*question, answer)->click();
+            QTRY_COMPARE(window->isVisible(), !ends);
+            QCOMPARE(store.load().has_value(), saves);
+            QVERIFY(store.forget());
+        }
+    }
+
     void tellsHowTheServiceAnswers_data()
     {
         QTest::addColumn<QString>("answer");
@@ -205,6 +227,7 @@ private Q_SLOTS:
                 (hasBus ? theirs.post(QString(kSolarLocationChanged)) : void(), save->isEnabled()));
             QVERIFY(says(*window, u"Another program saved another place"_s));
             QCOMPARE(window->choice(), kHelsinki);
+            m_desktop.notifications = nullptr;
         }
     }
 

@@ -6,6 +6,7 @@
 #include "controls/TamselInputFill.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
+#include "platform/WindowPlacement.h"
 #include "settings/SheetRules.h"
 #include "settings/SheetTransition.h"
 #include "tests/support/Contrast.h"
@@ -61,6 +62,19 @@ private Q_SLOTS:
         QFETCH(double, content);
         QFETCH(QRectF, screen);
         QTEST(sheetFrame(frame, content, screen), "expected");
+    }
+
+    void aPanelHidesTheLeast()
+    {
+        const QRect sheet(440, 100, 400, 600);
+        const QList<QRect> kept{{790, 300, 28, 28}, {470, 130, 340, 200}};
+        const QSize panel(540, 420);
+        for (const auto &[screen, expected] :
+             {std::pair(QRect(0, 0, 1920, 1080), QPoint(848, 100)),     // beside it
+              std::pair(QRect(-600, 0, 1500, 1080), QPoint(-108, 100)), // on the other side
+              std::pair(QRect(0, 0, 1280, 720), QPoint(0, 100)),        // the swatch first
+              std::pair(QRect(430, 0, 540, 1280), QPoint(430, 708))})   // below
+            QCOMPARE(platform::placeBeside(sheet, kept, panel, screen), expected);
     }
 
     /// Rows come after their group has grown, and go before it shrinks.
