@@ -379,6 +379,17 @@ Endestatus: 0 Erfolg, 1 nicht möglich (eine Zeile auf stderr nennt den Grund), 
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>Einstellungen der Uhr …</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>Das Programm tamsel-clock lässt sich nicht starten.</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

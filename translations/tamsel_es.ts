@@ -379,6 +379,17 @@ Estado de salida: 0 correcto, 1 no se pudo hacer (una línea en stderr dice por 
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>Opciones del reloj…</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>No se puede iniciar el programa tamsel-clock.</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

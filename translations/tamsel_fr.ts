@@ -379,6 +379,17 @@ Code de sortie : 0 succès, 1 échec (une ligne sur stderr dit pourquoi), 2 mauv
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>Options de l’horloge…</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>Impossible de lancer le programme tamsel-clock.</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

@@ -379,6 +379,17 @@ Stato di uscita: 0 successo, 1 non riuscito (una riga su stderr dice perché), 2
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>Opzioni dell’orologio…</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>Impossibile avviare il programma tamsel-clock.</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

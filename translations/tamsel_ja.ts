@@ -379,6 +379,17 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>時計のオプション…</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>プログラム tamsel-clock を起動できません。</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

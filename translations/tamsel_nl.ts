@@ -379,6 +379,17 @@ Afsluitstatus: 0 gelukt, 1 niet gelukt (een regel op stderr zegt waarom), 2 verk
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>Opties van de klok…</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>Het programma tamsel-clock kan niet worden gestart.</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

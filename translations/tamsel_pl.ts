@@ -379,6 +379,17 @@ Stan wyjścia: 0 sukces, 1 nie udało się (wiersz na stderr mówi dlaczego), 2 
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>Opcje zegara…</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>Nie można uruchomić programu tamsel-clock.</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

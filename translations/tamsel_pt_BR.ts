@@ -379,6 +379,17 @@ Status de saída: 0 sucesso, 1 não foi possível (uma linha em stderr diz por q
     </message>
 </context>
 <context>
+    <name>TamselClockOptions</name>
+    <message>
+        <source>Clock Options…</source>
+        <translation>Opções do relógio…</translation>
+    </message>
+    <message>
+        <source>The program tamsel-clock cannot be started.</source>
+        <translation>Não é possível iniciar o programa tamsel-clock.</translation>
+    </message>
+</context>
+<context>
     <name>TamselClockPreviewView</name>
     <message>
         <source>Clock preview</source>

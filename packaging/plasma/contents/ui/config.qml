@@ -11,14 +11,13 @@ Kirigami.FormLayout {
     property alias formLayout: root
 
     Controls.Button {
-        Kirigami.FormData.label: "Colors, calendar and night:"
-        text: "Clock Options…"
+        text: TamselClockOptions.title
         icon.name: "configure"
         onClicked: failure.visible = !TamselClockOptions.open()
     }
     Controls.Label {
         id: failure
         visible: false
-        text: "The program tamsel-clock cannot be started."
+        text: TamselClockOptions.failure
     }
 }
