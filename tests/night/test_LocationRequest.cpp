@@ -46,6 +46,7 @@ private Q_SLOTS:
         };
         row("good", u"Sun times use your Mac's location, calculated locally."_s);
         row("stale-then-good", u"Sun times use your Mac's location, calculated locally."_s);
+        row("nowhere-then-good", u"Sun times use your Mac's location, calculated locally."_s);
         row("rejected", u"Location denied. Allow access or use custom times."_s);
         row("no-agent", u"Location unavailable. Allow access or use custom times."_s);
         row("vanishing", u"Location unavailable. Retry or use custom times."_s);
@@ -68,21 +69,6 @@ private Q_SLOTS:
         const bool isGood = answer.endsWith("good"_L1);
         QCOMPARE(solar.location(),
                  isGood ? std::optional(SolarLocation{60.1699, 24.9384}) : std::nullopt);
-    }
-
-    void keepsWaitingForAUsableFix()
-    {
-        for (const QString &answer : {u"stale"_s, u"nowhere"_s}) {
-            GeoClue service;
-            QVERIFY(service.answers(answer));
-            platform::LocationService location{QString(kLocationDesktopId)};
-            QSignalSpy fixes(&location, &platform::LocationService::updated);
-            location.startUpdating();
-            QTRY_COMPARE(fixes.size(), 1);
-            const auto fix = fixes.first().first().value<platform::LocationFix>();
-            QVERIFY(!isUsableFix(fix, QDateTime::currentDateTime()));
-            QVERIFY(location.isUpdating());
-        }
     }
 
     void silenceEndsInAFailure()

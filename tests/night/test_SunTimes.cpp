@@ -5,6 +5,7 @@
 #include "platform/Clocks.h"
 #include "platform/Desktop.h"
 
+#include <QFile>
 #include <QTest>
 
 #include <cstdlib>
@@ -100,6 +101,27 @@ private Q_SLOTS:
         setTimeZone("Europe/London");
         const QDateTime abroad = QDateTime::fromMSecsSinceEpoch(moment);
         QCOMPARE(solar.eventOnDate(u"sunset"_s, abroad)->time().hour(), 20);
+    }
+
+    /// Uncollected, what these days leave in the script engine is 700 KiB.
+    void daysDoNotPileUpInMemory()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("the sanitizer keeps what was freed");
+#endif
+        TamselSolarTimes solar(m_desktop);
+        solar.setLocation(SolarLocation{60.17, 24.94});
+        const auto residentAfter = [&](int begin, int end) {
+            for (int day = begin; day < end; ++day)
+                solar.eventOnDate(u"sunset"_s, QDate(2026, 1, 1).addDays(day).startOfDay());
+            QFile map(u"/proc/self/smaps_rollup"_s);
+            const bool isOpen = map.open(QFile::ReadOnly);
+            const auto words = isOpen ? map.readAll().simplified().split(' ') : QByteArrayList();
+            return words.value(words.indexOf("Rss:") + 1).toInt(); // in KiB
+        };
+        const int atFirst = residentAfter(0, 10);
+        QVERIFY(atFirst > 0);
+        QVERIFY(residentAfter(10, 90) < atFirst + 350);
     }
 
 private:

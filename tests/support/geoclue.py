@@ -1,16 +1,14 @@
 # SPDX-License-Identifier: MIT
 """A location service for python3-dbusmock: one client that answers as the parameter "answer" says.
 
-good            a position of now, 60.1699 N 24.9384 E, 25 km
-stale           one that is 301 seconds old
-stale-then-good both, one after the other
-nowhere         a location without coordinates
-rejected        the user says no
-disabled        location is switched off
-no-agent        there is nobody who could be asked
-silent          consent, and then nothing
-vanishing       consent, and then the service is gone
-crashing        the service goes away while it is asked
+good              a position of now, 60.1699 N 24.9384 E, 25 km
+stale-then-good   one elsewhere that is 301 seconds old before it
+nowhere-then-good a location without coordinates before it
+rejected          the user says no
+disabled          location is switched off
+no-agent          there is nobody who could be asked
+silent            consent, and then nothing
+vanishing         consent, and then the service is gone
 """
 
 BUS_NAME = "org.freedesktop.GeoClue2"
@@ -51,9 +49,8 @@ def exit_after(milliseconds):
 
 ANSWERS = {
     "good": answer("good"),
-    "stale": answer("stale"),
     "stale-then-good": answer("stale", "good"),
-    "nowhere": answer("nowhere"),
+    "nowhere-then-good": answer("nowhere", "good"),
     "rejected": refuse("Agent rejected 'org.tamsel.PelkoLocation' for user '1000'."),
     "disabled": refuse("Geolocation disabled for UID 1000"),
     "no-agent": refuse("'org.tamsel.PelkoLocation' disallowed, no agent for UID 1000"),
@@ -79,7 +76,6 @@ def load(mock, parameters):
     start = CHECK + ANSWERS[parameters.get("answer", "good")]
     client = {"DesktopId": "", "RequestedAccuracyLevel": dbus.UInt32(0), "Active": False}
     mock.AddObject(CLIENT, CLIENT_IFACE, client, [("Start", "", "", start), ("Stop", "", "", "")])
-    helsinki = {"Latitude": 60.1699, "Longitude": 24.9384, "Accuracy": 25000.0}
-    add_location(mock, dbus, "good", 0, **helsinki)
-    add_location(mock, dbus, "stale", 301, **helsinki)
+    add_location(mock, dbus, "good", 0, Latitude=60.1699, Longitude=24.9384, Accuracy=25000.0)
+    add_location(mock, dbus, "stale", 301, Latitude=51.5, Longitude=0.0, Accuracy=25000.0)
     add_location(mock, dbus, "nowhere", 0, Accuracy=25000.0)
