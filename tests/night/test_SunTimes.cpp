@@ -106,9 +106,6 @@ private Q_SLOTS:
     /// Uncollected, what these days leave in the script engine is 700 KiB.
     void daysDoNotPileUpInMemory()
     {
-#ifdef __SANITIZE_ADDRESS__
-        QSKIP("the sanitizer keeps what was freed");
-#endif
         TamselSolarTimes solar(m_desktop);
         solar.setLocation(SolarLocation{60.17, 24.94});
         const auto residentAfter = [&](int begin, int end) {
