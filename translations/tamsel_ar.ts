@@ -229,6 +229,89 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>موقع الساعة</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>اختر المكان الذي تتبع Tamsel Clock شروق شمسه وغروبها</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>موقع;مكان;شروق;غروب;ليل;ساعة;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>يبدأ ليل الساعة وينتهي مع غروب الشمس وشروقها لديك. يبقى الموقع على هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>ساعة حائط</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>املأ الشاشة بساعة حائط كبيرة واحدة</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>ساعة;وقت;حافظة الشاشة;خمول;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>عرض في نافذة</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>الخيارات</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>ساعة حائط كبيرة مسطحة للشاشة الخاملة</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>يملأ Tamsel Clock الشاشة الخاملة بساعة حائط كبيرة مسطحة. يقفز عقرب الدقائق مرة كل دقيقة وينساب عقرب الثواني.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>أربعة وجوه للساعة، أو أحدها عشوائيًا، أو لونان من اختيارك</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>الشهر بجانب وجه الساعة أو أسفله</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>ألوان أغمق لليل، بين وقتين من اليوم أو من الغروب إلى الشروق</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>يعمل ضمن XScreenSaver وحافظتي شاشة MATE وXfce وxsecurelock وعلى Wayland، أو بمفرده: يمكنه الانتظار حتى تصبح خاملًا</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>خيارات Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>خيارات حافظة الشاشة</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>اختر ألوان ساعة الحائط وتقويمها وليلها</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>ساعة;حافظة الشاشة;لون;ليل;تقويم;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>ساعة حائط كبيرة مسطحة</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

@@ -229,6 +229,89 @@ Endestatus: 0 Erfolg, 1 nicht möglich (eine Zeile auf stderr nennt den Grund), 
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>Standort der Uhr</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>Den Ort wählen, nach dessen Sonnenauf- und -untergang sich Tamsel Clock richtet</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>Standort;Ort;Sonnenaufgang;Sonnenuntergang;Nacht;Uhr;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>Die Nacht der Uhr beginnt und endet mit Ihrem Sonnenunter- und -aufgang. Der Standort bleibt auf diesem Computer.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>Wanduhr</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>Den Bildschirm mit einer großen Wanduhr füllen</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>Uhr;Zeit;Bildschirmschoner;untätig;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>In einem Fenster zeigen</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>Eine große, flache Wanduhr für den unbenutzten Bildschirm</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock füllt einen unbenutzten Bildschirm mit einer großen, flachen Wanduhr. Der Minutenzeiger springt einmal in der Minute, und der Sekundenzeiger gleitet.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>Vier Zifferblätter, ein zufälliges davon oder zwei eigene Farben</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>Der Monat neben oder unter dem Zifferblatt</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>Eine dunklere Palette für die Nacht, zwischen zwei Uhrzeiten oder von Sonnenuntergang bis Sonnenaufgang</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>Zu Hause in XScreenSaver, in den Bildschirmschonern von MATE und Xfce, in xsecurelock und unter Wayland, oder allein: Die Uhr kann warten, bis Sie untätig sind</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Tamsel Clock – Einstellungen</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>Einstellungen des Bildschirmschoners</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>Farben, Kalender und Nacht der Wanduhr wählen</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>Uhr;Bildschirmschoner;Farbe;Nacht;Kalender;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>Eine große, flache Wanduhr</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

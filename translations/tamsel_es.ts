@@ -229,6 +229,89 @@ Estado de salida: 0 correcto, 1 no se pudo hacer (una línea en stderr dice por 
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>Ubicación del reloj</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>Elija el lugar cuya salida y puesta de sol sigue Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>ubicación;lugar;amanecer;atardecer;noche;reloj;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>La noche del reloj empieza y termina con la puesta y la salida del sol en su ubicación. La ubicación permanece en este equipo.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>Reloj de pared</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>Llene la pantalla con un gran reloj de pared</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>reloj;hora;salvapantallas;inactivo;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>Mostrar en una ventana</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>Un gran reloj de pared plano para una pantalla inactiva</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock llena una pantalla inactiva con un gran reloj de pared plano. El minutero salta una vez por minuto y el segundero se desliza.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>Cuatro esferas, una de ellas al azar o dos colores propios</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>El mes junto a la esfera o debajo de ella</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>Una paleta más oscura para la noche, entre dos horas del día o desde la puesta hasta la salida del sol</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>Se integra en XScreenSaver, en los salvapantallas de MATE y Xfce, en xsecurelock y en Wayland, o funciona solo: puede esperar hasta que usted esté inactivo</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Opciones de Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>Opciones del salvapantallas</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>Elija los colores, el calendario y la noche del reloj de pared</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>reloj;salvapantallas;color;noche;calendario;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>Un gran reloj de pared plano</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

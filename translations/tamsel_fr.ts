@@ -229,6 +229,89 @@ Code de sortie : 0 succès, 1 échec (une ligne sur stderr dit pourquoi), 2 mauv
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>Position de l’horloge</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>Choisir le lieu dont Tamsel Clock suit le lever et le coucher du soleil</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>position;lieu;lever;coucher;soleil;nuit;horloge;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>La nuit de l’horloge commence et finit avec le coucher et le lever du soleil chez vous. La position reste sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>Horloge murale</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>Remplir l’écran d’une grande horloge murale</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>horloge;heure;économiseur d’écran;veille;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>Afficher dans une fenêtre</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>Une grande horloge murale sobre pour l’écran inactif</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock remplit l’écran inactif d’une grande horloge murale sobre. L’aiguille des minutes saute une fois par minute et la trotteuse glisse.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>Quatre cadrans, l’un d’eux au hasard, ou deux couleurs de votre choix</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>Le mois à côté ou au-dessous du cadran</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>Une palette plus sombre pour la nuit, entre deux heures de la journée ou du coucher au lever du soleil</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>Chez elle dans XScreenSaver, dans les économiseurs d’écran de MATE et de Xfce, dans xsecurelock et sous Wayland, ou seule : elle peut attendre que vous soyez inactif</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Options de Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>Options de l’économiseur d’écran</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>Choisir les couleurs, le calendrier et la nuit de l’horloge murale</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>horloge;économiseur d’écran;couleur;nuit;calendrier;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>Une grande horloge murale sobre</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

@@ -229,6 +229,89 @@ Stato di uscita: 0 successo, 1 non riuscito (una riga su stderr dice perché), 2
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>Posizione dell’orologio</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>Scegli il luogo di cui Tamsel Clock segue alba e tramonto</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>posizione;luogo;alba;tramonto;notte;orologio;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>La notte dell’orologio inizia e finisce con il tramonto e l’alba da te. La posizione resta su questo computer.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>Orologio da parete</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>Riempie lo schermo con un grande orologio da parete</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>orologio;ora;salvaschermo;inattivo;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>Mostra in una finestra</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>Un grande orologio da parete piatto per lo schermo inattivo</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock riempie lo schermo inattivo con un grande orologio da parete piatto. La lancetta dei minuti scatta una volta al minuto e quella dei secondi scorre.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>Quattro quadranti, uno a caso tra questi o due colori a scelta</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>Il mese accanto o sotto il quadrante</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>Una tavolozza più scura per la notte, tra due orari o dal tramonto all’alba</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>A suo agio in XScreenSaver, nei salvaschermo di MATE e Xfce, in xsecurelock e su Wayland, oppure da solo: può attendere che l’utente sia inattivo</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Opzioni di Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>Opzioni del salvaschermo</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>Scegli i colori, il calendario e la notte dell’orologio da parete</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>orologio;salvaschermo;colore;notte;calendario;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>Un grande orologio da parete piatto</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

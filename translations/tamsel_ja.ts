@@ -229,6 +229,89 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>時計の位置</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>Tamsel Clock が日の出と日の入りに従う場所を選びます</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>位置;場所;日の出;日の入り;夜;時計;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>時計の夜間は、現在地の日の入りと日の出に合わせて始まり、終わります。位置情報はこのコンピューターの外に出ません。</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>掛け時計</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>画面いっぱいに大きな掛け時計を表示します</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>時計;時刻;スクリーンセーバー;待機;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>ウィンドウに表示</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>使われていない画面のための大きく平らな掛け時計</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock は、使われていない画面いっぱいに大きく平らな掛け時計を表示します。分針は 1 分ごとに進み、秒針はなめらかに動きます。</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>4 つの文字盤、そのうちのランダムな 1 つ、または自分で選んだ 2 色</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>文字盤の横または下に月のカレンダー</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>2 つの時刻の間、または日の入りから日の出までの、夜のための暗めの配色</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>XScreenSaver、MATE と Xfce のスクリーンセーバー、xsecurelock、Wayland に対応。単独でも、操作がなくなるまで待機できます</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Tamsel Clock のオプション</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>スクリーンセーバーのオプション</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>掛け時計の色、カレンダー、夜間モードを選びます</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>時計;スクリーンセーバー;色;夜;カレンダー;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>大きく平らな掛け時計</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

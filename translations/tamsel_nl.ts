@@ -229,6 +229,89 @@ Afsluitstatus: 0 gelukt, 1 niet gelukt (een regel op stderr zegt waarom), 2 verk
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>Locatie van de klok</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>De plaats kiezen waarvan Tamsel Clock zonsopkomst en zonsondergang volgt</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>locatie;plaats;zonsopkomst;zonsondergang;nacht;klok;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>De nacht van de klok begint en eindigt met zonsondergang en zonsopkomst bij u. De locatie blijft op deze computer.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>Wandklok</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>Het scherm vullen met één grote wandklok</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>klok;tijd;schermbeveiliging;inactief;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>In een venster tonen</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opties</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>Eén grote, vlakke wandklok voor een ongebruikt scherm</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock vult een ongebruikt scherm met één grote, vlakke wandklok. De minutenwijzer verspringt elke minuut en de secondewijzer glijdt.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>Vier wijzerplaten, een willekeurige daarvan of twee eigen kleuren</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>De maand naast of onder de wijzerplaat</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>Een donkerder palet voor de nacht, tussen twee tijdstippen of van zonsondergang tot zonsopkomst</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>Thuis in XScreenSaver, in de schermbeveiligingen van MATE en Xfce, in xsecurelock en op Wayland, of alleen: de klok kan wachten tot u inactief bent</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Opties van Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>Opties van de schermbeveiliging</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>De kleuren, kalender en nacht van de wandklok kiezen</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>klok;schermbeveiliging;kleur;nacht;kalender;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>Eén grote, vlakke wandklok</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

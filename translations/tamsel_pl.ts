@@ -229,6 +229,89 @@ Stan wyjścia: 0 sukces, 1 nie udało się (wiersz na stderr mówi dlaczego), 2 
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>Położenie zegara</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>Wybór miejsca, według którego wschodu i zachodu słońca działa Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>położenie;miejsce;wschód;zachód;słońce;noc;zegar;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>Noc zegara zaczyna się i kończy wraz z zachodem i wschodem słońca u Ciebie. Położenie pozostaje na tym komputerze.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>Zegar ścienny</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>Wypełnia ekran dużym zegarem ściennym</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>zegar;czas;wygaszacz ekranu;bezczynność;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>Pokaż w oknie</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opcje</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>Duży, płaski zegar ścienny na nieużywany ekran</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock wypełnia nieużywany ekran dużym, płaskim zegarem ściennym. Wskazówka minutowa przeskakuje raz na minutę, a sekundowa płynie.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>Cztery tarcze, losowa z nich albo dwa własne kolory</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>Miesiąc obok tarczy lub pod nią</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>Ciemniejsza paleta na noc, między dwiema godzinami albo od zachodu do wschodu słońca</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>Działa w XScreenSaver, w wygaszaczach MATE i Xfce, w xsecurelock i w Waylandzie albo samodzielnie: może czekać, aż przestaniesz używać komputera</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Opcje Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>Opcje wygaszacza ekranu</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>Wybór kolorów, kalendarza i nocy zegara ściennego</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>zegar;wygaszacz ekranu;kolor;noc;kalendarz;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>Duży, płaski zegar ścienny</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

@@ -229,6 +229,89 @@ Status de saída: 0 sucesso, 1 não foi possível (uma linha em stderr diz por q
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>Localização do relógio</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>Escolha o lugar cujo nascer e pôr do sol o Tamsel Clock segue</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>localização;lugar;nascer;pôr;sol;noite;relógio;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>A noite do relógio começa e termina com o pôr e o nascer do sol onde você está. A localização fica neste computador.</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>Relógio de parede</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>Preencha a tela com um grande relógio de parede</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>relógio;hora;protetor de tela;ocioso;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>Mostrar em uma janela</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opções</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>Um grande relógio de parede, sem relevo, para uma tela ociosa</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>O Tamsel Clock preenche uma tela ociosa com um grande relógio de parede, sem relevo. O ponteiro dos minutos salta uma vez por minuto e o dos segundos desliza.</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>Quatro mostradores, um deles ao acaso ou duas cores à sua escolha</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>O mês ao lado ou abaixo do mostrador</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>Uma paleta mais escura para a noite, entre dois horários ou do pôr ao nascer do sol</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>À vontade no XScreenSaver, nos protetores de tela do MATE e do Xfce, no xsecurelock e no Wayland, ou sozinho: ele pode esperar até que você fique ocioso</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Opções do Tamsel Clock</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>Opções do protetor de tela</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>Escolha as cores, o calendário e a noite do relógio de parede</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>relógio;protetor de tela;cor;noite;calendário;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>Um grande relógio de parede, sem relevo</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

@@ -229,6 +229,89 @@ Exit status: 0 success, 1 could not do it (one line on stderr says why), 2 wrong
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>Location of the Clock</source>
+        <translation>时钟的位置</translation>
+    </message>
+    <message>
+        <source>Choose the place whose sunrise and sunset Tamsel Clock follows</source>
+        <translation>选择 Tamsel Clock 所依据的日出日落地点</translation>
+    </message>
+    <message>
+        <source>location;place;sunrise;sunset;night;clock;</source>
+        <translation>位置;地点;日出;日落;夜间;时钟;</translation>
+    </message>
+    <message>
+        <source>The clock&apos;s night begins and ends with your sunset and sunrise. The location stays on this computer.</source>
+        <translation>时钟的夜间随您所在地的日落和日出开始和结束。位置信息保留在此计算机上。</translation>
+    </message>
+    <message>
+        <source>Wall Clock</source>
+        <translation>挂钟</translation>
+    </message>
+    <message>
+        <source>Fill the screen with one large wall clock</source>
+        <translation>用一个大型挂钟占满屏幕</translation>
+    </message>
+    <message>
+        <source>clock;time;screensaver;screen saver;idle;</source>
+        <translation>时钟;时间;屏幕保护程序;空闲;</translation>
+    </message>
+    <message>
+        <source>Show in a Window</source>
+        <translation>在窗口中显示</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock for an idle screen</source>
+        <translation>用于空闲屏幕的大型扁平挂钟</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock fills an idle screen with one large, flat wall clock. The minute hand jumps once a minute and the second hand sweeps.</source>
+        <translation>Tamsel Clock 用一个大型扁平挂钟占满空闲屏幕。分针每分钟跳动一次，秒针平滑扫过。</translation>
+    </message>
+    <message>
+        <source>Four dials, a random one of them, or two colours of your own</source>
+        <translation>四种表盘、其中随机一种，或您自选的两种颜色</translation>
+    </message>
+    <message>
+        <source>The month beside or below the dial</source>
+        <translation>表盘旁边或下方的月历</translation>
+    </message>
+    <message>
+        <source>A darker palette for the night, between two times of the day or from sunset to sunrise</source>
+        <translation>夜间使用更深的配色，可在两个时刻之间，或从日落到日出</translation>
+    </message>
+    <message>
+        <source>At home in XScreenSaver, in the MATE and Xfce screensavers, in xsecurelock and on Wayland, or alone: it can wait until you are idle</source>
+        <translation>适用于 XScreenSaver、MATE 和 Xfce 的屏幕保护程序、xsecurelock 以及 Wayland；也可单独运行，等到您空闲时出现</translation>
+    </message>
+    <message>
+        <source>Tamsel Clock Options</source>
+        <translation>Tamsel Clock 选项</translation>
+    </message>
+    <message>
+        <source>Screen Saver Options</source>
+        <translation>屏幕保护程序选项</translation>
+    </message>
+    <message>
+        <source>Choose the colours, calendar and night of the wall clock</source>
+        <translation>选择挂钟的颜色、月历和夜间模式</translation>
+    </message>
+    <message>
+        <source>clock;screensaver;screen saver;colour;night;calendar;</source>
+        <translation>时钟;屏幕保护程序;颜色;夜间;月历;</translation>
+    </message>
+    <message>
+        <source>One large, flat wall clock</source>
+        <translation>一个大型扁平挂钟</translation>
+    </message>
+</context>
+<context>
     <name>OptionsSheet</name>
     <message>
         <source>Colors</source>

@@ -16,8 +16,12 @@ validated_appstream() {
     appstreamcli validate --no-net "$1" >"$TMPDIR/said" || cat "$TMPDIR/said"
 }
 
-for entry in "$sources"/*.desktop; do
+for entry in "$built"/*.desktop; do
     check desktop-file-validate --no-hints "$entry"
+done
+for template in "$sources"/*.desktop.in "$sources"/*.xml.in; do
+    translated=$(grep -cE '\[[a-zA-Z_]+\]=|xml:lang=' "$built/$(basename "$template" .in)")
+    check [ "$translated" -eq $((10 * $(grep -c 'tr("' "$template"))) ]
 done
 check validated_appstream "$built/org.tamsel.clock.metainfo.xml"
 check xmllint --noout "$sources/tamsel-clock.xml"
