@@ -3,6 +3,7 @@
 
 #include "controls/ControlAccessibility.h"
 #include "controls/ControlFont.h"
+#include "controls/FloatingPanel.h"
 #include "controls/Mirroring.h"
 #include "controls/PushButton.h"
 #include "controls/TextLabel.h"
@@ -38,8 +39,8 @@ Alert::Alert(const QString &message, const QString &information, QWidget *sheet)
     for (QLabel *label : {m_message, m_information})
         label->setWordWrap(true);
     setAttribute(Qt::WA_DeleteOnClose);
-    setCornerRadius(kRadius);
     setOver(PanelOver::Window);
+    setCornerRadius(kRadius);
     setMovableByWindowBackground(true);
     setWindowTitle(message);
     setAccessibleDescription(information);
@@ -78,15 +79,16 @@ void Alert::layOut()
     for (const PushButton *button : m_buttons)
         buttonsWidth += widthOf(*button) + kButtonGap;
     const int textWidth = std::max(kWidth - 2 * kMargin, buttonsWidth);
-    int y = kMargin;
+    const int margin = shadowMargin(PanelOver::Window) + kMargin;
+    int y = margin;
     for (QLabel *label : {m_message, m_information}) {
         const int height = label->heightForWidth(textWidth);
-        label->setGeometry(kMargin, y, textWidth, height);
+        label->setGeometry(margin, y, textWidth, height);
         y += height + kTextGap;
     }
     y += kButtonsGap - kTextGap;
-    int right = kMargin + textWidth;
-    resize(right + kMargin, y + kButtonHeight + kMargin);
+    int right = margin + textWidth;
+    resize(right + margin, y + kButtonHeight + margin);
     for (PushButton *button : m_buttons) {
         const int width = widthOf(*button);
         place(button, {right - width, y, width, kButtonHeight});

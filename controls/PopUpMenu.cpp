@@ -3,10 +3,12 @@
 
 #include "controls/ControlFont.h"
 #include "controls/Emphasis.h"
+#include "controls/FloatingPanel.h"
 #include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -53,7 +55,9 @@ public:
             return 0;
         case PM_MenuHMargin:
         case PM_MenuVMargin:
-            return kPadding;
+            return kPadding + shadowMargin(PanelOver::Window);
+        case PM_MenuDesktopFrameWidth: // the shadow may reach beyond the screen
+            return -shadowMargin(PanelOver::Window);
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
         }
@@ -87,7 +91,15 @@ void PopUpMenu::popUpWithTitleAt(QAction *action, const QPoint &position)
 void PopUpMenu::resizeEvent(QResizeEvent *event)
 {
     QMenu::resizeEvent(event);
-    setMask(roundedShape(size(), kRadius));
+    shapePanel(this, PanelOver::Window, kRadius);
+}
+
+void PopUpMenu::mousePressEvent(QMouseEvent *event)
+{
+    if (panelRect(this, PanelOver::Window).contains(event->position().toPoint()))
+        QMenu::mousePressEvent(event);
+    else
+        close();
 }
 
 void PopUpMenu::paintEvent(QPaintEvent *)

@@ -17,6 +17,7 @@ public:
     void popUpWithTitleAt(QAction *action, const QPoint &position);
 
 protected:
+    void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 

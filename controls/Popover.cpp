@@ -2,8 +2,8 @@
 #include "controls/Popover.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/FloatingPanel.h"
 #include "controls/FocusRing.h"
-#include "controls/RoundedShape.h"
 #include "controls/ViewAppearance.h"
 #include "platform/WindowPlacement.h"
 
@@ -67,10 +67,11 @@ Popover::Popover(QWidget *content, QWidget *anchor) : QWidget(anchor, kFlags)
     setAttribute(Qt::WA_TranslucentBackground);
     // The popover passes on outside presses itself; Qt replays them on some platforms only.
     setAttribute(Qt::WA_NoMouseReplay);
-    setFixedSize(content->size());
-    setMask(roundedShape(size(), kRadius));
+    const int margin = shadowMargin(PanelOver::Window);
+    setFixedSize(content->size() + QSize(2 * margin, 2 * margin));
+    shapePanel(this, PanelOver::Window, kRadius);
     content->setParent(this);
-    content->move(0, 0);
+    content->move(margin, margin);
     content->show();
     redrawWithAppearance(this);
 }
@@ -91,7 +92,8 @@ void Popover::present()
             Qt::QueuedConnection);
 
     const QRect place(anchor->mapToGlobal(QPoint()), anchor->size());
-    move(popoverPosition(place, size(), platform::placementBounds(anchor)));
+    const QRect panel = panelRect(this, PanelOver::Window);
+    move(popoverPosition(place, panel.size(), platform::placementBounds(anchor)) - panel.topLeft());
     show();
     focusFirst(FocusRing::isShownAround(anchor) ? Qt::TabFocusReason : Qt::PopupFocusReason);
 }
@@ -154,8 +156,11 @@ void Popover::keyPressEvent(QKeyEvent *event)
 
 QWidget *Popover::controlAt(const QPointF &globalPosition) const
 {
+    const QWidget *host = parentWidget()->window();
     QWidget *view = QApplication::widgetAt(globalPosition.toPoint());
-    if (!view || view == parentWidget() || view->window() != parentWidget()->window())
+    if (view == this) // the shadow, through which one sees what is pressed
+        view = host->childAt(host->mapFromGlobal(globalPosition.toPoint()));
+    if (!view || view == parentWidget() || view->window() != host)
         return nullptr;
     return view;
 }
@@ -165,7 +170,7 @@ QWidget *Popover::controlAt(const QPointF &globalPosition) const
 
 void Popover::mousePressEvent(QMouseEvent *event)
 {
-    if (rect().contains(event->position().toPoint())) {
+    if (panelRect(this, PanelOver::Window).contains(event->position().toPoint())) {
         QWidget::mousePressEvent(event);
         return;
     }

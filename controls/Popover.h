@@ -18,7 +18,8 @@ class Popover : public QWidget
     Q_OBJECT
 
 public:
-    /// Takes ownership of \p content, whose size becomes the panel's. Becomes a child of \p anchor.
+    /// Takes ownership of \p content, whose size becomes the panel's; the window is wider by the
+    /// panel's shadow. Becomes a child of \p anchor.
     Popover(QWidget *content, QWidget *anchor);
     ~Popover() override;
 

@@ -1,22 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "controls/RoundedShape.h"
 
-#include "controls/ViewAppearance.h"
-#include "platform/Appearance.h"
-#include "platform/WindowBlending.h"
-
 #include <QPainter>
-#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
-
-namespace {
-constexpr double kEdgeAlpha = 0.16;
-constexpr int kEdgeWidth = 1;
-/// How far a corner's arc stays from its sides, of the radius: 1 - sqrt(1/2), rounded up.
-constexpr double kArcReach = 0.3;
-} // namespace
 
 QRegion roundedShape(const QSize &size, double radius)
 {
@@ -41,30 +29,4 @@ void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QBr
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
     painter.drawRoundedRect(rect, radius, radius);
-}
-
-void drawPanel(QPainter &painter, const QWidget *panel, PanelOver over, double radius,
-               const QRect &area)
-{
-    const platform::Appearance &appearance = appearanceOf(panel);
-    const bool isOverWindow = over == PanelOver::Window;
-    const QColor ground =
-        isOverWindow ? appearance.panelColor() : appearance.windowBackgroundColor();
-    const int inset = kEdgeWidth + static_cast<int>(std::ceil(kArcReach * radius));
-    if (panel->rect().adjusted(inset, inset, -inset, -inset).contains(area)) {
-        painter.fillRect(area, ground);
-        return;
-    }
-    const QRectF whole = panel->rect();
-    const QColor edge =
-        isOverWindow ? appearance.edgeColor() : withAlpha(appearance.labelColor(), kEdgeAlpha);
-    if (!platform::blendsWindows()) {
-        // The corner pixels that the window mask keeps take the colour of the edge.
-        painter.fillRect(whole, ground);
-        painter.fillRect(whole, edge);
-    }
-    fillRounded(painter, whole, radius, ground);
-    painter.setPen(QPen(edge, kEdgeWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(whole.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
 }

@@ -30,7 +30,7 @@ void TamselSettingsWindow::setCornerRadius(double radius)
 void TamselSettingsWindow::takeShape()
 {
     if (m_cornerRadius > 0.0)
-        setMask(roundedShape(size(), m_cornerRadius));
+        shapePanel(this, m_over, m_cornerRadius);
     else
         clearMask();
 }
@@ -79,11 +79,13 @@ void TamselSettingsWindow::keyPressEvent(QKeyEvent *event)
 
 void TamselSettingsWindow::mousePressEvent(QMouseEvent *event)
 {
-    if (!m_movable || event->button() != Qt::LeftButton)
+    const QPoint position = event->position().toPoint();
+    if (!m_movable || event->button() != Qt::LeftButton ||
+        !panelRect(this, m_over).contains(position))
         return;
     if (windowHandle() && windowHandle()->startSystemMove())
         return;
-    m_grip = event->position().toPoint();
+    m_grip = position;
 }
 
 void TamselSettingsWindow::mouseMoveEvent(QMouseEvent *event)

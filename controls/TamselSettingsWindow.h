@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/RoundedShape.h"
+#include "controls/FloatingPanel.h"
 
 #include <QPoint>
 #include <QWidget>
@@ -23,7 +23,7 @@ public:
     /// Corner radius of the background in points. At 0, the default, no background is drawn.
     void setCornerRadius(double radius);
 
-    /// What the window lies on, the desktop by default.
+    /// What the window lies on, the desktop by default. To be set before the radius.
     void setOver(PanelOver over) { m_over = over; }
 
     /// Whether dragging the background moves the window.

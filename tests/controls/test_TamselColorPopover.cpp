@@ -33,15 +33,22 @@ struct Sheet
         editor->showFor(swatch, Qt::red);
     }
 
-    /// Presses a control of the sheet that does \p what on that.
+    /// Presses a control of the sheet, seen through the popover's shadow, that does \p what on
+    /// that.
     void press(const std::function<void(QWidget *)> &what)
     {
         auto *control = new PushButton(u"Outside"_s, window.get());
+        control->setGeometry(200, 200, 80, 20);
         control->show();
-        QObject::connect(control, &QAbstractButton::pressed, control, [=] { what(control); });
+        bool isReached = false;
+        QObject::connect(control, &QAbstractButton::pressed, control, [=, &isReached] {
+            isReached = true;
+            what(control);
+        });
         QWidget *popover = editor->popover();
         const QPoint middle = control->mapToGlobal(control->rect().center());
         QTest::mousePress(popover, Qt::LeftButton, {}, popover->mapFromGlobal(middle));
+        QVERIFY(isReached);
     }
 
     PushButton *panelButton() const { return editor->view()->findChild<PushButton *>(); }
