@@ -75,10 +75,15 @@ void Alert::addButton(const QString &title, const std::function<void()> &chosen)
 
 void Alert::layOut()
 {
-    int buttonsWidth = -kButtonGap;
-    for (const PushButton *button : m_buttons)
-        buttonsWidth += widthOf(*button) + kButtonGap;
-    const int textWidth = std::max(kWidth - 2 * kMargin, buttonsWidth);
+    int beside = -kButtonGap;
+    int widest = 0;
+    for (const PushButton *button : m_buttons) {
+        beside += widthOf(*button) + kButtonGap;
+        widest = std::max(widest, widthOf(*button));
+    }
+    // Inside the sheet, with some of it left on both sides.
+    const bool areStacked = beside + 4 * kMargin > parentWidget()->width();
+    const int textWidth = std::max(kWidth - 2 * kMargin, areStacked ? widest : beside);
     const int margin = shadowMargin(PanelOver::Window) + kMargin;
     int y = margin;
     for (QLabel *label : {m_message, m_information}) {
@@ -87,12 +92,16 @@ void Alert::layOut()
         y += height + kTextGap;
     }
     y += kButtonsGap - kTextGap;
+    const int rows = areStacked ? int(m_buttons.size()) : 1;
     int right = margin + textWidth;
-    resize(right + margin, y + kButtonHeight + margin);
+    resize(right + margin, y + rows * (kButtonHeight + kButtonGap) - kButtonGap + margin);
     for (PushButton *button : m_buttons) {
-        const int width = widthOf(*button);
+        const int width = areStacked ? textWidth : widthOf(*button);
         place(button, {right - width, y, width, kButtonHeight});
-        right -= width + kButtonGap;
+        if (areStacked)
+            y += kButtonHeight + kButtonGap;
+        else
+            right -= width + kButtonGap;
     }
 }
 

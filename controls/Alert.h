@@ -22,7 +22,8 @@ public:
     QString information() const;
 
     /// Adds a button that closes the alert and then calls \p chosen. Buttons are placed from right
-    /// to left; Return presses the first one, Escape the last.
+    /// to left, or where the sheet is too narrow below each other; Return presses the first one,
+    /// Escape the last.
     void addButton(const QString &title, const std::function<void()> &chosen = {});
     const QList<PushButton *> &buttons() const { return m_buttons; }
 

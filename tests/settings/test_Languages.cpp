@@ -116,7 +116,9 @@ private Q_SLOTS:
         popover.showFor(f.sheet().nightSwitch, Qt::red);
         QCOMPARE(faultIn(*popover.view()), nothing);
         QVERIFY(f.view->optionsSheet()->timeRows()->askForMissingLocation());
-        QCOMPARE(faultIn(*f.window()->findChild<Alert *>()), nothing);
+        const auto *alert = f.window()->findChild<Alert *>();
+        QCOMPARE(faultIn(*alert), nothing);
+        QVERIFY(panelRect(alert, PanelOver::Window).width() <= f.window()->width());
 
         location::LocationWindow window(f.desktop(), location::ZoneCities::ofSystem(),
                                         u"Europe/Helsinki"_s);
