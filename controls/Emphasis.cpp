@@ -20,21 +20,52 @@ double encoded(double c)
     return c <= 0.0031308 ? c * 12.92 : 1.055 * std::pow(c, 1.0 / 2.4) - 0.055;
 }
 
+/// Of an edge against the window; groups in the window are a little closer to the edge.
+constexpr double kEdgeContrast = 3.3;
+
+struct LinearColor
+{
+    double red, green, blue;
+
+    explicit LinearColor(const QColor &color)
+        : red(linear(color.toRgb().redF())), green(linear(color.toRgb().greenF())),
+          blue(linear(color.toRgb().blueF()))
+    {
+    }
+
+    double luminance() const { return 0.2126 * red + 0.7152 * green + 0.0722 * blue; }
+
+    /// The colour whose parts are \p part of these, and \p more.
+    QColor mixed(double part, double more) const
+    {
+        // Rounding down keeps a darkened colour below its limit.
+        const auto byte = [&](double c) { return int(encoded(c * part + more) * 255.0); };
+        return {byte(red), byte(green), byte(blue)};
+    }
+};
+
 } // namespace
 
 Emphasis emphasisFrom(const QColor &accent)
 {
-    const QColor rgb = accent.toRgb();
-    const double red = linear(rgb.redF());
-    const double green = linear(rgb.greenF());
-    const double blue = linear(rgb.blueF());
-    const double luminance = 0.2126 * red + 0.7152 * green + 0.0722 * blue;
+    const LinearColor color(accent);
+    const double luminance = color.luminance();
     if (luminance >= kLightAccent)
-        return {rgb, Qt::black};
+        return {accent.toRgb(), Qt::black};
     if (luminance <= kBrightestUnderWhite)
-        return {rgb, Qt::white};
-    const double dimmed = kBrightestUnderWhite / luminance;
-    // Rounding down keeps the 8-bit colour below the limit.
-    const auto byte = [dimmed](double c) { return int(encoded(c * dimmed) * 255.0); };
-    return {QColor(byte(red), byte(green), byte(blue)), Qt::white};
+        return {accent.toRgb(), Qt::white};
+    return {color.mixed(kBrightestUnderWhite / luminance, 0.0), Qt::white};
+}
+
+QColor edgeFrom(const QColor &accent, const QColor &ground)
+{
+    const LinearColor color(accent);
+    const double luminance = color.luminance();
+    const double behind = LinearColor(ground).luminance() + 0.05;
+    const double darkest = behind / kEdgeContrast - 0.05;
+    if (darkest > 0.0)
+        return luminance <= darkest ? accent.toRgb() : color.mixed(darkest / luminance, 0.0);
+    const double lightest = behind * kEdgeContrast - 0.05;
+    const double white = (lightest - luminance) / (1.0 - luminance);
+    return white <= 0.0 ? accent.toRgb() : color.mixed(1.0 - white, white);
 }

@@ -14,3 +14,7 @@ struct Emphasis
 /// other gets white text and is darkened only as far as the contrast needs. Contrast as in
 /// https://www.w3.org/TR/WCAG21/#dfn-contrast-ratio.
 Emphasis emphasisFrom(const QColor &accent);
+
+/// The colour closest to \p accent that can be seen as an edge on a window of \p ground and on the
+/// groups in it: a contrast of more than 3 : 1.
+QColor edgeFrom(const QColor &accent, const QColor &ground);

@@ -115,8 +115,5 @@ void drawPanel(QPainter &painter, const QWidget *window, PanelOver over, double 
         drawShadow(painter, window, radius);
     }
     fillRounded(painter, panel, radius, ground);
-    painter.setPen(QPen(edge, kEdgeWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(panel).adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5,
-                            radius - 0.5);
+    edgeRounded(painter, panel, radius, edge);
 }

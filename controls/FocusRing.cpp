@@ -13,7 +13,6 @@ namespace {
 constexpr double kGap = 1.0;
 constexpr double kWidth = 2.0;
 constexpr double kMargin = kGap + kWidth;
-constexpr double kAlpha = 0.7;
 
 /// A QFocusFrame, because Qt hides focus frames from assistive technology.
 class RingFrame final : public QFocusFrame
@@ -32,9 +31,8 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const QColor color =
-            m_outline.color.isValid() ? m_outline.color : appearanceOf(this).controlAccentColor();
-        painter.setPen(QPen(withAlpha(color, kAlpha), kWidth));
+        painter.setPen(
+            QPen(m_outline.color.isValid() ? m_outline.color : accentEdgeOf(this), kWidth));
         const double grow = kGap + kWidth / 2.0;
         painter.drawRoundedRect(m_outline.rect.adjusted(-grow, -grow, grow, grow),
                                 m_outline.radius + grow, m_outline.radius + grow);

@@ -73,6 +73,9 @@ void PushButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setOpacity(isEnabled() ? 1.0 : kDisabledAlpha);
     fillRounded(painter, bezel(), m_radius, displayFill());
+    if (!m_fill.isValid())
+        edgeRounded(painter, bezel(), m_radius,
+                    isEmphasised() ? accentEdgeOf(this) : appearanceOf(this).edgeColor());
     if (isDown())
         painter.setOpacity(painter.opacity() * kPressedAlpha);
     drawContents(painter);

@@ -30,3 +30,11 @@ void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QBr
     painter.setBrush(brush);
     painter.drawRoundedRect(rect, radius, radius);
 }
+
+void edgeRounded(QPainter &painter, const QRectF &rect, double radius, const QColor &color)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(color);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
+}

@@ -5,6 +5,7 @@
 #include <QSize>
 
 class QBrush;
+class QColor;
 class QPainter;
 class QRectF;
 
@@ -15,3 +16,7 @@ QRegion roundedShape(const QSize &size, double radius);
 
 /// Fills \p rect with corners of \p radius. Leaves \p painter with antialiasing on and no pen.
 void fillRounded(QPainter &painter, const QRectF &rect, double radius, const QBrush &brush);
+
+/// Draws a line one point wide along the edge of \p rect, inside it, with corners of \p radius.
+/// Leaves \p painter with antialiasing on and no brush.
+void edgeRounded(QPainter &painter, const QRectF &rect, double radius, const QColor &color);

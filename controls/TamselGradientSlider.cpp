@@ -6,6 +6,7 @@
 #include "controls/RoundedShape.h"
 #include "controls/TamselHSBColor.h"
 #include "controls/ViewAppearance.h"
+#include "platform/Appearance.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -18,9 +19,12 @@ namespace {
 
 constexpr QMarginsF kTrackInset(1.0, 2.0, 1.0, 2.0);
 constexpr double kOutlineAlpha = 0.25;
+/// Width of the edge around track and knob.
+constexpr double kEdge = 1.0;
 constexpr double kKnobDiameter = 24.0;
 constexpr double kKnobRim = 2.0;
-/// Distance of the knob's centre from the slider's ends at values 0 and 1.
+/// Of the knob with its edge, and the distance of its centre from the slider's ends at values 0
+/// and 1.
 constexpr double kKnobReach = 14.0;
 /// The hue gradient needs intermediate stops; the others are linear in RGB.
 constexpr int kHueSegments = 12;
@@ -137,6 +141,9 @@ void TamselGradientSlider::drawTrack(QPainter &painter, const QRectF &track) con
     painter.setPen(QPen(withAlpha(Qt::white, kOutlineAlpha), 1.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(track, radius, radius);
+    // It may have the colour of what it lies on.
+    edgeRounded(painter, track.adjusted(-kEdge, -kEdge, kEdge, kEdge), radius + kEdge,
+                appearanceOf(this).edgeColor());
 }
 
 QPointF TamselGradientSlider::knobCentre() const
@@ -148,13 +155,15 @@ QPointF TamselGradientSlider::knobCentre() const
 /// All that the knob covers, whatever the density.
 QRect TamselGradientSlider::knobArea() const
 {
-    constexpr double kReach = (kKnobDiameter + kKnobRim) / 2.0 + 1.0;
-    const QPointF reach(kReach, kReach);
+    const QPointF reach(kKnobReach, kKnobReach);
     return QRectF(knobCentre() - reach, knobCentre() + reach).toAlignedRect();
 }
 
 void TamselGradientSlider::drawKnob(QPainter &painter) const
 {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(appearanceOf(this).edgeColor());
+    painter.drawEllipse(knobCentre(), kKnobReach, kKnobReach);
     painter.setBrush(colorAtValue(m_doubleValue));
     painter.setPen(QPen(Qt::white, kKnobRim));
     painter.drawEllipse(knobCentre(), kKnobDiameter / 2.0, kKnobDiameter / 2.0);

@@ -2,6 +2,7 @@
 #include "controls/TamselToggle.h"
 
 #include "controls/ControlAccessibility.h"
+#include "controls/Emphasis.h"
 #include "controls/FocusRing.h"
 #include "controls/Mirroring.h"
 #include "controls/RoundedShape.h"
@@ -61,9 +62,12 @@ void TamselToggle::paintEvent(QPaintEvent *)
     painter.setOpacity(isEnabled() ? 1.0 : kDisabledAlpha);
 
     const double radius = height() / 2.0;
+    const QColor edge = withAlpha(appearance.edgeColor(), 1.0 - m_knobPosition);
+    const Emphasis on = emphasisFrom(appearance.controlAccentColor());
     fillRounded(painter, rect(), radius, withAlpha(appearance.labelColor(), kOffAlpha));
-    fillRounded(painter, rect(), radius,
-                withAlpha(appearance.controlAccentColor(), m_knobPosition));
+    fillRounded(painter, rect(), radius, withAlpha(on.fill, m_knobPosition));
+    edgeRounded(painter, rect(), radius, edge);
+    edgeRounded(painter, rect(), radius, withAlpha(accentEdgeOf(this), m_knobPosition));
     if (isDown())
         fillRounded(painter, rect(), radius, withAlpha(Qt::black, kPressedShade));
     const double side = height() - 2.0 * kKnobInset;
@@ -71,4 +75,6 @@ void TamselToggle::paintEvent(QPaintEvent *)
     const QRectF knob(kKnobInset + m_knobPosition * travel, kKnobInset, side, side);
     mirrorFor(this, painter);
     fillRounded(painter, knob, side / 2.0, Qt::white);
+    fillRounded(painter, knob, side / 2.0, withAlpha(on.ink, m_knobPosition));
+    edgeRounded(painter, knob, side / 2.0, edge);
 }

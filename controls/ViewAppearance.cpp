@@ -2,6 +2,7 @@
 #include "controls/ViewAppearance.h"
 
 #include "controls/ControlFont.h"
+#include "controls/Emphasis.h"
 #include "platform/Appearance.h"
 
 #include <QToolTip>
@@ -34,12 +35,27 @@ void followAppearance(QWidget *view, const std::function<void()> &apply)
     QObject::connect(&appearanceOf(view), &platform::Appearance::changed, view, apply);
 }
 
+QPalette paletteOf(const QWidget *window)
+{
+    QPalette colors = appearanceOf(window).palette();
+    const Emphasis selection = emphasisFrom(appearanceOf(window).controlAccentColor());
+    colors.setColor(QPalette::Highlight, selection.fill);
+    colors.setColor(QPalette::HighlightedText, selection.ink);
+    return colors;
+}
+
 void applyPalette(QWidget *window)
 {
-    const QPalette colors = appearanceOf(window).palette();
+    const QPalette colors = paletteOf(window);
     window->setPalette(colors);
     QToolTip::setPalette(colors);
     QToolTip::setFont(controlFont());
+}
+
+QColor accentEdgeOf(const QWidget *view)
+{
+    const platform::Appearance &appearance = appearanceOf(view);
+    return edgeFrom(appearance.controlAccentColor(), appearance.windowBackgroundColor());
 }
 
 void redrawWithAppearance(QWidget *view)

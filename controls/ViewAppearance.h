@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 #include <functional>
 
@@ -23,7 +24,13 @@ void setAppearanceOf(QWidget *view, const platform::Appearance &appearance);
 /// destroyed.
 void followAppearance(QWidget *view, const std::function<void()> &apply);
 
-/// Gives \p window the palette of its appearance, and tool tips that and our font.
+/// The palette of the appearance of \p window for Qt's own widgets.
+QPalette paletteOf(const QWidget *window);
+
+/// The accent colour of \p view, for an edge that must be seen.
+QColor accentEdgeOf(const QWidget *view);
+
+/// Gives \p window its palette, and tool tips that and our font.
 void applyPalette(QWidget *window);
 
 /// Repaints \p view whenever its appearance changes.

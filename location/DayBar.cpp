@@ -16,10 +16,10 @@ namespace {
 constexpr double kBarHeight = 10.0;
 constexpr double kLabelGap = 5.0;
 constexpr double kLabelSize = 11.0;
-constexpr double kNightOpacity = 0.14;
 constexpr int kHoursBetweenLabels = 6;
 constexpr double kMillisecondsOfDay = 24.0 * 60.0 * 60.0 * 1000.0;
 constexpr QColor kDaylight(0xff, 0x8a, 0x1f);
+constexpr QColor kNight(0x4a, 0x4a, 0x50);
 
 double fractionOfDay(QTime time)
 {
@@ -89,7 +89,7 @@ void DayBar::paintEvent(QPaintEvent *)
     const QRectF bar(0.0, 0.0, width(), kBarHeight);
     QPainterPath track;
     track.addRoundedRect(bar, kBarHeight / 2.0, kBarHeight / 2.0);
-    painter.fillPath(track, withAlpha(palette().color(QPalette::WindowText), kNightOpacity));
+    painter.fillPath(track, kNight);
     if (m_sunrise && m_sunset)
         painter.fillPath(track & litParts(bar, *m_sunrise, *m_sunset), kDaylight);
     painter.restore();

@@ -6,8 +6,8 @@
 #include "controls/OverlayScrollArea.h"
 #include "controls/ViewAppearance.h"
 #include "location/CityChooser.h"
+#include "location/ControlStyle.h"
 #include "location/CoordinateFields.h"
-#include "location/FieldStyle.h"
 #include "location/Look.h"
 #include "location/PlaceCard.h"
 #include "location/SaveBar.h"
@@ -50,7 +50,7 @@ LocationWindow::LocationWindow(const platform::Desktop &desktop, ZoneCities citi
     setWindowTitle(u"Pelko Location"_s);
     setFont(controlFont());
     layOut();
-    styleFields();
+    styleControls();
     connectParts();
     connect(&platform::Appearance::shared(), &platform::Appearance::changed, this,
             &LocationWindow::followAppearance);
@@ -80,13 +80,14 @@ void LocationWindow::layOut()
     installEventFilter(this);
 }
 
-void LocationWindow::styleFields()
+void LocationWindow::styleControls()
 {
-    auto *style = new FieldStyle;
+    auto *style = new ControlStyle;
     style->setParent(this);
-    for (QWidget *field : findChildren<QWidget *>())
-        if (qobject_cast<QLineEdit *>(field) || qobject_cast<QListWidget *>(field))
-            field->setStyle(style);
+    for (QWidget *control : findChildren<QWidget *>())
+        if (qobject_cast<QLineEdit *>(control) || qobject_cast<QListWidget *>(control) ||
+            qobject_cast<QPushButton *>(control))
+            control->setStyle(style);
 }
 
 /// All but the save bar, whose buttons stay in sight on a small screen.

@@ -49,7 +49,7 @@ protected:
 private:
     QWidget *makeIntroduction();
     void layOut();
-    void styleFields();
+    void styleControls();
     QWidget *makeContent();
     void growToContent();
     void suggest(const QString &systemZone);

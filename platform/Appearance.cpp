@@ -152,10 +152,7 @@ QPalette Appearance::palette() const
     palette.setColor(QPalette::Base, QColor::fromRgb(colors.base));
     palette.setColor(QPalette::AlternateBase, windowBackgroundColor());
     palette.setColor(QPalette::ToolTipBase, QColor::fromRgb(colors.button));
-    const QColor accent = controlAccentColor();
-    palette.setColor(QPalette::Highlight, accent);
-    palette.setColor(QPalette::HighlightedText, qGray(accent.rgb()) < 160 ? Qt::white : Qt::black);
-    palette.setColor(QPalette::Link, accent);
+    palette.setColor(QPalette::Link, controlAccentColor());
     return palette;
 }
 

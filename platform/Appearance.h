@@ -48,8 +48,8 @@ public:
     QColor panelColor() const;
     /// Of an edge that can be seen: a contrast of 3 : 1 against the two before.
     QColor edgeColor() const;
-    /// The same colours for Qt's own widgets. To be set on our windows, not on the application,
-    /// whose palette is an input of this class.
+    /// The same colours for Qt's own widgets, but for selections. To be set on our windows, not on
+    /// the application, whose palette is an input of this class.
     QPalette palette() const;
 
     /// Whether the user asked for less motion.

@@ -20,9 +20,9 @@ QPointer<QColorDialog> &panel()
 }
 
 /// The sheet's palette, with the sheet's background for input fields.
-QPalette paletteOf(const QWidget *dialog)
+QPalette panelPaletteOf(const QWidget *dialog)
 {
-    QPalette colors = appearanceOf(dialog).palette();
+    QPalette colors = paletteOf(dialog);
     colors.setColor(QPalette::Base, TamselInputFill(dialog));
     return colors;
 }
@@ -43,7 +43,7 @@ QColorDialog &sharedColorPanel()
         dialog->setModal(false);
         dialog->setWindowTitle(OptionsSheet::tr("Colors"));
         dialog->setFont(controlFont());
-        followAppearance(dialog, [dialog] { dialog->setPalette(paletteOf(dialog)); });
+        followAppearance(dialog, [dialog] { dialog->setPalette(panelPaletteOf(dialog)); });
         panel() = dialog;
         qAddPostRoutine(destroyPanel);
     }

@@ -9,3 +9,4 @@ tamsel_test(settings/test_Languages.cpp LIBS tamsel_location tamsel_saver tamsel
 tamsel_script_test(assistive_technology settings/assistive.py HOME BUS LABELS host ARGS $<TARGET_FILE:tamsel-clock>)
 tamsel_script_test(assistive_technology_mirrored settings/assistive.py HOME BUS LABELS host
     ARGS $<TARGET_FILE:tamsel-clock> ${CMAKE_SOURCE_DIR}/translations/tamsel_ar.ts)
+tamsel_test(settings/test_Contrast.cpp LIBS tamsel_location tamsel_saver tamsel_settings)

@@ -2,7 +2,6 @@
 #include "platform/Appearance.h"
 #include "platform/DesktopSettings.h"
 #include "tests/support/BusMock.h"
-#include "tests/support/Contrast.h"
 #include "tests/support/TestBus.h"
 
 #include <QApplication>
@@ -13,7 +12,6 @@
 
 using platform::Appearance;
 using platform::DesktopSettings;
-using Scheme = Appearance::Scheme;
 
 namespace {
 
@@ -28,24 +26,6 @@ class test_Appearance : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-
-    void colorsAreReadable()
-    {
-        using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
-        for (const auto scheme : {Scheme::Light, Scheme::Dark}) {
-            const QPalette palette = Appearance(scheme).palette();
-            for (const auto &[text, ground] :
-                 {Pair{QPalette::WindowText, QPalette::Window},
-                  Pair{QPalette::Text, QPalette::Base},
-                  Pair{QPalette::PlaceholderText, QPalette::Base},
-                  Pair{QPalette::ButtonText, QPalette::Button},
-                  Pair{QPalette::ToolTipText, QPalette::ToolTipBase}}) {
-                QVERIFY2(contrast(palette.color(text), palette.color(ground)) >= 4.5,
-                         qPrintable(QString::number(text)));
-            }
-        }
-    }
-
     void takesOnlyWhatMakesSense_data()
     {
         QTest::addColumn<QString>("group");
