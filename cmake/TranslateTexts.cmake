@@ -1,5 +1,5 @@
 # Writes TEMPLATE to OUTPUT: every line with tr("a text") in English and after it in the languages of the catalogues,
-# for desktop entries and XML.
+# for desktop entries, JSON and XML.
 #   cmake -DTEMPLATE=... -DOUTPUT=... -DVERSION=... -DCATALOGUES=FOLDER -P TranslateTexts.cmake
 
 # translate(VARIABLE TEXT CATALOGUE): empty when it is not translated.
@@ -42,6 +42,7 @@ while(left MATCHES "([^\n]*)tr\\(\"([^\"]*)\"\\)([^\n]*)\n")
     foreach(language IN LISTS languages)
         translate(translation "${text}" "${${language}}")
         string(REGEX REPLACE "=$" "[${language}]=" place_of "${before}")
+        string(REGEX REPLACE "(\": \")$" "[${language}]\\1" place_of "${place_of}")
         string(REGEX REPLACE ">$" " xml:lang=\"${language}\">" place_of "${place_of}")
         if(translation)
             string(APPEND done "${place_of}${translation}${after}\n")

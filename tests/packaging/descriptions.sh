@@ -19,13 +19,15 @@ validated_appstream() {
 for entry in "$built"/*.desktop; do
     check desktop-file-validate --no-hints "$entry"
 done
-for template in "$sources"/*.desktop.in "$sources"/*.xml.in; do
-    translated=$(grep -cE '\[[a-zA-Z_]+\]=|xml:lang=' "$built/$(basename "$template" .in)")
+cd "$sources"
+for template in *.desktop.in *.xml.in plasma/*.in; do
+    translated=$(grep -cE '\[[a-zA-Z_]+\](=|":)|xml:lang=' "$built/${template%.in}")
     check [ "$translated" -eq $((10 * $(grep -c 'tr("' "$template"))) ]
 done
+check xmllint --noout tamsel-clock.xml
+check python3 -c 'import json, sys; json.load(open(sys.argv[1]))' "$built/plasma/metadata.json"
 check validated_appstream "$built/org.tamsel.clock.metainfo.xml"
-check xmllint --noout "$sources/tamsel-clock.xml"
-for page in "$sources"/man/*; do
+for page in man/*; do
     check groff -mdoc -Tutf8 -wall -z "$page"
 done
 check bash -n "$sources/completions/tamsel-clock.bash"
