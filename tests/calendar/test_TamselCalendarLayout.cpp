@@ -28,16 +28,6 @@ class TestTamselCalendarLayout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rows()
-    {
-        const std::tuple<QDate, int, int> cases[] = {{{2021, 2, 28}, 0, 4},  // 28 days from Monday
-                                                     {{2024, 9, 30}, 6, 6},  // 30 from Sunday
-                                                     {{2026, 8, 31}, 5, 6}}; // 31 from Saturday
-        for (const auto &[date, lead, rows] : cases) {
-            QCOMPARE(calendarLeadingCells(date), lead);
-            QCOMPARE(TamselCalendarRows(date), rows);
-        }
-    }
 
     void places_data()
     {
@@ -73,15 +63,6 @@ private Q_SLOTS:
             QVERIFY(qAbs(rect.height() - expected.height()) < 0.001);
         }
         QCOMPARE(calendarIsPortrait(size), clock.bottom() < calendar.top());
-    }
-
-    void nothingInNothing()
-    {
-        for (const QSizeF size : {QSizeF(0, 100), QSizeF(100, 0), QSizeF(-5, 100)}) {
-            const auto rects = TamselCalendarLayout(kFiveRows, QRectF(kOrigin, size), 1.0);
-            QCOMPARE(rects.clock, QRectF());
-            QCOMPARE(rects.calendar, QRectF());
-        }
     }
 
     void aloneInTheMiddle()

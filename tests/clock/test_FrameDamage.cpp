@@ -45,15 +45,10 @@ private Q_SLOTS:
             const QTime from(10, 8, second, 113);
             QTest::addRow("second %d", second) << from << from.addMSecs(33) << 1.0;
         }
-        QTest::newRow("upright") << QTime(12, 0, 0, 0) << QTime(12, 0, 0, 33) << 1.0;
-        QTest::newRow("level") << QTime(12, 0, 15, 0) << QTime(12, 0, 15, 33) << 1.0;
         QTest::newRow("new minute") << QTime(10, 8, 59, 990) << QTime(10, 9, 0, 20) << 1.0;
-        QTest::newRow("new hour") << QTime(10, 59, 59, 990) << QTime(11, 0, 0, 20) << 1.0;
         QTest::newRow("midnight") << QTime(23, 59, 59, 990) << QTime(0, 0, 0, 20) << 1.0;
-        QTest::newRow("clock grown") << QTime(10, 8, 30, 0) << QTime() << 1.0;
         QTest::newRow("clock grown, fractional density") << QTime(2, 41, 7) << QTime() << 1.5;
         QTest::newRow("after a stop") << QTime(8, 20, 10) << QTime(17, 41, 47) << 1.0;
-        QTest::newRow("high density") << QTime(10, 8, 36) << QTime(10, 8, 36, 33) << 2.0;
         QTest::newRow("fractional density") << QTime(10, 8, 22) << QTime(10, 8, 22, 33) << 1.5;
     }
 

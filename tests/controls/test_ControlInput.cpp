@@ -97,11 +97,8 @@ private Q_SLOTS:
         QTest::addColumn<double>("to");
         const QPoint still;
         QTest::newRow("up") << int(Qt::Key_Up) << still << 0.5 << 0.51;
-        QTest::newRow("down") << int(Qt::Key_Down) << still << 0.5 << 0.49;
-        QTest::newRow("page up") << int(Qt::Key_PageUp) << still << 0.5 << 0.6;
         QTest::newRow("page down") << int(Qt::Key_PageDown) << still << 0.5 << 0.4;
         QTest::newRow("end") << int(Qt::Key_End) << still << 0.5 << 1.0;
-        QTest::newRow("wheel up") << 0 << QPoint(0, 120) << 0.5 << 0.51;
         QTest::newRow("fine wheel down") << 0 << QPoint(0, -30) << 0.5 << 0.4975;
         QTest::newRow("wheel to the right") << 0 << QPoint(-240, 10) << 0.5 << 0.52;
     }
@@ -139,10 +136,6 @@ private Q_SLOTS:
         control.setVisible(true, true);                             // turns round where it is
         QVERIFY(enabled());
         QVERIFY(qAbs(alphaValue(&control) - (1 - 0.15625)) < 1e-9);
-        clocks.advance(0.28);
-        control.visibilityTimer().tick();
-        QCOMPARE(alphaValue(&control), 1.0);
-
         control.setVisible(false, true);
         clocks.advance(0.28);
         control.visibilityTimer().tick();

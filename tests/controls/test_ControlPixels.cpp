@@ -3,12 +3,9 @@
 #include "controls/PushButton.h"
 #include "controls/Symbol.h"
 #include "controls/TamselGradientSlider.h"
-
 #include "controls/TamselHex.h"
 #include "controls/TamselHexField.h"
 #include "controls/TamselInputFill.h"
-#include "controls/TamselModeControl.h"
-
 #include "controls/TamselSwatchButton.h"
 #include "controls/TamselSymbolButton.h"
 #include "controls/TamselTimeInput.h"
@@ -16,7 +13,6 @@
 #include "controls/TimePicker.h"
 #include "controls/ViewAppearance.h"
 #include "platform/Appearance.h"
-#include "platform/Clocks.h"
 #include "tests/support/ControlPicture.h"
 
 #include <QTest>
@@ -139,17 +135,6 @@ private Q_SLOTS:
         }
     }
 
-    void theRainbowHasManyHues()
-    {
-        TamselSwatchButton swatch;
-        swatch.resize(28, 28);
-        swatch.setRainbow(true);
-        const QImage image = picture(&swatch, 2);
-        QVERIFY(pixelAt(image, 14, 6).hsvSaturation() > 128);
-        QVERIFY(!alike(pixelAt(image, 14, 6), pixelAt(image, 14, 22), 60));
-        QCOMPARE(pixelAt(image, 3.2, 14).alpha(), 0);
-    }
-
     void symbolsAreTintedCentredAndWeighted()
     {
         QVERIFY(Symbol::named(u"no.such.symbol"_s, 13).isNull());
@@ -173,21 +158,6 @@ private Q_SLOTS:
             button.setImage(Symbol::named(name, 13, QFont::DemiBold));
             QVERIFY(inkIn(picture(&button, 4)) > 1.02 * inkIn(image));
         }
-    }
-
-    void modeControlShowsTheOtherSegmentPaler()
-    {
-        TamselModeControl control(platform::systemClocks(), nullptr);
-        control.resize(50, 24);
-        control.setInk(Qt::black);
-        const auto inkOf = [&](int segment) {
-            return inkIn(picture(control.buttons().at(segment), 4));
-        };
-        const double sun = inkOf(0);
-        const double moon = inkOf(1);
-        control.setSelectedSegment(1);
-        QVERIFY(std::abs(inkOf(0) / sun - 0.4) < 0.02);
-        QVERIFY(std::abs(moon / inkOf(1) - 0.4) < 0.02);
     }
 
     void textStandsInTheMiddle()

@@ -164,19 +164,6 @@ private Q_SLOTS:
         QCOMPARE(first.draft(kBaseColorKey), u"#102030"_s);
         QCOMPARE(second.draft(kMarkColorKey), u"#FF00FF"_s);
     }
-
-    void aViewMayGoWithItsEditorOpen()
-    {
-        Fixture f;
-        QVERIFY(f.open());
-        f.click(f.swatch(kBaseColorKey));
-        const auto late = f.popover()->colorChanged;
-        f.popover()->fullPicker();
-        f.view.reset();
-        QVERIFY(!sharedColorPanel().isVisible());
-        late(Qt::yellow);
-        sharedColorPanel().setCurrentColor(Qt::magenta);
-    }
 };
 
 QTEST_MAIN(TestColorEditing)

@@ -81,8 +81,6 @@ private Q_SLOTS:
         QTest::newRow("rows half gone") << false << 0.08 << none << QList<double>{222.0, 0.5};
         QTest::newRow("half of both")
             << true << 0.32 << QList<double>{90.0} << QList<double>{132.0};
-        QTest::newRow("just begun") << true << 0.24 << QList<double>{138.0 - 96.0 * 0.15625}
-                                    << QList<double>{42.0 + 180.0 * 0.15625};
         QTest::newRow("rows half there") << true << 0.56 << none << QList<double>{222.0, 0.5};
         QTest::newRow("done") << true << 60.0 << none << QList<double>{222.0, 1.0};
     }
