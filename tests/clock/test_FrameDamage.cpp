@@ -48,7 +48,6 @@ private Q_SLOTS:
         QTest::newRow("new minute") << QTime(10, 8, 59, 990) << QTime(10, 9, 0, 20) << 1.0;
         QTest::newRow("midnight") << QTime(23, 59, 59, 990) << QTime(0, 0, 0, 20) << 1.0;
         QTest::newRow("clock grown, fractional density") << QTime(2, 41, 7) << QTime() << 1.5;
-        QTest::newRow("after a stop") << QTime(8, 20, 10) << QTime(17, 41, 47) << 1.0;
         QTest::newRow("fractional density") << QTime(10, 8, 22) << QTime(10, 8, 22, 33) << 1.5;
     }
 
