@@ -5,10 +5,9 @@ import csv
 import math
 import statistics
 
-# The start is not watched: fonts, the script engine, the first frames of every kind and, while time is sped up, the
-# texts of the first days come in here.
-WARM_UP_SHARE = 0.3
-WARM_UP_SECONDS = 1200.0
+# The start is not watched: fonts, the script engine and the first frames of every kind come in here.
+WARM_UP_SHARE = 0.2
+WARM_UP_SECONDS = 600.0
 # What certainly grows, by more than the first number in an hour and the second while it was watched, is a fault. Shared
 # memory is shown and not judged: it changes with who else uses the same libraries.
 MEMORY, COUNT = (64.0, 512.0), (0.5, 2.0)
