@@ -28,6 +28,7 @@ void FrameTiles::show(const ClockFrame &frame, double ratio)
         m_memory = OwnFrameMemory(size);
         m_surface.forget();
         m_shown.reset();
+        layPlaces();
     }
     m_ratio = ratio;
     if (isNull())
@@ -39,15 +40,14 @@ void FrameTiles::show(const ClockFrame &frame, double ratio)
     m_shown = frame;
 }
 
-std::vector<QRect> FrameTiles::places() const
+void FrameTiles::layPlaces()
 {
-    std::vector<QRect> places;
+    m_places.clear();
     const QRect whole = m_memory.picture.rect();
     for (int y = 0; y < whole.height(); y += kTileSide) {
         for (int x = 0; x < whole.width(); x += kTileSide)
-            places.push_back(QRect(x, y, kTileSide, kTileSide) & whole);
+            m_places.push_back(QRect(x, y, kTileSide, kTileSide) & whole);
     }
-    return places;
 }
 
 HandStrips FrameTiles::hand()

@@ -36,7 +36,7 @@ public:
     double ratio() const { return m_ratio; }
 
     /// The places of all tiles, row by row.
-    std::vector<QRect> places() const;
+    const std::vector<QRect> &places() const { return m_places; }
     /// Whether the picture of \p place may have changed since the last forgetChanges().
     bool isChanged(const QRect &place) const { return m_changed.intersects(place); }
     void forgetChanges() { m_changed = {}; }
@@ -47,7 +47,10 @@ public:
     HandStrips hand();
 
 private:
+    void layPlaces();
+
     OwnFrameMemory m_memory;
+    std::vector<QRect> m_places;
     FrameSurface m_surface;
     std::optional<ClockFrame> m_shown;
     double m_ratio = 0.0;
